@@ -1,0 +1,41 @@
+# What all targets of the tree are built with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(WIN32)
+  enable_language(RC)
+endif()
+
+add_library(meridex_options INTERFACE)
+target_include_directories(meridex_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(meridex_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+
+if(MERIDEX_SANITIZE)
+  target_compile_options(meridex_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(meridex_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(MERIDEX_FUZZ)
+  target_compile_options(meridex_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  target_link_options(meridex_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(WIN32)
+  # The A-functions throughout: texts are bytes of the system's code page from the file to the screen.
+  target_compile_definitions(meridex_options INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX __USE_MINGW_ANSI_STDIO=0)
+  target_compile_options(meridex_options INTERFACE -ffunction-sections -fdata-sections)
+  target_link_options(meridex_options INTERFACE -static -Wl,--gc-sections)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # Structures as those systems know them; what is newer is looked up at run time.
+    target_compile_definitions(meridex_options INTERFACE _WIN32_WINNT=0x0400 _WIN32_IE=0x0400)
+    target_link_options(meridex_options INTERFACE
+      -Wl,--major-subsystem-version=4,--minor-subsystem-version=0,--major-os-version=4,--minor-os-version=0)
+  endif()
+endif()
+
+# meridex_library(NAME SOURCES... [USES LIBRARIES...]): one library for one folder, the same sources in every build.
+function(meridex_library name)
+  cmake_parse_arguments(LIB "" "" "USES" ${ARGN})
+  add_library(${name} STATIC ${LIB_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PUBLIC meridex_options ${LIB_USES})
+endfunction()

@@ -1,0 +1,57 @@
+#include "basic/convert.h"
+
+#include <charconv>
+#include <limits>
+
+#include "basic/text.h"
+
+namespace basic {
+
+namespace {
+
+constexpr std::int64_t beyond_any_type = std::int64_t{1} << 40;
+
+/// The number of a text of digits behind an optional sign; numbers beyond 40 bits come back as 2 to the power of 40.
+std::int64_t Whole_Number(std::string_view text) {
+  text = Trim_Blanks(text);
+  const bool negative = !text.empty() && text.front() == '-';
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+  if (text.empty()) throw Run_Error(Error_Number::Type_Mismatch);
+  std::int64_t number = 0;
+  for (const char digit : text) {
+    if (digit < '0' || digit > '9') throw Run_Error(Error_Number::Type_Mismatch);
+    if (number < beyond_any_type) number = number * 10 + (digit - '0');
+  }
+  if (number > beyond_any_type) number = beyond_any_type;
+  return negative ? -number : number;
+}
+
+}  // namespace
+
+Int16 To_Int16(std::string_view text) { return Whole_Number(text); }
+
+std::int32_t To_Int32(std::string_view text) {
+  const std::int64_t number = Whole_Number(text);
+  if (number < std::numeric_limits<std::int32_t>::min() || number > std::numeric_limits<std::int32_t>::max())
+    throw Run_Error(Error_Number::Overflow);
+  return static_cast<std::int32_t>(number);
+}
+
+bool To_Boolean(std::string_view text) {
+  const std::string_view word = Trim_Blanks(text);
+  if (Same_Letters(word, "true")) return true;
+  if (Same_Letters(word, "false")) return false;
+  return To_Int32(word) != 0;
+}
+
+std::string To_Text(std::int32_t number) {
+  char digits[16];
+  const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+  return {digits, end};
+}
+
+std::string To_Text(Int16 number) { return To_Text(std::int32_t{number.Value()}); }
+
+std::string To_Text(bool value) { return value ? "True" : "False"; }
+
+}  // namespace basic

@@ -1,0 +1,70 @@
+// The one file number through which the calendar reads and writes all its text files.
+//
+// A procedure opens it, works and closes it. One that fails behind a successful open leaves it taken, and from then on
+// every open fails, until the program is started again: the files are safe from a program that has lost its way.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "basic/run_error.h"
+
+namespace basic {
+
+/// A file that is being written. It is closed when it goes.
+class Output_File {
+ public:
+  Output_File() = default;
+  Output_File(const Output_File&) = delete;
+  Output_File& operator=(const Output_File&) = delete;
+  virtual ~Output_File() = default;
+
+  /// Writes at the end; gives the number of bytes that found room, fewer than asked for when the disk is full.
+  virtual std::size_t Write(std::string_view bytes) = 0;
+
+  /// Cuts the file to its first `size` bytes; a failure is silent.
+  virtual void Cut(std::size_t size) = 0;
+};
+
+/// What the channel needs of the disk.
+class Disk {
+ public:
+  virtual ~Disk() = default;
+
+  /// Reads the whole file in place of what the buffer holds. Throws error 53, 70, 75 or 76.
+  virtual void Read_Whole(const std::string& path, std::string& buffer) = 0;
+
+  /// Empties the file or makes it. Throws error 70, 75 or 76.
+  virtual std::unique_ptr<Output_File> Create(const std::string& path) = 0;
+};
+
+class File_Channel {
+ public:
+  explicit File_Channel(Disk& disk) : disk_(disk) {}
+
+  /// Reads the file whole and takes the number. The bytes stay until the next opening. Throws error 55 while the number
+  /// is taken, and what the disk throws; the number is free then as before.
+  std::string_view Open_For_Reading(const std::string& path);
+
+  /// Empties the file or makes it, and takes the number. Throws as above.
+  void Open_For_Writing(const std::string& path);
+
+  /// Adds a record: the line in double quotes, and CR LF. Throws error 61 on a full disk, and the file then ends behind
+  /// the last record that found room.
+  void Write_Record(std::string_view line);
+
+  /// Writes what is still to be written and frees the number. Throws error 61, and the number stays taken.
+  void Close();
+
+ private:
+  void Flush();
+
+  Disk& disk_;
+  bool taken_ = false;
+  std::string buffer_;  // the file being read, or the records that wait to be written
+  std::unique_ptr<Output_File> output_;
+  std::size_t written_ = 0;
+};
+
+}  // namespace basic

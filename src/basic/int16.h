@@ -1,0 +1,44 @@
+// A signed 16-bit number that never wraps: what doesn't fit it is error 6. The calendar's counters, positions and most
+// of its settings are of this type, and what a user sees of it is that a value too large ends the program instead of
+// showing a wrong date.
+#pragma once
+
+#include <compare>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+
+#include "basic/run_error.h"
+
+namespace basic {
+
+class Int16 {
+ public:
+  constexpr Int16() = default;
+
+  /// Any whole number; throws error 6 outside -32768 to 32767.
+  template <std::integral T>
+  constexpr Int16(T value) : value_(Checked(static_cast<std::int64_t>(value))) {}  // NOLINT: meant to be implicit
+
+  [[nodiscard]] constexpr int Value() const { return value_; }
+
+  constexpr Int16& operator+=(Int16 other) { return *this = *this + other; }
+  constexpr Int16& operator-=(Int16 other) { return *this = *this - other; }
+
+  friend constexpr Int16 operator+(Int16 a, Int16 b) { return a.Value() + b.Value(); }
+  friend constexpr Int16 operator-(Int16 a, Int16 b) { return a.Value() - b.Value(); }
+  friend constexpr Int16 operator*(Int16 a, Int16 b) { return a.Value() * b.Value(); }
+  friend constexpr bool operator==(Int16 a, Int16 b) = default;
+  friend constexpr auto operator<=>(Int16 a, Int16 b) = default;
+
+ private:
+  static constexpr std::int16_t Checked(std::int64_t value) {
+    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max())
+      throw Run_Error(Error_Number::Overflow);
+    return static_cast<std::int16_t>(value);
+  }
+
+  std::int16_t value_ = 0;
+};
+
+}  // namespace basic

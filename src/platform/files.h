@@ -1,0 +1,32 @@
+// Files and folders, by their full paths.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "basic/file_channel.h"
+
+namespace platform {
+
+class Files : public basic::Disk {
+ public:
+  /// Whether a file of that path is there, a folder doesn't count; failures count as no.
+  virtual bool File_Exists(const std::string& path) = 0;
+
+  /// Whether a folder or a file of that path is there; failures count as no.
+  virtual bool Folder_Exists(const std::string& path) = 0;
+
+  /// The names of the files of a folder, sorted without regard to case; throws error 76 if the folder isn't there.
+  virtual std::vector<std::string> File_Names(const std::string& folder) = 0;
+
+  /// Throws error 53, 70 or 75.
+  virtual void Delete(const std::string& path) = 0;
+
+  /// The folder of the executable, without a backslash at its end.
+  virtual std::string Program_Folder() = 0;
+
+  /// The full path of the executable: the program folder, its name and ".exe".
+  virtual std::string Program_Path() = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,25 @@
+// What the user's locale says of dates.
+#pragma once
+
+#include <string>
+
+#include "basic/date_pattern.h"
+
+namespace platform {
+
+class Locale {
+ public:
+  virtual ~Locale() = default;
+
+  /// Names and separators, as they were when the program started.
+  virtual const basic::Date_Words& Words() = 0;
+
+  /// The first day of the locale's week; Sunday where the system has none.
+  virtual basic::Weekday First_Weekday() = 0;
+
+  /// Append the day in the locale's short or long form.
+  virtual void Append_Short_Date(std::string& to, basic::Serial_Day day) = 0;
+  virtual void Append_Long_Date(std::string& to, basic::Serial_Day day) = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,50 @@
+// The registry's own calls: each returns the system's status, 0 for success.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// A predefined key, by its handle value.
+enum class Hive : std::uint32_t {
+  Classes_Root = 0x80000000U,
+  Current_User = 0x80000001U,
+  Local_Machine = 0x80000002U,
+  Users = 0x80000003U,
+  Current_Config = 0x80000005U,
+  Dyn_Data = 0x80000006U,
+};
+
+enum class Key_Access : std::uint32_t { Query_Value = 1, Set_Value = 2, Set_Value_And_Create = 6 };
+enum class Value_Type : std::uint32_t { Text = 1, Binary = 3, Dword = 4 };
+
+constexpr int status_not_found = 2;
+constexpr int status_access_denied = 5;
+constexpr int status_more_data = 234;
+
+class Registry_Keys {
+ public:
+  using Key = std::uintptr_t;
+
+  virtual ~Registry_Keys() = default;
+
+  /// Opens a key that is there.
+  virtual int Open(Hive hive, const std::string& path, Key_Access access, Key& key) = 0;
+
+  /// Opens a key, made if it isn't there, for setting values and making keys below it.
+  virtual int Create(Hive hive, const std::string& path, Key& key) = 0;
+
+  /// Copies the value's bytes to `data`, which has room for `size` of them, and sets `size` to their number. Without
+  /// `data` it gives the size alone, with status 0; with too little room it gives the size and status 234. A text's size
+  /// counts its terminator, which is added to one that was written without.
+  virtual int Query(Key key, const std::string& name, char* data, std::uint32_t& size) = 0;
+
+  virtual int Set(Key key, const std::string& name, Value_Type type, std::string_view bytes) = 0;
+  virtual int Delete_Value(Key key, const std::string& name) = 0;
+  virtual int Flush(Key key) = 0;
+  virtual int Close(Key key) = 0;
+};
+
+}  // namespace platform

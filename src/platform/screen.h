@@ -1,0 +1,25 @@
+// The screen: its size, its density and the part of it that docked bars leave free.
+#pragma once
+
+namespace platform {
+
+struct Pixel_Area {
+  int Left = 0, Top = 0, Width = 0, Height = 0;  ///< pixels
+};
+
+class Screen {
+ public:
+  virtual ~Screen() = default;
+
+  /// The primary screen.
+  virtual Pixel_Area Bounds() = 0;
+
+  /// The work area of the primary screen, asked anew at each call.
+  virtual Pixel_Area Work_Area() = 0;
+
+  /// Twips per pixel across and down: 15 at 96 dots an inch.
+  virtual double Twips_Per_Pixel_X() = 0;
+  virtual double Twips_Per_Pixel_Y() = 0;
+};
+
+}  // namespace platform

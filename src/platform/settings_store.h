@@ -1,0 +1,21 @@
+// The per-user store of the program's preferences: texts by application, section and key.
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+class Settings_Store {
+ public:
+  virtual ~Settings_Store() = default;
+
+  /// The stored text, or the default where the key is absent.
+  virtual std::string Get(const std::string& application, const std::string& section, const std::string& key,
+                          const std::string& default_text) = 0;
+
+  /// Makes or replaces the value; a failure is silent.
+  virtual void Save(const std::string& application, const std::string& section, const std::string& key,
+                    const std::string& text) = 0;
+};
+
+}  // namespace platform

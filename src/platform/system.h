@@ -1,0 +1,38 @@
+// All the services of one platform, as a backend hands them out. Units take the ones they use, never the whole.
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/desktop_shell.h"
+#include "platform/event_loop.h"
+#include "platform/files.h"
+#include "platform/instances.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+#include "platform/pictures.h"
+#include "platform/popup_menu.h"
+#include "platform/profile_files.h"
+#include "platform/registry_keys.h"
+#include "platform/screen.h"
+#include "platform/settings_store.h"
+#include "platform/wallpaper.h"
+
+namespace platform {
+
+struct System {
+  platform::Clock& Clock;
+  platform::Locale& Locale;
+  platform::Files& Files;
+  platform::Event_Loop& Loop;
+  platform::Message_Box& Message_Box;
+  platform::Popup_Menu& Popup_Menu;
+  platform::Settings_Store& Store;
+  platform::Screen& Screen;
+  platform::Instances& Instances;
+  platform::Desktop_Shell& Shell;
+  platform::Registry_Keys& Registry;
+  platform::Profile_Files& Profiles;
+  platform::Wallpaper& Wallpaper;
+  platform::Pictures& Pictures;
+};
+
+}  // namespace platform

@@ -1,0 +1,10 @@
+// A window of the system as the services and the toolkit name it to each other. 0 is no window.
+#pragma once
+
+#include <cstdint>
+
+namespace platform {
+
+using Window_Handle = std::uintptr_t;
+
+}  // namespace platform

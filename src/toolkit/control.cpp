@@ -1,0 +1,37 @@
+#include "toolkit/control.h"
+
+#include <utility>
+
+#include "toolkit/form.h"
+
+namespace toolkit {
+
+Length::operator double() const { return owner_.bounds_.*which_ / owner_.Window.Twips_Per_Unit(axis_); }
+
+Length& Length::operator=(double value) {
+  const double twips = value * owner_.Window.Twips_Per_Unit(axis_);
+  double& kept = owner_.bounds_.*which_;
+  if (kept == twips) return *this;
+  kept = twips;
+  owner_.Changed(Aspect::Bounds);
+  return *this;
+}
+
+Control::Control(Form& window, std::string name, int index)
+    : Name(std::move(name)), Index(index), Window(window), Left(*this, &Bounds::Left, Axis::Across),
+      Top(*this, &Bounds::Top, Axis::Down), Width(*this, &Bounds::Width, Axis::Across),
+      Height(*this, &Bounds::Height, Axis::Down) {
+  Window.Add(*this);
+}
+
+Control::~Control() { Window.Remove(*this); }
+
+void Control::Place(const Bounds& twips) {
+  if (bounds_ == twips) return;
+  bounds_ = twips;
+  Changed(Aspect::Bounds);
+}
+
+void Control::Changed(Aspect aspect) { Window.Control_Changed(*this, aspect); }
+
+}  // namespace toolkit

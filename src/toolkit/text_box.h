@@ -1,0 +1,28 @@
+// A text box of several lines with a vertical scroll bar. Line ends are CR LF.
+#pragma once
+
+#include "toolkit/label.h"
+
+namespace toolkit {
+
+class Text_Box : public Control, public Font_Properties {
+ public:
+  Text_Box(Form& window, std::string name, int index = -1);
+
+  Property<std::string> Text{*this, Aspect::Caption};
+  Property<int> SelStart{*this, Aspect::Selection};   ///< characters before the selection
+  Property<int> SelLength{*this, Aspect::Selection};  ///< characters selected
+
+  /// After each change of the text, by the user or by the program.
+  std::function<void()> On_Change;
+
+  /// What the user typed or pasted: the whole text as the box shows it now.
+  void User_Text(std::string text);
+
+  /// A character typed by the user in place of the selection.
+  void User_Character(std::string_view character);
+
+  void Changed(Aspect aspect) override;
+};
+
+}  // namespace toolkit
