@@ -6,10 +6,10 @@ namespace toolkit {
 
 namespace {
 
-using Rects = std::vector<Pixel_Rect>;
+using Rect_List = std::vector<Pixel_Rect>;
 
 /// All heights at which one of the rectangles begins or ends, sorted, each once.
-std::vector<int> Row_Edges(const Rects& rects) {
+std::vector<int> Row_Edges(const Rect_List& rects) {
   std::vector<int> edges;
   edges.reserve(rects.size() * 2);
   for (const Pixel_Rect& rect : rects) {
@@ -22,12 +22,12 @@ std::vector<int> Row_Edges(const Rects& rects) {
 }
 
 /// The parts of the rectangles between two neighbouring edges, from left to right, those that touch joined.
-Rects Band(const Rects& rects, int top, int bottom) {
-  Rects parts;
+Rect_List Band(const Rect_List& rects, int top, int bottom) {
+  Rect_List parts;
   for (const Pixel_Rect& rect : rects)
     if (rect.Top <= top && rect.Bottom >= bottom) parts.push_back({rect.Left, top, rect.Right, bottom});
   std::sort(parts.begin(), parts.end(), [](const Pixel_Rect& a, const Pixel_Rect& b) { return a.Left < b.Left; });
-  Rects joined;
+  Rect_List joined;
   for (const Pixel_Rect& part : parts) {
     if (!joined.empty() && part.Left <= joined.back().Right)
       joined.back().Right = std::max(joined.back().Right, part.Right);
@@ -38,8 +38,8 @@ Rects Band(const Rects& rects, int top, int bottom) {
 }
 
 /// What of one band isn't in another of the same height.
-Rects Band_Without(const Rects& band, const Rects& holes) {
-  Rects left;
+Rect_List Band_Without(const Rect_List& band, const Rect_List& holes) {
+  Rect_List left;
   for (Pixel_Rect rest : band) {
     for (const Pixel_Rect& hole : holes) {
       if (hole.Right <= rest.Left || hole.Left >= rest.Right) continue;
@@ -60,7 +60,7 @@ Region::Region(std::vector<Pixel_Rect> rects) {
 }
 
 Region Region::Without(const Region& other) const {
-  Rects all = rects_;
+  Rect_List all = rects_;
   all.insert(all.end(), other.rects_.begin(), other.rects_.end());
   const std::vector<int> edges = Row_Edges(all);
   Region result;

@@ -1,0 +1,32 @@
+// The settings and their store together: read once at the start, written key by key when the user changes one.
+#pragma once
+
+#include "platform/settings_store.h"
+#include "settings/setting_keys.h"
+
+namespace settings {
+
+class Stored_Settings {
+ public:
+  explicit Stored_Settings(platform::Settings_Store& store) : store_(store) {}
+
+  Settings Values{};
+
+  /// Reads all keys. Throws error 6 or 13 at a stored text that its variable can't take; nothing is put right.
+  void Load_Settings();
+
+  /// Sets the variable and saves its key.
+  template <class Value, class New_Value>
+  void Set(Value Settings::*variable, const New_Value& value) {
+    Values.*variable = value;
+    Save(variable);
+  }
+
+  /// Saves a variable's key as it stands.
+  void Save(const Member& variable);
+
+ private:
+  platform::Settings_Store& store_;
+};
+
+}  // namespace settings
