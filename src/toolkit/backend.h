@@ -38,6 +38,10 @@ class Form_Peer {
   /// Cuts the window to the region (in pixels from its top left) and repaints it.
   virtual void Set_Region(const Region& region) = 0;
 
+  /// The same with a rectangle from the window's top left that has rounded corners, all in pixels: `corner` is the
+  /// width and height of their ellipses.
+  virtual void Set_Round_Region(int width, int height, int corner) = 0;
+
   [[nodiscard]] virtual bool Minimised() const = 0;
   virtual void Focus(Control& control) = 0;
   [[nodiscard]] virtual platform::Window_Handle Handle() const = 0;

@@ -60,6 +60,10 @@ void Form::Set_Region(const Region& region) {
   if (peer_ != nullptr) peer_->Set_Region(region);
 }
 
+void Form::Set_Round_Region(int width, int height, int corner) {
+  if (peer_ != nullptr) peer_->Set_Round_Region(width, height, corner);
+}
+
 bool Form::Minimised() const { return peer_ != nullptr && peer_->Minimised(); }
 
 void Form::Set_Focus(Control& control) {

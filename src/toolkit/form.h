@@ -29,6 +29,7 @@ class Form : public Property_Owner, public Font_Properties {
   Property<Colour> BackColor{*this, Aspect::Appearance, System_Colour(15)};
   Property<Colour> ForeColor{*this, Aspect::Appearance, System_Colour(18)};
   Property<int> MousePointer{*this, Aspect::Pointer, 0};  ///< 0 the default arrow, 5 the four-headed arrow
+  Property<int> Outline_Corner{*this, Aspect::Appearance, 0};  ///< corner ellipses of a rounded outline in pixels, 0 for none
   Scale_Unit Scale = Scale_Unit::Twips;                   ///< the unit in which the controls' lengths read and write
 
   std::function<void()> On_Load, On_Activate, On_Deactivate, On_Unload, On_Resize, On_Click, On_Close;
@@ -55,6 +56,8 @@ class Form : public Property_Owner, public Font_Properties {
   void Centre_On_Screen();
 
   void Set_Region(const Region& region);
+  /// Cuts the window to a rectangle with rounded corners, in pixels.
+  void Set_Round_Region(int width, int height, int corner);
   [[nodiscard]] bool Minimised() const;
   void Set_Focus(Control& control);
   [[nodiscard]] platform::Window_Handle Handle() const;
@@ -76,6 +79,8 @@ class Form : public Property_Owner, public Font_Properties {
   void Mouse_Move(Mouse_Button button, double x, double y);
   void Mouse_Up(Mouse_Button button, double x, double y);
   void Double_Click(Mouse_Button button, double x, double y);
+  /// The mouse went to another window before the release: a menu or a box came up. No release will follow.
+  void Mouse_Lost() { captured_ = nullptr; }
   void Key_Up(int code) const;
   /// The keys of a dialog: say whether there was a default (cancel) button to press.
   bool Enter_Pressed();
