@@ -1,0 +1,33 @@
+// Today's month of a wallpaper pack, applied: the picture goes to the desktop, and the pack's box style and position for
+// the month to the calendar's state. Whoever calls arranges and places the window by them.
+#pragma once
+
+#include <string>
+
+#include "packs/pack_lookup.h"
+#include "packs/set_wallpaper_mod.h"
+#include "platform/clock.h"
+#include "settings/settings.h"
+#include "state/calendar_state.h"
+
+namespace packs {
+
+class Wallpaper_Stuff {
+ public:
+  Wallpaper_Stuff(Pack_Lookup& packs, Set_Wallpaper_Mod& wallpaper, platform::Clock& clock,
+                  const settings::Settings& settings, state::Calendar_State& state)
+      : packs_(packs), wallpaper_(wallpaper), clock_(clock), settings_(settings), state_(state) {}
+
+  /// Does nothing while packs are off. A pack that fails has told so and leaves the desktop as it is; what was taken of
+  /// it before the failure stays. Throws error 5, 6 or 13 at a value that isn't three numbers, which ends the program.
+  void Get_Wallpaper_Stuff(const std::string& pack_name);
+
+ private:
+  Pack_Lookup& packs_;
+  Set_Wallpaper_Mod& wallpaper_;
+  platform::Clock& clock_;
+  const settings::Settings& settings_;
+  state::Calendar_State& state_;
+};
+
+}  // namespace packs
