@@ -1,0 +1,141 @@
+# shellcheck shell=bash
+# Sourced: Wine for one run of the program, apart from the user's own Wine.
+#
+#   make_golden_prefix                once for all runs, in the cache folder; others wait for the one who makes it
+#   start_display                     a virtual display of its own; sets DISPLAY
+#   copy_prefix FOLDER                a prefix for one run: own registry, shared system folder; sets WINEPREFIX
+#   store_setting SECTION KEY VALUE   a stored setting of the program in that prefix, before it is booted
+#   boot_prefix                       starts its server, on the real clock
+#   on_clock FILE COMMAND...          runs a command on the clock that FILE tells
+#   end_prefix                        ends every program of the prefix
+#
+# What a caller started ends with it: call `trap end_wine EXIT`.
+
+WINE64=${WINE64:-/usr/lib/wine/wine64}
+WINESERVER=${WINESERVER:-/usr/lib/wine/wineserver64}
+faketime_library=/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1
+screen_size=1280x1024
+
+export WINEDEBUG=${WINEDEBUG:--all}
+export WINEDLLOVERRIDES='mscoree,mshtml='
+
+cache_folder=${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/meridex
+golden_prefix=$cache_folder/wine-prefix
+display_process=
+
+# Polls: tries the command every 50 ms until it succeeds; fails after SECONDS.
+#   wait_until SECONDS COMMAND...
+wait_until() {
+  local tries=$(($1 * 20))
+  shift
+  while ! "$@" >/dev/null 2>&1; do
+    ((tries-- > 0)) || return 1
+    sleep 0.05
+  done
+}
+
+start_display() {
+  local file
+  file=$(mktemp)
+  Xvfb -displayfd 7 -screen 0 "${screen_size}x24" -nolisten tcp 7>"$file" >/dev/null 2>&1 &
+  display_process=$!
+  if ! wait_until 20 grep -q . "$file"; then
+    echo "No virtual display came up." >&2
+    return 1
+  fi
+  DISPLAY=:$(cat "$file")
+  export DISPLAY
+  rm -f "$file"
+}
+
+end_display() {
+  [ -n "$display_process" ] || return 0
+  kill "$display_process" 2>/dev/null || true
+  wait "$display_process" 2>/dev/null || true
+  display_process=
+}
+
+# What a golden prefix must have been made by: this recipe's number and the Wine at hand.
+golden_stamp() {
+  echo "recipe 1, $("$WINE64" --version)"
+}
+
+add_value() { # KEY NAME KIND DATA
+  "$WINE64" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 </dev/null
+}
+
+fill_golden_prefix() {
+  export WINEPREFIX=$golden_prefix
+  timeout 180 "$WINE64" wineboot -i >/dev/null 2>&1 </dev/null
+  timeout 60 "$WINESERVER" -w
+  # Debian's Wine looks for its own fonts in a folder where they aren't.
+  cp /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$WINEPREFIX/drive_c/windows/Fonts/"
+  add_value 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
+  # A desktop of Wine's own: without a window manager the keys reach message boxes only there.
+  add_value 'HKCU\Software\Wine\Explorer' Desktop REG_SZ meridex
+  add_value 'HKCU\Software\Wine\Explorer\Desktops' meridex REG_SZ "$screen_size"
+  add_value 'HKCU\Control Panel\Colors' Background REG_SZ '58 110 165'
+  "$WINESERVER" -k || true
+  timeout 60 "$WINESERVER" -w
+}
+
+make_golden_prefix() {
+  local stamp
+  stamp=$(golden_stamp)
+  mkdir -p "$cache_folder"
+  (
+    flock 9
+    [ "$(cat "$golden_prefix/meridex-stamp" 2>/dev/null)" != "$stamp" ] || exit 0
+    echo "Making a Wine prefix in $golden_prefix (once)" >&2
+    (
+      trap end_display EXIT
+      rm -rf "$golden_prefix"
+      mkdir -p "$golden_prefix"
+      start_display
+      fill_golden_prefix
+    ) 9>&-
+    echo "$stamp" >"$golden_prefix/meridex-stamp"
+  ) 9>"$cache_folder/wine-prefix.lock"
+}
+
+copy_prefix() { # FOLDER
+  mkdir -p "$1/drive_c"
+  cp -a "$golden_prefix"/*.reg "$golden_prefix/.update-timestamp" "$golden_prefix/dosdevices" "$1/"
+  cp -a "$golden_prefix/drive_c/users" "$1/drive_c/"
+  ln -s "$golden_prefix/drive_c/windows" "$1/drive_c/windows"
+  export WINEPREFIX=$1
+}
+
+registry_text() { # as it stands between the quotes of a registry file
+  local text=${1//\\/\\\\}
+  printf '%s' "${text//\"/\\\"}"
+}
+
+store_setting() { # SECTION KEY VALUE
+  printf '\n[Software\\\\Meridex\\\\%s] 1\n"%s"="%s"\n' "$(registry_text "$1")" "$(registry_text "$2")" \
+    "$(registry_text "$3")" >>"$WINEPREFIX/user.reg"
+}
+
+boot_prefix() {
+  "$WINESERVER" -p
+  timeout 60 "$WINE64" cmd /c ver >/dev/null 2>&1 </dev/null
+}
+
+# FILE holds '@YYYY-MM-DD HH:MM:SS' for a clock that runs on from there. Timers and the wait for them stay real.
+on_clock() { # FILE COMMAND...
+  local file=$1
+  shift
+  env TZ=UTC LD_PRELOAD="$faketime_library" FAKETIME_TIMESTAMP_FILE="$file" FAKETIME_NO_CACHE=1 \
+    FAKETIME_DONT_FAKE_MONOTONIC=1 NO_FAKE_STAT=1 "$@"
+}
+
+end_prefix() {
+  [ -n "${WINEPREFIX:-}" ] && [ "$WINEPREFIX" != "$golden_prefix" ] || return 0
+  "$WINESERVER" -k 2>/dev/null || true
+  timeout 20 "$WINESERVER" -w 2>/dev/null || true
+}
+
+end_wine() {
+  end_prefix
+  end_display
+}

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# clang-tidy over the native build's sources, or over those given: scripts/lint.sh [FILE]...
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/lib/packages.sh"
+. "$root/scripts/lib/build.sh"
+cd "$root"
+need_packages build lint
+configure native
+if [ $# -eq 0 ]; then
+  mapfile -t files < <(sed -n 's/^ *"file": "\(.*\)".*/\1/p' build/native/compile_commands.json | grep "^$root/" | sort -u)
+  set -- "${files[@]}"
+fi
+printf '%s\0' "$@" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build/native --quiet --warnings-as-errors='*'
