@@ -7,6 +7,7 @@ namespace basic {
 namespace {
 
 constexpr std::string_view half_day_mark = "AM/PM";
+constexpr std::string_view piece_letters = "dmyHhs";
 
 /// Renders one pattern, piece by piece.
 class Renderer {
@@ -22,15 +23,16 @@ class Renderer {
         pattern_.remove_prefix(half_day_mark.size());
         continue;
       }
-      const std::size_t run = Run_Length();
-      const std::string_view piece = pattern_.substr(0, run);
-      pattern_.remove_prefix(run);
+      const std::string_view piece = pattern_.substr(0, Piece_Length());
+      pattern_.remove_prefix(piece.size());
       Render_Piece(piece);
     }
   }
 
  private:
-  [[nodiscard]] std::size_t Run_Length() const {
+  /// How many of the next characters make one piece: letters of the pieces go by runs, all others one by one.
+  [[nodiscard]] std::size_t Piece_Length() const {
+    if (piece_letters.find(pattern_.front()) == std::string_view::npos) return 1;
     const std::size_t end = pattern_.find_first_not_of(pattern_.front());
     return end == std::string_view::npos ? pattern_.size() : end;
   }
@@ -41,8 +43,8 @@ class Renderer {
       behind_hour_ = true;
       return;
     }
-    if (piece.front() == ':') {
-      for (std::size_t i = 0; i < piece.size(); ++i) to_ += words_.Time_Separator;
+    if (piece == ":") {
+      to_ += words_.Time_Separator;
       return;
     }
     if (piece == "mm" && behind_hour_) Append_Number(to_, seconds_ / 60 % 60, 2);
@@ -58,7 +60,7 @@ class Renderer {
     else if (piece == "mm") Append_Number(to_, date_.Month, 2);
     else if (piece == "yyyy") Append_Number(to_, date_.Year, 4);
     else if (piece == "ss") Append_Number(to_, seconds_ % 60, 2);
-    else if (piece.front() == '/') for (std::size_t i = 0; i < piece.size(); ++i) to_ += words_.Date_Separator;
+    else if (piece == "/") to_ += words_.Date_Separator;
     else to_ += piece;
   }
 

@@ -1,16 +1,13 @@
 #include "basic/file_channel.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace basic {
 
 namespace {
 
 constexpr std::size_t flush_size = 65536;
-
-/// The end of the last whole record in the first `size` bytes: records end in a quote and CR LF, and hold no quote.
-std::size_t End_Of_Last_Record(std::string_view records, std::size_t size) {
-  const std::size_t end = records.substr(0, size).rfind("\"\r\n");
-  return end == std::string_view::npos ? 0 : end + 3;
-}
 
 }  // namespace
 
@@ -26,6 +23,7 @@ void File_Channel::Open_For_Writing(const std::string& path) {
   output_ = disk_.Create(path);
   taken_ = true;
   buffer_.clear();
+  record_ends_.clear();
   written_ = 0;
 }
 
@@ -33,6 +31,7 @@ void File_Channel::Write_Record(std::string_view line) {
   buffer_ += '"';
   buffer_ += line;
   buffer_ += "\"\r\n";
+  record_ends_.push_back(buffer_.size());
   if (buffer_.size() >= flush_size) Flush();
 }
 
@@ -45,11 +44,13 @@ void File_Channel::Close() {
 void File_Channel::Flush() {
   const std::size_t room = output_->Write(buffer_);
   if (room < buffer_.size()) {
-    output_->Cut(written_ + End_Of_Last_Record(buffer_, room));
+    const auto end = std::upper_bound(record_ends_.begin(), record_ends_.end(), room);
+    output_->Cut(written_ + (end == record_ends_.begin() ? 0 : *std::prev(end)));
     throw Run_Error(Error_Number::Disk_Full);
   }
   written_ += room;
   buffer_.clear();
+  record_ends_.clear();
 }
 
 }  // namespace basic

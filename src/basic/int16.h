@@ -6,7 +6,7 @@
 #include <compare>
 #include <concepts>
 #include <cstdint>
-#include <limits>
+#include <utility>
 
 #include "basic/run_error.h"
 
@@ -18,7 +18,7 @@ class Int16 {
 
   /// Any whole number; throws error 6 outside -32768 to 32767.
   template <std::integral T>
-  constexpr Int16(T value) : value_(Checked(static_cast<std::int64_t>(value))) {}  // NOLINT: meant to be implicit
+  constexpr Int16(T value) : value_(Checked(+value)) {}  // NOLINT: meant to be implicit
 
   [[nodiscard]] constexpr int Value() const { return value_; }
 
@@ -32,9 +32,9 @@ class Int16 {
   friend constexpr auto operator<=>(Int16 a, Int16 b) = default;
 
  private:
-  static constexpr std::int16_t Checked(std::int64_t value) {
-    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max())
-      throw Run_Error(Error_Number::Overflow);
+  template <std::integral T>
+  static constexpr std::int16_t Checked(T value) {
+    if (!std::in_range<std::int16_t>(value)) throw Run_Error(Error_Number::Overflow);
     return static_cast<std::int16_t>(value);
   }
 
