@@ -1,0 +1,120 @@
+#include "platform/memory/memory_registry.h"
+
+#include <cstring>
+
+#include "basic/text.h"
+
+namespace platform::memory {
+
+namespace {
+
+bool Includes(Key_Access access, Key_Access right) {
+  return (static_cast<std::uint32_t>(access) & static_cast<std::uint32_t>(right)) != 0;
+}
+
+}  // namespace
+
+Memory_Registry::Memory_Registry() { Make(Address_Of(Hive::Current_User, "Control Panel\\Desktop")); }
+
+int Memory_Registry::Open(Hive hive, const std::string& path, Key_Access access, Key& key) {
+  const Address address = Address_Of(hive, path);
+  if (!address.path.empty() && !keys_.contains(address)) return status_not_found;
+  return Enter(address, access, key);
+}
+
+int Memory_Registry::Create(Hive hive, const std::string& path, Key& key) {
+  const Address address = Address_Of(hive, path);
+  const int status = Enter(address, Key_Access::Set_Value_And_Create, key);
+  if (status == 0) Make(address);
+  return status;
+}
+
+int Memory_Registry::Query(Key key, const std::string& name, char* data, std::uint32_t& size) {
+  int status = 0;
+  const Values* const values = Values_Of(key, Key_Access::Query_Value, status);
+  if (values == nullptr) return status;
+  const auto found = values->find(basic::Upper_Case(name));
+  if (found == values->end()) return status_not_found;
+  const std::string& bytes = found->second;
+  const std::uint32_t room = size;
+  size = static_cast<std::uint32_t>(bytes.size());
+  if (data == nullptr) return 0;
+  if (room < size) return status_more_data;
+  std::memcpy(data, bytes.data(), bytes.size());
+  return 0;
+}
+
+int Memory_Registry::Set(Key key, const std::string& name, Value_Type type, std::string_view bytes) {
+  int status = 0;
+  Values* const values = Values_Of(key, Key_Access::Set_Value, status);
+  if (values == nullptr) return status;
+  std::string& value = (*values)[basic::Upper_Case(name)] = bytes;
+  // The system adds the terminator to a text alone, and not to an empty one: that has no byte that could lack it.
+  if (type == Value_Type::Text && !value.empty() && value.back() != '\0') value += '\0';
+  return 0;
+}
+
+int Memory_Registry::Delete_Value(Key key, const std::string& name) {
+  int status = 0;
+  Values* const values = Values_Of(key, Key_Access::Set_Value, status);
+  if (values == nullptr) return status;
+  return values->erase(basic::Upper_Case(name)) == 0 ? status_not_found : 0;
+}
+
+int Memory_Registry::Flush(Key key) { return open_keys_.contains(key) ? 0 : status_invalid_handle; }
+
+int Memory_Registry::Close(Key key) { return open_keys_.erase(key) == 0 ? status_invalid_handle : 0; }
+
+void Memory_Registry::Put(Hive hive, const std::string& path, const std::string& name, const std::string& text) {
+  Make(Address_Of(hive, path))[basic::Upper_Case(name)] = text + '\0';
+}
+
+std::optional<std::string> Memory_Registry::Find(Hive hive, const std::string& path, const std::string& name) const {
+  const auto key = keys_.find(Address_Of(hive, path));
+  if (key == keys_.end()) return std::nullopt;
+  const auto value = key->second.find(basic::Upper_Case(name));
+  if (value == key->second.end()) return std::nullopt;
+  std::string text = value->second;
+  if (!text.empty() && text.back() == '\0') text.pop_back();
+  return text;
+}
+
+void Memory_Registry::Deny(Hive hive, bool denied) {
+  if (denied) denied_.insert(hive);
+  else denied_.erase(hive);
+}
+
+Memory_Registry::Address Memory_Registry::Address_Of(Hive hive, const std::string& path) {
+  return {hive, basic::Upper_Case(path)};
+}
+
+/// Makes a key and all keys above it.
+Memory_Registry::Values& Memory_Registry::Make(const Address& address) {
+  for (std::size_t end = address.path.find('\\'); end != std::string::npos; end = address.path.find('\\', end + 1))
+    keys_[{address.hive, address.path.substr(0, end)}];
+  return keys_[address];
+}
+
+int Memory_Registry::Enter(const Address& address, Key_Access access, Key& key) {
+  if (Includes(access, Key_Access::Set_Value) && denied_.contains(address.hive)) return status_access_denied;
+  key = ++last_key_;
+  open_keys_[key] = {address, access};
+  return 0;
+}
+
+/// The values of an open key, if it was opened with that right; otherwise nothing and the code that says why.
+Memory_Registry::Values* Memory_Registry::Values_Of(Key key, Key_Access right, int& status) {
+  const auto open = open_keys_.find(key);
+  if (open == open_keys_.end()) {
+    status = status_invalid_handle;
+    return nullptr;
+  }
+  const bool writes = right == Key_Access::Set_Value;
+  if (!Includes(open->second.access, right) || (writes && denied_.contains(open->second.address.hive))) {
+    status = status_access_denied;
+    return nullptr;
+  }
+  return &keys_[open->second.address];
+}
+
+}  // namespace platform::memory

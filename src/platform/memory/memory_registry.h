@@ -1,0 +1,65 @@
+// A registry in memory, with the contract of the real one: names count without regard to case, a text written without
+// its terminator gets one, rights are asked when a key is opened. Each hive stands alone, none is a view of another.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+
+#include "platform/registry_keys.h"
+
+namespace platform::memory {
+
+constexpr int status_invalid_handle = 6;
+
+class Memory_Registry : public Registry_Keys {
+ public:
+  /// As on a fresh system: the hives are there, and the current user's "Control Panel\Desktop" without a value.
+  Memory_Registry();
+
+  int Open(Hive hive, const std::string& path, Key_Access access, Key& key) override;
+  int Create(Hive hive, const std::string& path, Key& key) override;
+  int Query(Key key, const std::string& name, char* data, std::uint32_t& size) override;
+  int Set(Key key, const std::string& name, Value_Type type, std::string_view bytes) override;
+  int Delete_Value(Key key, const std::string& name) override;
+  int Flush(Key key) override;
+  int Close(Key key) override;
+
+  /// Puts a text, terminated, and makes its key; whatever is denied.
+  void Put(Hive hive, const std::string& path, const std::string& name, const std::string& text);
+
+  /// The value as a text, without its terminator; nothing if it isn't there.
+  [[nodiscard]] std::optional<std::string> Find(Hive hive, const std::string& path, const std::string& name) const;
+
+  /// Takes the right to write and to delete under a hive away, with code 5, or gives it back.
+  void Deny(Hive hive, bool denied);
+
+  /// How many keys were opened and never closed.
+  [[nodiscard]] std::size_t Open_Keys() const { return open_keys_.size(); }
+
+ private:
+  using Values = std::map<std::string, std::string>;  // bytes by name, the name in capitals
+
+  struct Address {
+    Hive hive;
+    std::string path;  // in capitals
+    auto operator<=>(const Address&) const = default;
+  };
+
+  struct Open_Key {
+    Address address;
+    Key_Access access;
+  };
+
+  static Address Address_Of(Hive hive, const std::string& path);
+  Values& Make(const Address& address);
+  int Enter(const Address& address, Key_Access access, Key& key);
+  Values* Values_Of(Key key, Key_Access right, int& status);
+
+  std::map<Address, Values> keys_;
+  std::map<Key, Open_Key> open_keys_;
+  std::set<Hive> denied_;
+  Key last_key_ = 0;
+};
+
+}  // namespace platform::memory
