@@ -1,0 +1,31 @@
+// Popup menus that are answered by a list made up in advance, and remembered.
+#pragma once
+
+#include <deque>
+#include <utility>
+
+#include "platform/popup_menu.h"
+
+namespace platform::memory {
+
+class Memory_Menu : public Popup_Menu {
+ public:
+  /// Takes the next prepared number; 0 for none, and for one that is grey or isn't in the menu.
+  int Track(Window_Handle owner, const std::vector<Menu_Item>& items) override;
+
+  void Prepare(int number) { prepared_.push_back(number); }
+
+  struct Shown {
+    Window_Handle Owner;
+    std::vector<Menu_Item> Items;
+  };
+
+  /// The menus since the last call.
+  std::vector<Shown> Take_Shown() { return std::exchange(shown_, {}); }
+
+ private:
+  std::deque<int> prepared_;
+  std::vector<Shown> shown_;
+};
+
+}  // namespace platform::memory
