@@ -117,7 +117,7 @@ store_setting() { # SECTION KEY VALUE
 }
 
 boot_prefix() {
-  "$WINESERVER" -p
+  "$WINESERVER" -p60  # it goes by itself if a run is cut off
   timeout 60 "$WINE64" cmd /c ver >/dev/null 2>&1 </dev/null
 }
 

@@ -1,0 +1,228 @@
+"""The program on a screen of its own, with its files, settings and clock, and the frame of each test."""
+import datetime
+import json
+import os
+import pathlib
+import shutil
+import signal
+import tempfile
+import unittest
+from typing import NamedTuple
+
+from . import geometry
+from .prefix import ROOT, Prefix
+from .screen import HEIGHT, WIDTH, Screen
+from .waiting import wait_for
+
+BUILD = ROOT / "build/windows-x64"
+PICTURES = ROOT / "build/desktop-pictures"  # where a failed test leaves what it saw last
+PROGRAM = "meridex.exe"
+WHOLE_SCREEN = (0, 0, WIDTH, HEIGHT)
+
+# The ground of the virtual desktop, as scripts/lib/wine.sh sets it.
+DESKTOP_COLOUR = (58, 110, 165)
+WHITE = (255, 255, 255)
+
+
+class Message_Box(NamedTuple):
+    title: str
+    text: str
+    buttons: list
+    rect: geometry.Rect
+
+
+def record(line):
+    """An event as it stands in the file."""
+    return b'"' + line.encode("cp1252") + b'"\r\n'
+
+
+class Desktop:
+    def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB"):
+        """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values."""
+        self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, **(settings or {})}
+        self.now = datetime.datetime.fromisoformat(now)
+        self.programs = []
+        self._temporary = tempfile.mkdtemp(prefix="meridex-")
+        self.screen = Screen()
+        try:
+            self.prefix = Prefix(pathlib.Path(self._temporary, "prefix"), self.screen.environment, language)
+            self.folder = self.prefix.drive / "Meridex"
+            self.folder.mkdir()
+            (program,) = BUILD.glob(f"src/**/{PROGRAM}")
+            shutil.copy2(program, self.folder)
+            if data is not None or events:
+                self.data_file.write_bytes(data if data is not None else b"".join(record(line) for line in events))
+            self.prefix.preset("Software\\Meridex\\Settings", self.settings)
+            if colours:
+                self.prefix.preset("Software\\Meridex\\Colours", colours)
+            self.prefix.boot()
+            self.prefix.set_clock(now)
+            self.screen.rest_pointer()
+        except BaseException:
+            self.close()
+            raise
+
+    def close(self):
+        if hasattr(self, "prefix"):
+            self.prefix.end()
+        for program in self.programs:
+            program.kill()
+            program.wait(20)
+        self.screen.close()
+        shutil.rmtree(self._temporary, ignore_errors=True)
+
+    # The program
+
+    @property
+    def data_file(self):
+        return self.folder / "calendar.dat"
+
+    def start(self):
+        """Starts the program, a further time too; returns its process without waiting for its window."""
+        self.programs.append(self.prefix.start(f"C:\\Meridex\\{PROGRAM}"))
+        return self.programs[-1]
+
+    def exit_status(self, program, seconds=15):
+        """Waits for the end of a started program."""
+        return program.wait(seconds)
+
+    def set_clock(self, moment):
+        self.prefix.set_clock(moment)
+
+    def stored(self, section, key):
+        """A setting as the program has stored it."""
+        return self.prefix.registry_value(f"HKCU\\Software\\Meridex\\{section}", key)
+
+    # Windows
+
+    def windows(self):
+        return self.screen.windows(PROGRAM)
+
+    def calendar_window(self):
+        """The calendar's window if it is on the screen: the one without a title bar that bears the program's name."""
+        return next((window for window in self.windows() if window.title == "Meridex" and not window.framed), None)
+
+    def calendar(self):
+        """Waits until the calendar stands on the screen; returns its place."""
+        window = wait_for(self.calendar_window, "the calendar on the screen")
+        self.screen.picture_at_rest()
+        return window.rect
+
+    def started(self):
+        """Starts the program and waits for the calendar; returns its place."""
+        self.start()
+        return self.calendar()
+
+    def framed_window(self, title):
+        return next((window for window in self.windows() if window.title == title and window.framed), None)
+
+    def find_window(self, title, seconds=15):
+        """Waits for a window with a title bar, such as the editor."""
+        return wait_for(lambda: self.framed_window(title), f'a window "{title}"', seconds)
+
+    def window_gone(self, title):
+        wait_for(lambda: self.framed_window(title) is None, f'the end of the window "{title}"')
+
+    def probe(self):
+        """All top windows of the prefix with their children, as they see themselves; see probe.cpp."""
+        status, output = self.prefix.run(f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\"))
+        assert status == 0, "the probe didn't run"
+        return [json.loads(line) for line in output.decode("latin-1").splitlines() if line.startswith("{")]
+
+    def message_box(self, title="Meridex"):
+        """Waits for a message box and reads it."""
+        self.find_window(title)
+
+        def read():
+            for window in self.probe():
+                if window["class"] == "#32770" and window["text"] == title and window["visible"]:
+                    children = window["children"]
+                    texts = [child["text"] for child in children if child["class"] == "Static" and child["text"]]
+                    buttons = [child["text"].replace("&", "") for child in children if child["class"] == "Button"]
+                    if texts and buttons:
+                        return Message_Box(title, texts[-1], buttons, geometry.Rect(*window["rect"]))
+            return None
+
+        return wait_for(read, f'the text of the message box "{title}"')
+
+    def answer(self, key, title="Meridex"):
+        """Presses a key in a message box and waits until it is gone."""
+        self.screen.key(key)
+        self.window_gone(title)
+
+    def menu_choose(self, number):
+        """Chooses an item of the open popup menu, counted from 1; separators and grey items don't count."""
+        wait_for(lambda: any(window.title == "" and not window.framed for window in self.windows()), "a menu")
+        self.screen.picture_at_rest()
+        self.screen.key(*["Down"] * number, "Return")
+
+    # Places on the screen
+
+    def layout(self, year=None, month=None):
+        """The layout that the settings ask for, of the present month if no other is given."""
+        return geometry.Layout(self.settings["Style"], year or self.now.year, month or self.now.month,
+                               self.settings["Start Day"])
+
+    def place(self, layout=None, area=WHOLE_SCREEN):
+        """Where the calendar must stand."""
+        layout = layout or self.layout()
+        manual = self.settings.get("Manual_PosX", 0), self.settings.get("Manual_PosY", 0)
+        left, top = geometry.placed(self.settings["Alignment"], layout.window_twips, area, manual)
+        width, height = layout.window_size
+        return geometry.Rect(left, top, left + width, top + height)
+
+    def on_screen(self, rect, layout=None):
+        """A rectangle of the calendar's window as one of the screen."""
+        place = self.place(layout)
+        return rect.moved(place.left, place.top)
+
+    def box_rect(self, day, layout=None):
+        layout = layout or self.layout()
+        return self.on_screen(layout.box_rect(layout.box_of(day)), layout)
+
+    def caption_rect(self, day, layout=None):
+        layout = layout or self.layout()
+        return self.on_screen(layout.caption_rect(layout.box_of(day)), layout)
+
+    def number_rect(self, day, layout=None):
+        layout = layout or self.layout()
+        return self.on_screen(layout.number_rect(layout.box_of(day)), layout)
+
+
+class Desktop_Test(unittest.TestCase):
+    """A test with a desktop. A failed one leaves its screen in build/desktop-pictures."""
+    LONGEST = 100  # seconds
+
+    def setUp(self):
+        self._desktop = None
+        signal.signal(signal.SIGALRM, self._too_long)
+        signal.signal(signal.SIGTERM, self._too_long)
+        signal.alarm(self.LONGEST)
+        self.addCleanup(signal.alarm, 0)
+
+    @staticmethod
+    def _too_long(number, _frame):
+        raise AssertionError(f"cut off by {signal.Signals(number).name}")
+
+    def desktop(self, **world):
+        self._desktop = Desktop(**world)
+        self.addCleanup(self._desktop.close)
+        return self._desktop
+
+    def _callTestMethod(self, method):
+        try:
+            super()._callTestMethod(method)
+        except BaseException:
+            self._keep_picture()
+            raise
+
+    def _keep_picture(self):
+        if self._desktop is None:
+            return
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        path = PICTURES / f"{self._testMethodName}.png"
+        self._desktop.screen.picture().save(path)
+        print(f"The screen is in {os.path.relpath(path, ROOT)}")
+
+    def assert_near(self, one, other, tolerance=1, what=""):
+        self.assertTrue(all(abs(a - b) <= tolerance for a, b in zip(one, other)), f"{what}: {one}, not {other}")

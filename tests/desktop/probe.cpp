@@ -1,0 +1,80 @@
+// A look at the windows of a prefix from inside: what screenshots can't tell, such as the text of a message box.
+//
+//   desktop_probe              one JSON object a line for each top window, with its child windows
+//   desktop_probe post WINDOW MESSAGE WPARAM LPARAM
+//
+// Texts are the bytes of the code page, each above 0x7E as \u00XX.
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+void Print_Text(const char* text) {
+  std::putchar('"');
+  for (; *text != '\0'; ++text) {
+    const auto byte = static_cast<unsigned char>(*text);
+    if (byte < 0x20 || byte > 0x7E || byte == '"' || byte == '\\') std::printf("\\u%04x", unsigned{byte});
+    else std::putchar(byte);
+  }
+  std::putchar('"');
+}
+
+// Everything of a window but its children.
+void Print_Window(HWND window) {
+  char name[256] = "";
+  char text[65536] = "";
+  DWORD process = 0;
+  RECT place{};
+  DWORD_PTR length = 0;
+  GetClassNameA(window, name, sizeof name);
+  SendMessageTimeoutA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG, 2000, &length);
+  GetWindowThreadProcessId(window, &process);
+  GetWindowRect(window, &place);
+  std::printf("\"handle\":%lld,\"process\":%lu,\"id\":%d,", static_cast<long long>(reinterpret_cast<LONG_PTR>(window)),
+              process, static_cast<int>(GetDlgCtrlID(window)));
+  std::printf("\"rect\":[%ld,%ld,%ld,%ld],", place.left, place.top, place.right, place.bottom);
+  std::printf("\"visible\":%s,\"enabled\":%s,", IsWindowVisible(window) ? "true" : "false",
+              IsWindowEnabled(window) ? "true" : "false");
+  std::printf("\"style\":%lld,\"ex_style\":%lld,", static_cast<long long>(GetWindowLongPtrA(window, GWL_STYLE)),
+              static_cast<long long>(GetWindowLongPtrA(window, GWL_EXSTYLE)));
+  std::printf("\"active\":%s,\"class\":", GetForegroundWindow() == window ? "true" : "false");
+  Print_Text(name);
+  std::printf(",\"text\":");
+  Print_Text(text);
+}
+
+BOOL CALLBACK Print_Child(HWND window, LPARAM first) {
+  auto* const is_first = reinterpret_cast<bool*>(first);
+  std::printf(*is_first ? "{" : ",{");
+  *is_first = false;
+  Print_Window(window);
+  std::printf("}");
+  return TRUE;
+}
+
+BOOL CALLBACK Print_Top_Window(HWND window, LPARAM) {
+  bool first = true;
+  std::printf("{");
+  Print_Window(window);
+  std::printf(",\"children\":[");
+  EnumChildWindows(window, Print_Child, reinterpret_cast<LPARAM>(&first));
+  std::printf("]}\n");
+  return TRUE;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count == 6 && std::strcmp(arguments[1], "post") == 0) {
+    const auto window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::atoll(arguments[2])));
+    return PostMessageA(window, static_cast<UINT>(std::atoi(arguments[3])), static_cast<WPARAM>(std::atoll(arguments[4])),
+                        static_cast<LPARAM>(std::atoll(arguments[5])))
+               ? 0
+               : 1;
+  }
+  EnumWindows(Print_Top_Window, 0);
+  return 0;
+}
