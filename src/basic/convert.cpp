@@ -12,7 +12,7 @@ namespace {
 constexpr std::int64_t beyond_any_type = std::int64_t{1} << 40;
 
 /// The number of a text of digits behind an optional sign; numbers beyond 40 bits come back as 2 to the power of 40.
-std::int64_t Whole_Number(std::string_view text) {
+std::int64_t Number_Of_Digits(std::string_view text) {
   text = Trim_Blanks(text);
   const bool negative = !text.empty() && text.front() == '-';
   if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
@@ -28,10 +28,10 @@ std::int64_t Whole_Number(std::string_view text) {
 
 }  // namespace
 
-Int16 To_Int16(std::string_view text) { return Whole_Number(text); }
+Int16 To_Int16(std::string_view text) { return Number_Of_Digits(text); }
 
 std::int32_t To_Int32(std::string_view text) {
-  const std::int64_t number = Whole_Number(text);
+  const std::int64_t number = Number_Of_Digits(text);
   if (number < std::numeric_limits<std::int32_t>::min() || number > std::numeric_limits<std::int32_t>::max())
     throw Run_Error(Error_Number::Overflow);
   return static_cast<std::int32_t>(number);

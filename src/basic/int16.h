@@ -12,12 +12,16 @@
 
 namespace basic {
 
+/// Whole numbers, and the unscoped enumerations that name some of them.
+template <class T>
+concept Whole_Number = std::convertible_to<T, std::int64_t> && (std::integral<T> || std::is_enum_v<T>);
+
 class Int16 {
  public:
   constexpr Int16() = default;
 
   /// Any whole number; throws error 6 outside -32768 to 32767.
-  template <std::integral T>
+  template <Whole_Number T>
   constexpr Int16(T value) : value_(Checked(+value)) {}  // NOLINT: meant to be implicit
 
   [[nodiscard]] constexpr int Value() const { return value_; }
@@ -32,7 +36,7 @@ class Int16 {
   friend constexpr auto operator<=>(Int16 a, Int16 b) = default;
 
  private:
-  template <std::integral T>
+  template <Whole_Number T>
   static constexpr std::int16_t Checked(T value) {
     if (!std::in_range<std::int16_t>(value)) throw Run_Error(Error_Number::Overflow);
     return static_cast<std::int16_t>(value);

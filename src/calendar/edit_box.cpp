@@ -1,0 +1,57 @@
+#include "calendar/edit_box.h"
+
+#include "basic/convert.h"
+#include "basic/text.h"
+#include "calendar/title_text.h"
+
+namespace calendar {
+
+Edit_Box::Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid,
+                   platform::Locale& locale, platform::Message_Box& message_box, state::Calendar_State& calendar)
+    : editor_(editor), event_file_(event_file), grid_(grid), locale_(locale), message_box_(message_box),
+      calendar_(calendar) {}
+
+void Edit_Box::Open(basic::Int16 index) {
+  const std::string long_date = Long_Date(grid_.Day_Of_Box(index));
+  editor_.Window.Load();
+  if (!Settle_Unsaved_Text()) {
+    editor_.Window.Set_Focus(editor_.Message_Txt);
+    return;
+  }
+  Fill(index);
+  editor_.Date_Lbl.Caption = long_date;
+  editor_.Window.Show();
+  editor_.Window.Set_Focus(editor_.Message_Txt);
+  editor_.Message_Txt.SelStart = 0;
+  editor_.Message_Txt.SelLength = static_cast<int>(editor_.Message_Txt.Text().size());
+}
+
+bool Edit_Box::Settle_Unsaved_Text() {
+  if (!editor_.Apply_Btn.Enabled || editor_.Date_Lbl.Caption == "") return true;
+  // The title isn't the program's name, and that is meant so.
+  const auto answer = message_box_.Show("Desktop Wallpaper", "Save changes for the " + editor_.Date_Lbl.Caption() + "?",
+                                        platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
+  if (answer == platform::Box_Answer::Cancel) return false;
+  if (answer == platform::Box_Answer::Yes) editor_.Apply_Btn_Click();
+  return true;
+}
+
+void Edit_Box::Fill(basic::Int16 index) {
+  const basic::Int16 day = grid_.Day_Of_Box(index);
+  calendar_.Current_Box = index;
+  calendar_.Selected_Date = events::Date_Key(day, calendar_.View_Month, calendar_.View_Year);
+  editor_.Window.Load();
+  editor_.Message_Txt.Text = "";
+  editor_.Message_Txt.Text = basic::Single_Ampersands(event_file_.Get_Message(true));
+  editor_.Apply_Btn.Enabled = false;
+}
+
+std::string Edit_Box::Long_Date(basic::Int16 day) const {
+  const basic::Serial_Day serial =
+      basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), day.Value());
+  const basic::Date_Words& words = locale_.Words();
+  return words.Weekday_Name(basic::Weekday_Of(serial)) + " " + basic::To_Text(day) + Get_Suffix(day) + " " +
+         words.Month_Name(calendar_.View_Month.Value()) + " " + basic::To_Text(calendar_.View_Year);
+}
+
+}  // namespace calendar

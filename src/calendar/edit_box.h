@@ -1,0 +1,32 @@
+// The opening of the event editor on a day.
+#pragma once
+
+#include "calendar/month_grid.h"
+#include "editor/edit_frm.h"
+
+namespace calendar {
+
+class Edit_Box {
+ public:
+  Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, platform::Locale& locale,
+           platform::Message_Box& message_box, state::Calendar_State& calendar);
+
+  /// Fills the editor with the event of a box of the month on view and shows it; asks first if the editor holds unsaved
+  /// text of another day.
+  void Open(basic::Int16 index);
+
+ private:
+  /// Says whether the editor may be filled anew.
+  bool Settle_Unsaved_Text();
+  void Fill(basic::Int16 index);
+  [[nodiscard]] std::string Long_Date(basic::Int16 day) const;
+
+  editor::Edit_Frm& editor_;
+  events::Event_File& event_file_;
+  Month_Grid& grid_;
+  platform::Locale& locale_;
+  platform::Message_Box& message_box_;
+  state::Calendar_State& calendar_;
+};
+
+}  // namespace calendar

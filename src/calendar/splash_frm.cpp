@@ -1,0 +1,44 @@
+#include "calendar/splash_frm.h"
+
+namespace calendar {
+
+namespace {
+
+constexpr int shown_for = 1500;  // milliseconds
+constexpr double width = 5610;
+constexpr double height = 1335;
+
+}  // namespace
+
+Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arrangement)
+    : Window(backend, "Splash_Frm"), Image1(Window, "Image1"), Label9(Window, "Label9"), arrangement_(arrangement),
+      start_timer_(backend, "Start_Timer", shown_for) {
+  Window.Width = width;
+  Window.Height = height;
+  Window.BackColor = toolkit::white;
+  Image1.Place({360, 308, 720, 720});
+  Image1.Picture = platform::Stock_Picture::Program_Icon;
+  Label9.Place({1365, 368, 3900, 600});
+  Label9.Caption = "Meridex";
+  Label9.FontName = "Arial";
+  Label9.FontSize = 24.0;
+  Label9.FontBold = true;
+  Label9.Transparent = true;
+  Window.On_Load = [this] { Load(); };
+  Window.On_Unload = [this] { start_timer_.Disable(); };
+  start_timer_.On_Tick = [this] {
+    start_timer_.Disable();
+    Window.Unload();
+  };
+}
+
+/// In the middle of the calendar as it stands, its place down following the box style in force.
+void Splash_Frm::Load() {
+  const toolkit::Form& main = arrangement_.Main_Frm;
+  const int beside = toolkit::Round_To_Even(main.Width - Window.Width) / 2;
+  const int half_way = toolkit::Round_To_Even(arrangement_.Box_Lbl[36].In_Twips().Top) / 2;
+  Window.Move(main.Left + beside, main.Top + half_way + Window.Height);
+  start_timer_.Enable();
+}
+
+}  // namespace calendar

@@ -1,0 +1,27 @@
+// The splash: shown for a moment at the start, over the calendar.
+#pragma once
+
+#include "presentation/arrangement.h"
+#include "toolkit/timer.h"
+
+namespace calendar {
+
+class Splash_Frm {
+ public:
+  Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arrangement);
+
+  toolkit::Form Window;
+  toolkit::Image Image1;
+  toolkit::Label Label9;
+
+  /// Shows it; it goes by itself after 1500 milliseconds.
+  void Show() { Window.Show(false); }
+
+ private:
+  void Load();
+
+  presentation::Arrangement& arrangement_;
+  toolkit::Timer start_timer_;
+};
+
+}  // namespace calendar

@@ -1,0 +1,80 @@
+#include "calendar/title_text.h"
+
+#include "basic/date_pattern.h"
+#include "presentation/box_style.h"
+
+namespace calendar {
+
+const char* Get_Suffix(basic::Int16 day) {
+  const int number = day.Value();
+  if (number >= 11 && number <= 13) return "th";
+  switch (number % 10) {
+    case 1: return "st";
+    case 2: return "nd";
+    case 3: return "rd";
+    default: return "th";
+  }
+}
+
+Title_Text::Title_Text(platform::Clock& clock, platform::Locale& locale, const settings::Settings& settings,
+                       const state::Calendar_State& calendar)
+    : clock_(clock), locale_(locale), settings_(settings), calendar_(calendar) {}
+
+const std::string& Title_Text::Get_Bar_Text() {
+  const basic::Moment now = clock_.Now();
+  const int today = basic::Civil_From_Serial(now.Day).Day;
+  const basic::Moment day_of_view{
+      basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), today), 0};
+  text_.clear();
+  if (presentation::Small_Style(settings_)) {
+    Append_Month_And_Year(day_of_view);
+    return text_;
+  }
+  if (day_of_view.Day != now.Day) {
+    text_ += locale_.Words().Month_Name(calendar_.View_Month.Value());
+    text_ += " - ";
+    basic::Append_Number(text_, calendar_.View_Year.Value());
+    return text_;
+  }
+  if (settings_.Bar_Time) {
+    basic::Append_Date(text_, now, settings_.Bar_Time_Format, locale_.Words());
+    text_ += " - ";
+  }
+  Append_Date(now, day_of_view);
+  return text_;
+}
+
+void Title_Text::Append_Date(const basic::Moment& now, const basic::Moment& day_of_view) {
+  const std::string& format = settings_.Bar_Date_Format;
+  const basic::Date_Words& words = locale_.Words();
+  if (format == "Use System Format") {
+    locale_.Append_Long_Date(text_, day_of_view.Day);
+  } else if (format == "mm/yyyy" || format == "dd/mm/yyyy") {
+    basic::Append_Date(text_, day_of_view, format, words);
+  } else if (format == "Month - yyyy") {
+    Append_Month_And_Year(day_of_view);
+  } else if (format == "d Month - yyyy") {
+    Append_Day_With_Suffix(day_of_view.Day);
+    Append_Month_And_Year(day_of_view);
+  } else if (format == "Weekday - d month - yyyy") {
+    basic::Append_Date(text_, now, "dddd", words);
+    text_ += ' ';
+    Append_Day_With_Suffix(day_of_view.Day);
+    Append_Month_And_Year(day_of_view);
+  }
+}
+
+void Title_Text::Append_Month_And_Year(const basic::Moment& day_of_view) {
+  text_ += locale_.Words().Month_Name(calendar_.View_Month.Value());
+  text_ += " - ";
+  basic::Append_Date(text_, day_of_view, "yyyy", locale_.Words());
+}
+
+void Title_Text::Append_Day_With_Suffix(basic::Serial_Day day) {
+  const int number = basic::Civil_From_Serial(day).Day;
+  basic::Append_Number(text_, number);
+  text_ += Get_Suffix(number);
+  text_ += ' ';
+}
+
+}  // namespace calendar

@@ -1,0 +1,117 @@
+#include "events/event_file.h"
+
+#include "basic/record_reader.h"
+#include "basic/text.h"
+#include "events/event_line.h"
+
+namespace events {
+
+namespace {
+
+constexpr const char* loading_failed = "Error loading in data file.";
+constexpr const char* saving_failed = "Error saving data file.";
+
+}  // namespace
+
+Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
+                       const state::Calendar_State& calendar, Editor_Input& editor)
+    : files_(files), channel_(channel), message_box_(message_box), calendar_(calendar), editor_(editor),
+      path_(files.Program_Folder() + "\\calendar.dat") {}
+
+void Event_File::Load_File() {
+  if (!files_.File_Exists(path_)) return;
+  try {
+    temp_lst_.Clear();
+    basic::Record_Reader reader(channel_.Open_For_Reading(path_));
+    std::string_view record;
+    while (reader.Next(record)) temp_lst_.Append(record);
+    channel_.Close();
+  } catch (const basic::Run_Error&) {
+    Report_Failure(loading_failed);
+  }
+}
+
+void Event_File::Load_Dates() {
+  Clear_Tooltips();
+  if (!files_.File_Exists(path_)) return;
+  try {
+    basic::Record_Reader reader(channel_.Open_For_Reading(path_));
+    std::string_view record;
+    while (reader.Next(record)) Enter_Date(record);
+    channel_.Close();
+  } catch (const basic::Run_Error&) {
+    Report_Failure(loading_failed);
+  }
+}
+
+std::string Event_File::Get_Message(bool set_every_year) {
+  std::string message;
+  if (!files_.File_Exists(path_)) return message;
+  try {
+    const std::string every_year_form = Every_Year_Form(calendar_.Selected_Date);
+    basic::Record_Reader reader(channel_.Open_For_Reading(path_));
+    std::string_view record;
+    while (reader.Next(record)) {
+      const auto [date, text] = basic::Split_At_First(record, '=');
+      if (date == every_year_form) {
+        message = text;
+        if (set_every_year) editor_.Tick_Every_Year();
+      } else if (date == calendar_.Selected_Date) {
+        message = text;
+      }
+    }
+    channel_.Close();
+  } catch (const basic::Run_Error&) {
+    Report_Failure(loading_failed);
+  }
+  return message;
+}
+
+void Event_File::Check_For_Pre(const std::string& text) {
+  const std::string every_year_form = Every_Year_Form(calendar_.Selected_Date);
+  for (basic::Int16 i = 0; i < temp_lst_.Count(); i += 1) {
+    const std::string_view date = basic::Split_At_First(temp_lst_.Line(i), '=').left;
+    if (date != every_year_form && date != calendar_.Selected_Date) continue;
+    if (text.empty()) temp_lst_.Remove(i);
+    else temp_lst_.Replace(i, Key_To_Write() + "=" + text);
+    Write_ALL();
+    return;
+  }
+  Write_New_Line();
+}
+
+void Event_File::Write_ALL() {
+  try {
+    channel_.Open_For_Writing(path_);
+    Write_Temp_Lst();
+    channel_.Close();
+  } catch (const basic::Run_Error&) {
+    Report_Failure(saving_failed);
+  }
+}
+
+void Event_File::Write_New_Line() {
+  if (editor_.Message_Text().empty()) return;
+  try {
+    channel_.Open_For_Writing(path_);
+    Write_Temp_Lst();
+    channel_.Write_Record(Key_To_Write() + "=" + basic::Double_Ampersands(editor_.Message_Text()));
+    channel_.Close();
+  } catch (const basic::Run_Error&) {
+    Report_Failure(saving_failed);
+  }
+}
+
+void Event_File::Write_Temp_Lst() {
+  for (basic::Int16 i = 0; i < temp_lst_.Count(); i += 1) channel_.Write_Record(temp_lst_.Line(i));
+}
+
+std::string Event_File::Key_To_Write() const {
+  return editor_.Every_Year() ? Every_Year_Form(calendar_.Selected_Date) : calendar_.Selected_Date;
+}
+
+void Event_File::Report_Failure(const char* text) {
+  message_box_.Show("ERROR", text, platform::Box_Icon::Critical, platform::Box_Buttons::OK);
+}
+
+}  // namespace events

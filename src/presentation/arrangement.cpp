@@ -1,0 +1,82 @@
+#include "presentation/arrangement.h"
+
+namespace presentation {
+
+namespace {
+
+constexpr toolkit::Colour first_back_colour = 0x4B4B4B;
+
+void Set_Title_Font(toolkit::Label& label) {
+  label.FontName = "Arial";
+  label.FontSize = 9.75;
+  label.FontBold = true;
+  label.FontItalic = true;
+}
+
+}  // namespace
+
+Arrangement::Arrangement(toolkit::Backend& backend)
+    : Main_Frm(backend, "Main_Frm"), Box_Lbl(Main_Frm, "Box_Lbl", box_count),
+      Box_Caption_Lbl(Main_Frm, "Box_Caption_Lbl", box_count), Day_Lbl(Main_Frm, "Day_Lbl", days_of_week),
+      Prev_Month_Lbl(Main_Frm, "Prev_Month_Lbl"), Which_Month_Lbl(Main_Frm, "Which_Month_Lbl"),
+      Next_Month_Lbl(Main_Frm, "Next_Month_Lbl"), DotDotDot_Lbl(Main_Frm, "DotDotDot_Lbl"),
+      Clear_Pic(Main_Frm, "Clear_Pic"), File_Pic(Main_Frm, "File_Pic"), Settings_Pic(Main_Frm, "Settings_Pic"),
+      Exit_Pic(Main_Frm, "Exit_Pic"),
+      title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0], &Day_Lbl[1],
+                 &Day_Lbl[2],     &Day_Lbl[3],      &Day_Lbl[4],     &Day_Lbl[5], &Day_Lbl[6]} {
+  Main_Frm.Caption = "Meridex";
+  Main_Frm.BackColor = first_back_colour;
+  Main_Frm.Width = 6450;
+  Main_Frm.Height = 6725;
+  Make_Boxes();
+  Make_Title_Row();
+  Make_Hidden_Controls();
+}
+
+void Arrangement::Make_Boxes() {
+  for (int i = 0; i < box_count; ++i) {
+    const double left = 90 + i % days_of_week * 900;
+    const double top = 810 + i / days_of_week * 990;
+    toolkit::Label& box = Box_Lbl[i];
+    box.Place({left, top, 825, 915});
+    box.FontName = "Arial";
+    box.FontSize = 9.0;
+    box.FontBold = true;
+    box.Fixed_Border = true;
+    toolkit::Label& caption = Box_Caption_Lbl[i];
+    caption.Place({left + 45, top + 270, 735, 600});
+    caption.Alignment = toolkit::Alignment::Centre;
+    caption.Transparent = true;
+  }
+}
+
+void Arrangement::Make_Title_Row() {
+  for (int i = 0; i < days_of_week; ++i) Day_Lbl[i].Place({90.0 + i * 900, 450, 825, 285});
+  Prev_Month_Lbl.Place({90, 90, 285, 285});
+  Prev_Month_Lbl.Caption = "<";
+  Next_Month_Lbl.Place({6030, 90, 285, 285});
+  Next_Month_Lbl.Caption = ">";
+  Which_Month_Lbl.Place({495, 90, 5435, 285});
+  for (toolkit::Label* const label : title_row_) {
+    Set_Title_Font(*label);
+    label->Alignment = toolkit::Alignment::Centre;
+    label->Transparent = true;
+    label->Fixed_Border = true;
+    label->Mnemonics = false;
+  }
+}
+
+void Arrangement::Make_Hidden_Controls() {
+  DotDotDot_Lbl.Place({4410, 6435, 1170, 195});
+  DotDotDot_Lbl.Visible = false;
+  Clear_Pic.Picture = platform::Stock_Picture::Clear;
+  File_Pic.Picture = platform::Stock_Picture::File;
+  Settings_Pic.Picture = platform::Stock_Picture::Settings;
+  Exit_Pic.Picture = platform::Stock_Picture::Exit;
+  for (toolkit::Picture_Box* const picture : {&Clear_Pic, &File_Pic, &Settings_Pic, &Exit_Pic}) {
+    picture->Place({0, 0, 195, 195});
+    picture->Visible = false;
+  }
+}
+
+}  // namespace presentation

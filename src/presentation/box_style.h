@@ -1,0 +1,21 @@
+// Which box style and which position are in force: the settings', or the wallpaper pack's.
+#pragma once
+
+#include "settings/settings.h"
+#include "state/calendar_state.h"
+
+namespace presentation {
+
+enum Box_Style { thin_box = 0, square_box = 1, small_box = 2 };
+
+/// The small style looks at the setting alone: a pack that brings style 2 of its own doesn't make it so, and under a pack
+/// that rules the style the setting doesn't either.
+bool Small_Style(const settings::Settings& settings);
+
+/// The box style in force, for the layout of the grid.
+basic::Int16 Style_In_Force(const settings::Settings& settings, const state::Calendar_State& calendar);
+
+/// The window position in force.
+basic::Int16 Position_In_Force(const settings::Settings& settings, const state::Calendar_State& calendar);
+
+}  // namespace presentation

@@ -1,0 +1,36 @@
+// The fitting of an event's text into the caption of its day box, as a computation over a measure of text widths.
+//
+// The tests for a fit differ on purpose, and the difference shows where a text is exactly as wide as its box: a whole
+// text or a rest fits only if it is narrower, while a line under construction goes on growing at the exact width.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace presentation {
+
+/// Widths of texts in the window's font, in twips. A longer text is never narrower than its beginning.
+class Text_Measure {
+ public:
+  [[nodiscard]] virtual double Width(std::string_view text) const = 0;
+
+  /// The number of characters of the longest beginning that is narrower than `limit`.
+  [[nodiscard]] virtual std::size_t Longest_Beginning(std::string_view text, double limit) const = 0;
+
+ protected:
+  ~Text_Measure() = default;
+};
+
+/// The part at the front of the text that makes one line of that width: as many whole words as fit, with the blank behind
+/// the last, or of a first word that is too wide as much as fits. A text that runs out of blanks before the line
+/// overflows comes back whole, however wide it is.
+std::string_view Get_Line(std::string_view text, double width, const Text_Measure& measure);
+
+/// Up to three lines, with two line breaks always; dots stand for the end of a third line that isn't the last.
+std::string Fit_Three_Lines(std::string_view text, double width, const Text_Measure& measure);
+
+/// One line, cut at any character and ended with dots where it is too wide. Throws error 5 if fewer than three
+/// characters fit.
+std::string Fit_One_Line(std::string_view text, double width, const Text_Measure& measure);
+
+}  // namespace presentation

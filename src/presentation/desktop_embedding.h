@@ -1,0 +1,41 @@
+// The calendar as a part of the desktop: its window under the shell's own, and the icons' text without a background.
+// Failures are silent; without the shell's windows the calendar stays an ordinary window.
+#pragma once
+
+#include <functional>
+
+#include "platform/desktop_shell.h"
+#include "presentation/arrangement.h"
+#include "settings/settings.h"
+#include "state/calendar_state.h"
+
+namespace presentation {
+
+class Desktop_Embedding {
+ public:
+  Desktop_Embedding(platform::Desktop_Shell& shell, Arrangement& arrangement, const settings::Settings& settings,
+                    state::Calendar_State& calendar);
+
+  std::function<void()> Show_Splash;
+
+  /// Once, in the load: finds the shell's windows, shows the splash if the desktop is there and the setting wants it, takes
+  /// the icons' two colours and moves the calendar under the desktop's top window. Stops at the first window missing.
+  void No_ShowDesktop_and_IconColours();
+
+  /// Does nothing; the tick does the work.
+  void Set_Transparent_Icon_Stuff() {}
+
+  /// On each tick: takes the background off the icons' text if it has one.
+  void Keep_Desktop_Text_Clear();
+
+ private:
+  platform::Desktop_Shell& shell_;
+  Arrangement& arrangement_;
+  const settings::Settings& settings_;
+  state::Calendar_State& calendar_;
+  platform::Window_Handle progman_hwnd_ = 0;
+  platform::Window_Handle defview_hwnd_ = 0;
+  platform::Window_Handle iconlist_hwnd_ = 0;
+};
+
+}  // namespace presentation

@@ -1,0 +1,26 @@
+// The calendar's popup menus, as data.
+#pragma once
+
+#include <vector>
+
+#include "platform/popup_menu.h"
+#include "presentation/arrangement.h"
+
+namespace presentation {
+
+enum Box_Command { clear_event = 1, edit_event = 2, open_settings = 3, exit_program = 4 };
+enum Year_Command { two_back = 1, one_back = 2, current_month = 3, one_on = 4, two_on = 5, expand = 999 };
+enum Start_Day_Command { set_as_start_day = 1 };
+
+std::vector<platform::Menu_Item> Box_Menu(const Arrangement& arrangement);
+
+/// The twelve months; that on view is grey, the present one marked if its year is on view.
+std::vector<platform::Menu_Item> Months_Menu(basic::Int16 view_month, basic::Int16 view_year, int present_month,
+                                             int present_year);
+
+/// The years around the one on view, or in compact mode the way out of it. Throws error 6 for a year beyond 16 bits.
+std::vector<platform::Menu_Item> Years_Menu(basic::Int16 view_year, bool compact);
+
+std::vector<platform::Menu_Item> Start_Day_Menu();
+
+}  // namespace presentation

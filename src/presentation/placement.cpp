@@ -1,0 +1,125 @@
+#include "presentation/placement.h"
+
+#include "presentation/box_style.h"
+
+namespace presentation {
+
+namespace {
+
+using settings::Settings;
+using toolkit::Round_To_Even;
+
+constexpr int default_pointer = 0;
+constexpr int move_pointer = 5;
+
+constexpr const char* manual_question =
+    "Manual Positioning is not selected. This means that next time the program is started or the month is changed the "
+    "program will revert back to the set position. Do you want to change the positioning mode to manual positioning?";
+
+/// Where a window of a length starts to lie in the middle of a longer stretch.
+int Middle(std::int32_t stretch, double length) { return Round_To_Even(stretch - length) / 2; }
+
+}  // namespace
+
+Desktop_Rect GetDesktopRect(platform::Screen& screen, bool in_twips) {
+  const platform::Pixel_Area area = screen.Work_Area();
+  if (!in_twips) return {area.Left, area.Top, area.Width, area.Height};
+  const double across = screen.Twips_Per_Pixel_X();
+  const double down = screen.Twips_Per_Pixel_Y();
+  return {Round_To_Even(area.Left * across), Round_To_Even(area.Top * down), Round_To_Even(area.Width * across),
+          Round_To_Even(area.Height * down)};
+}
+
+Placement::Placement(Arrangement& arrangement, platform::Screen& screen, platform::Message_Box& message_box,
+                     settings::Stored_Settings& stored, const state::Calendar_State& calendar)
+    : arrangement_(arrangement), screen_(screen), message_box_(message_box), stored_(stored), calendar_(calendar) {}
+
+void Placement::Position_Form(basic::Int16 position) {
+  toolkit::Form& form = arrangement_.Main_Frm;
+  form.Scale = toolkit::Scale_Unit::Twips;
+  const Desktop_Rect area = GetDesktopRect(screen_, true);
+  const double right = area.Width - form.Width + area.Left;
+  const double centre = Middle(area.Width, form.Width) + area.Left;
+  const double left = area.Left;
+  const double bottom = area.Top + area.Height - form.Height;
+  const double middle = Middle(area.Height, form.Height) + area.Top;
+  const double top = area.Top;
+  switch (position.Value()) {
+    case 0: form.Move(right, bottom); break;
+    case 1: form.Move(centre, bottom); break;
+    case 2: form.Move(left, bottom); break;
+    case 3: form.Move(centre, middle); break;
+    case 4: form.Move(right, top); break;
+    case 5: form.Move(centre, top); break;
+    case 6: form.Move(left, top); break;
+    case manual_position: form.Move(stored_.Values.Manual_PosX.Value(), stored_.Values.Manual_PosY.Value()); break;
+    case 8: form.Move(right, middle); break;
+    case 9: form.Move(left, middle); break;
+    default: break;
+  }
+}
+
+void Placement::Position_In_Force() { Position_Form(presentation::Position_In_Force(stored_.Values, calendar_)); }
+
+void Placement::Set_Repos() {
+  const Desktop_Rect area = GetDesktopRect(screen_, true);
+  saved_work_area_ = {area.Height, area.Width, area.Left, area.Top};
+}
+
+void Placement::RePosition() {
+  const Desktop_Rect area = GetDesktopRect(screen_, true);
+  const auto follow = [this](std::int32_t now, basic::Int16& saved) {
+    if (now == saved.Value()) return false;
+    Position_In_Force();
+    saved = now;
+    return true;
+  };
+  follow(area.Height, saved_work_area_.Height) || follow(area.Width, saved_work_area_.Width) ||
+      follow(area.Top, saved_work_area_.Top) || follow(area.Left, saved_work_area_.Left);
+}
+
+bool Placement::Dragging_Allowed() const {
+  return stored_.Values.Alignment == manual_position || stored_.Values.Allow_Dragging != 0;
+}
+
+void Placement::Start_Drag(double x, double y) {
+  if (!Dragging_Allowed()) return;
+  toolkit::Form& form = arrangement_.Main_Frm;
+  form.MousePointer = move_pointer;
+  drag_start_ = {Round_To_Even(x), Round_To_Even(y), Round_To_Even(form.Left), Round_To_Even(form.Top)};
+}
+
+void Placement::Drag(double x, double y) {
+  if (!Dragging_Allowed()) return;
+  toolkit::Form& form = arrangement_.Main_Frm;
+  form.Move(form.Left - (drag_start_.X.Value() - x), form.Top - (drag_start_.Y.Value() - y));
+}
+
+void Placement::End_Drag() {
+  if (!Dragging_Allowed()) return;
+  arrangement_.Main_Frm.MousePointer = default_pointer;
+  Keep_Place();
+  if (Place_Would_Be_Lost()) Ask_For_Manual_Position();
+}
+
+void Placement::Keep_Place() {
+  stored_.Set(&Settings::Manual_PosX, Round_To_Even(arrangement_.Main_Frm.Left));
+  stored_.Set(&Settings::Manual_PosY, Round_To_Even(arrangement_.Main_Frm.Top));
+}
+
+/// A drag that changed one coordinate alone doesn't count.
+bool Placement::Place_Would_Be_Lost() const {
+  const bool moved = arrangement_.Main_Frm.Left() != drag_start_.Left.Value() &&
+                     arrangement_.Main_Frm.Top() != drag_start_.Top.Value();
+  return moved && (stored_.Values.Alignment != manual_position || stored_.Values.Use_Theme_Pos == 1);
+}
+
+void Placement::Ask_For_Manual_Position() {
+  const auto answer = message_box_.Show("Meridex", manual_question, platform::Box_Icon::Question,
+                                        platform::Box_Buttons::Yes_No);
+  if (answer != platform::Box_Answer::Yes) return;
+  stored_.Set(&Settings::Alignment, manual_position);
+  stored_.Set(&Settings::Use_Theme_Pos, 0);
+}
+
+}  // namespace presentation

@@ -1,0 +1,101 @@
+#include "presentation/which_style.h"
+
+#include <optional>
+
+#include "presentation/box_style.h"
+
+namespace presentation {
+
+namespace {
+
+using toolkit::Alignment;
+using toolkit::Label;
+
+/// What a style says of captions; the small style says nothing of their size and text.
+struct Caption_Layout {
+  double width, height;
+  double from_left, from_top;  // from the box's corner
+  Alignment alignment;
+};
+
+/// All in twips.
+struct Style_Layout {
+  double box_width, box_height;
+  double gap;  // between rows and between columns
+  Alignment box_alignment;
+  std::optional<Caption_Layout> caption;
+};
+
+constexpr double parked = 9999;  // beyond the window's edge
+
+const Style_Layout layouts[] = {
+    {1275, 320, 100, Alignment::Left, Caption_Layout{870, 220, 360, 55, Alignment::Left}},
+    {825, 915, 75, Alignment::Left, Caption_Layout{735, 600, 45, 270, Alignment::Centre}},
+    {375, 285, 75, Alignment::Centre, std::nullopt},
+};
+
+/// The first row and the first column keep their places; every other box follows the first of its row above and the
+/// box of the first row to its left.
+void Place_Box(Arrangement& arrangement, int i, const Style_Layout& layout) {
+  Label& box = arrangement.Box_Lbl[i];
+  box.Height = layout.box_height;
+  box.Width = layout.box_width;
+  if (i >= days_of_week) {
+    const Label& above = arrangement.Box_Lbl[(i / days_of_week - 1) * days_of_week];
+    box.Top = above.Top + above.Height + layout.gap;
+  }
+  if (i % days_of_week != 0) {
+    const Label& beside = arrangement.Box_Lbl[i % days_of_week - 1];
+    box.Left = beside.Left + beside.Width + layout.gap;
+  }
+  box.Alignment = layout.box_alignment;
+  box.FontUnderline = false;
+}
+
+void Place_Caption(Label& caption, const Label& box, const std::optional<Caption_Layout>& layout) {
+  if (!layout) {
+    caption.Top = parked;
+    caption.Left = parked;
+    return;
+  }
+  caption.Height = layout->height;
+  caption.Width = layout->width;
+  caption.Top = box.Top + layout->from_top;
+  caption.Left = box.Left + layout->from_left;
+  caption.Alignment = layout->alignment;
+}
+
+void Place_Header_Row(Arrangement& arrangement) {
+  for (int i = 0; i < days_of_week; ++i) {
+    arrangement.Day_Lbl[i].Left = arrangement.Box_Lbl[i].Left;
+    arrangement.Day_Lbl[i].Width = arrangement.Box_Lbl[0].Width;
+  }
+  const Label& last_day = arrangement.Day_Lbl[6];
+  Label& next = arrangement.Next_Month_Lbl;
+  next.Left = last_day.Left + last_day.Width - next.Width;
+  arrangement.Which_Month_Lbl.Width = next.Left - arrangement.Which_Month_Lbl.Left - 100;
+}
+
+void Size_Window(Arrangement& arrangement) {
+  const Label& last_column = arrangement.Box_Lbl[6];
+  arrangement.Main_Frm.Width = last_column.Left + last_column.Width + 135;
+  const Label& last_row = arrangement.Box_Lbl[arrangement.Box_Lbl[35].Visible ? 36 : 28];
+  arrangement.Main_Frm.Height = last_row.Top + last_row.Height + 50;
+}
+
+}  // namespace
+
+void Which_Style(Arrangement& arrangement, basic::Int16 style) {
+  arrangement.Main_Frm.Scale = toolkit::Scale_Unit::Twips;
+  if (style >= thin_box && style <= small_box) {
+    const Style_Layout& layout = layouts[style.Value()];
+    for (int i = 0; i < box_count; ++i) {
+      Place_Box(arrangement, i, layout);
+      Place_Caption(arrangement.Box_Caption_Lbl[i], arrangement.Box_Lbl[i], layout.caption);
+    }
+  }
+  Place_Header_Row(arrangement);
+  Size_Window(arrangement);
+}
+
+}  // namespace presentation

@@ -1,0 +1,14 @@
+// The layout of the calendar window by box style.
+#pragma once
+
+#include "basic/int16.h"
+#include "presentation/arrangement.h"
+
+namespace presentation {
+
+/// Lays out the boxes for style 0, 1 or 2 (any other leaves them as they are), then derives the header row and the
+/// window's size from them. Box 35 must already be shown or hidden: it decides the height. Leaves the window's
+/// coordinate unit at twips.
+void Which_Style(Arrangement& arrangement, basic::Int16 style);
+
+}  // namespace presentation
