@@ -7,8 +7,7 @@ if ! command -v clang-format >/dev/null; then
   echo "clang-format isn't installed" >&2
   exit 77
 fi
-mapfile -t files < <(git ls-files --cached --others --exclude-standard -- 'src/*' 'tests/*' 'tools/*' 'bench/*' 'fuzz/*' |
-  grep -E '\.(cpp|h)$')
+mapfile -t files < <(find src tests tools bench fuzz -name '*.cpp' -o -name '*.h')
 if [ "${1:-}" = --check ]; then
   exec clang-format --dry-run -Werror "${files[@]}"
 fi

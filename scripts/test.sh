@@ -16,7 +16,7 @@ cd "$root"
 export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1} UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
 if [ -n "$quick" ]; then
   need_packages build
-  configure native
+  configure native -DMERIDEX_WINE_TESTS=ON
   build native
   exec ctest --test-dir build/native --output-on-failure --no-tests=error -j "$(nproc)" -L 'unit|scenarios' "$@" </dev/null
 fi
