@@ -74,9 +74,9 @@ if [ -n "$build" ]; then
   configure windows-x64
   build windows-x64 meridex ${desktop:+desktop_stand_in}
 fi
-program=$(find "$output/src" -name meridex.exe)
+program=$output/src/main/meridex.exe
 starter=$output/tools/desktop/meridex-desktop-start.exe
-[ -n "$program" ] || fail "the program isn't built"
+[ -f "$program" ] || fail "the program isn't built"
 [ -z "$desktop" ] || [ -f "$starter" ] || fail "this tree has no stand-in for the desktop yet"
 
 make_golden_prefix

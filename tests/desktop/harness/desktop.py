@@ -48,8 +48,7 @@ class Desktop:
             self.prefix = Prefix(pathlib.Path(self._temporary, "prefix"), self.screen.environment, language)
             self.folder = self.prefix.drive / "Meridex"
             self.folder.mkdir()
-            (program,) = BUILD.glob(f"src/**/{PROGRAM}")
-            shutil.copy2(program, self.folder)
+            shutil.copy2(BUILD / "src/main" / PROGRAM, self.folder)
             if data is not None or events:
                 self.data_file.write_bytes(data if data is not None else b"".join(record(line) for line in events))
             self.prefix.preset("Software\\Meridex\\Settings", self.settings)
