@@ -1,11 +1,16 @@
 #include "platform/memory/memory_menu.h"
 
 #include <algorithm>
+#include <stdexcept>
+
+#include "toolkit/form.h"
 
 namespace platform::memory {
 
 int Memory_Menu::Track(Window_Handle owner, const std::vector<Menu_Item>& items) {
-  shown_.push_back({owner, items});
+  const toolkit::Form* const window = windows_.Find(owner);
+  if (window == nullptr) throw std::logic_error("a menu without an owner");
+  shown_.push_back({window->Name, items});
   if (prepared_.empty()) return 0;
   const int number = prepared_.front();
   prepared_.pop_front();

@@ -2,21 +2,27 @@
 #pragma once
 
 #include <deque>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/memory/memory_windows.h"
 #include "platform/popup_menu.h"
 
 namespace platform::memory {
 
 class Memory_Menu : public Popup_Menu {
  public:
-  /// Takes the next prepared number; 0 for none, and for one that is grey or isn't in the menu.
+  explicit Memory_Menu(const Memory_Windows& windows) : windows_(windows) {}
+
+  /// Takes the next prepared number; 0 for none, and for one that is grey or isn't in the menu. Throws std::logic_error
+  /// if the owner is no window.
   int Track(Window_Handle owner, const std::vector<Menu_Item>& items) override;
 
   void Prepare(int number) { prepared_.push_back(number); }
 
   struct Shown {
-    Window_Handle Owner;
+    std::string Owner;  ///< the window's name
     std::vector<Menu_Item> Items;
   };
 
@@ -24,6 +30,7 @@ class Memory_Menu : public Popup_Menu {
   std::vector<Shown> Take_Shown() { return std::exchange(shown_, {}); }
 
  private:
+  const Memory_Windows& windows_;
   std::deque<int> prepared_;
   std::vector<Shown> shown_;
 };

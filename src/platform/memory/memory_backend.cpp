@@ -1,0 +1,68 @@
+#include "platform/memory/memory_backend.h"
+
+#include "toolkit/timer.h"
+
+namespace platform::memory {
+
+namespace {
+
+constexpr Window_Handle before_first_handle = 0x30000;
+constexpr std::int64_t micros_of_a_millisecond = 1000;
+
+}  // namespace
+
+Memory_Backend::Memory_Backend(Virtual_Time& time, Memory_Loop& loop, Screen& screen)
+    : Windows(time, loop), time_(time), loop_(loop), screen_(screen), last_handle_(before_first_handle) {}
+
+std::unique_ptr<toolkit::Form_Peer> Memory_Backend::Make_Peer(toolkit::Form& form) {
+  return std::make_unique<Memory_Peer>(Windows, form, ++last_handle_);
+}
+
+void Memory_Backend::Start_Timer(toolkit::Timer& timer) {
+  const std::int64_t due = time_.Elapsed() + timer.Interval * micros_of_a_millisecond;
+  ticking_[&timer] = time_.Schedule(due, [this, &timer] { Tick(timer); });
+}
+
+void Memory_Backend::Stop_Timer(toolkit::Timer& timer) {
+  const auto found = ticking_.find(&timer);
+  if (found == ticking_.end()) return;
+  time_.Cancel(found->second);
+  ticking_.erase(found);
+}
+
+void Memory_Backend::Tick(toolkit::Timer& timer) {
+  Virtual_Time::Ticket& ticket = ticking_.at(&timer);
+  const std::int64_t next = ticket.Due + timer.Interval * micros_of_a_millisecond;
+  ticket = time_.Schedule(next, [this, &timer] { Tick(timer); });
+  loop_.Dispatch([&timer] {
+    if (timer.On_Tick) timer.On_Tick();
+  });
+}
+
+double Memory_Backend::Twips_Per_Pixel(toolkit::Axis axis) {
+  return axis == toolkit::Axis::Across ? screen_.Twips_Per_Pixel_X() : screen_.Twips_Per_Pixel_Y();
+}
+
+double Memory_Backend::Screen_Size(toolkit::Axis axis) {
+  const Pixel_Area bounds = screen_.Bounds();
+  return (axis == toolkit::Axis::Across ? bounds.Width : bounds.Height) * Twips_Per_Pixel(axis);
+}
+
+double Memory_Backend::Width_Of(char character) const {
+  return character == '\r' || character == '\n' ? 0 : character_width_;
+}
+
+double Memory_Backend::Text_Width(const toolkit::Font&, std::string_view text) {
+  double width = 0;
+  for (const char character : text) width += Width_Of(character);
+  return width;
+}
+
+std::size_t Memory_Backend::Longest_Beginning(const toolkit::Font&, std::string_view text, double limit) {
+  double width = 0;
+  std::size_t length = 0;
+  while (length < text.size() && width + Width_Of(text[length]) < limit) width += Width_Of(text[length++]);
+  return length;
+}
+
+}  // namespace platform::memory
