@@ -1,0 +1,39 @@
+#include "platform/win32/desktop.h"
+
+namespace platform::win32 {
+
+Pixel_Area Primary_Screen::Bounds() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+
+Pixel_Area Primary_Screen::Work_Area() {
+  RECT area = {};
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+  return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+void Desktop_Picture::Set_Picture(const std::string& path) {
+  std::string copy = path;  // the call takes no constant
+  SystemParametersInfoA(SPI_SETDESKWALLPAPER, 0, copy.data(), SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
+}
+
+Window_Handle Shell_Windows::Find_Top_Window(const std::string& window_class, const std::string& caption) {
+  return To_Handle(FindWindowA(window_class.c_str(), caption.c_str()));
+}
+
+Window_Handle Shell_Windows::Find_Child(Window_Handle parent, const std::string& window_class) {
+  return To_Handle(FindWindowExA(To_Window(parent), nullptr, window_class.c_str(), nullptr));
+}
+
+int Shell_Windows::Send(Window_Handle window, unsigned message, int parameter) {
+  return static_cast<int>(SendMessageA(To_Window(window), message, 0, parameter));
+}
+
+// The window stays a popup: as a child by its style it could never be the active window.
+void Shell_Windows::Set_Parent(Window_Handle window, Window_Handle parent) {
+  SetParent(To_Window(window), To_Window(parent));
+}
+
+void Shell_Windows::Invalidate(Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }
+
+void Shell_Windows::Update(Window_Handle window) { UpdateWindow(To_Window(window)); }
+
+}  // namespace platform::win32

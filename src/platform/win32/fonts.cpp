@@ -1,0 +1,92 @@
+#include "platform/win32/fonts.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace platform::win32 {
+
+namespace {
+
+bool Same_Font(const toolkit::Font& a, const toolkit::Font& b) {
+  return a.Size == b.Size && a.Bold == b.Bold && a.Italic == b.Italic && a.Underline == b.Underline && a.Name == b.Name;
+}
+
+HFONT Make_Font(const toolkit::Font& font, int dpi) {
+  constexpr double points_per_inch = 72;
+  LOGFONTA description = {};
+  description.lfHeight = -toolkit::Round_To_Even(font.Size * dpi / points_per_inch);
+  description.lfWeight = font.Bold ? FW_BOLD : FW_NORMAL;
+  description.lfItalic = font.Italic;
+  description.lfUnderline = font.Underline;
+  description.lfCharSet = DEFAULT_CHARSET;
+  lstrcpynA(description.lfFaceName, font.Name.c_str(), LF_FACESIZE);
+  return CreateFontIndirectA(&description);
+}
+
+}  // namespace
+
+Fonts::Fonts(const Scale& scale) : scale_(scale) {
+  CPINFO code_page = {};
+  double_bytes_ = GetCPInfo(CP_ACP, &code_page) != 0 && code_page.MaxCharSize > 1;
+}
+
+Face& Fonts::Get(const toolkit::Font& description) {
+  if (last_ != nullptr && Same_Font(last_->Description, description)) return *last_;
+  const auto known = std::find_if(faces_.begin(), faces_.end(),
+                                  [&](const auto& face) { return Same_Font(face->Description, description); });
+  if (known != faces_.end()) return *(last_ = known->get());
+  auto face = std::make_unique<Face>();
+  face->Description = description;
+  face->Handle.Reset(Make_Font(description, scale_.Dpi));
+  return *(last_ = faces_.emplace_back(std::move(face)).get());
+}
+
+int Fonts::Width(Face& face, std::string_view text) {
+  if (double_bytes_) {
+    SIZE size = {};
+    GetTextExtentPoint32A(Select(face), text.data(), static_cast<int>(text.size()), &size);
+    return size.cx;
+  }
+  Measure(face);
+  int width = 0;
+  for (const char c : text) width += face.Widths[static_cast<unsigned char>(c)];
+  return width == 0 ? 0 : width + face.Overhang;
+}
+
+std::size_t Fonts::Longest_Beginning(Face& face, std::string_view text, int limit) {
+  if (limit < 0) return 0;
+  if (double_bytes_) {
+    int count = 0;
+    SIZE size = {};
+    GetTextExtentExPointA(Select(face), text.data(), static_cast<int>(text.size()), limit, &count, nullptr, &size);
+    return static_cast<std::size_t>(count);
+  }
+  Measure(face);
+  int width = face.Overhang;
+  std::size_t count = 0;
+  for (; count < text.size(); ++count) {
+    width += face.Widths[static_cast<unsigned char>(text[count])];
+    if (width > limit) break;
+  }
+  return count;
+}
+
+HDC Fonts::Select(const Face& face) {
+  if (!context_) context_.Reset(CreateCompatibleDC(nullptr));
+  SelectObject(context_.Get(), face.Handle.Get());
+  return context_.Get();
+}
+
+void Fonts::Measure(Face& face) {
+  if (face.Measured) return;
+  face.Measured = true;
+  const HDC context = Select(face);
+  // Windows 98 has the older of the two calls alone.
+  if (GetCharWidth32A(context, 0, 255, face.Widths.data()) == 0) GetCharWidthA(context, 0, 255, face.Widths.data());
+  for (const char c : {'\r', '\n'}) face.Widths[static_cast<unsigned char>(c)] = 0;
+  SIZE one = {};
+  GetTextExtentPoint32A(context, "x", 1, &one);
+  face.Overhang = std::max(0, static_cast<int>(one.cx) - face.Widths['x']);
+}
+
+}  // namespace platform::win32

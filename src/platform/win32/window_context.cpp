@@ -1,0 +1,14 @@
+#include "platform/win32/window_context.h"
+
+#include "platform/win32/form_window.h"
+
+namespace platform::win32 {
+
+Form_Window* Window_List::Around(HWND window) const {
+  if (window == nullptr) return nullptr;
+  for (Form_Window* const form : windows_)
+    if (form->Window() == window || IsChild(form->Window(), window) != 0) return form;
+  return nullptr;
+}
+
+}  // namespace platform::win32

@@ -1,0 +1,41 @@
+// What the windows of one program share.
+#pragma once
+
+#include <vector>
+
+#include "platform/win32/guard.h"
+#include "platform/win32/painter.h"
+#include "platform/win32/scale.h"
+
+namespace platform::win32 {
+
+class Form_Window;
+
+/// The open windows, in the order in which they were made.
+class Window_List {
+ public:
+  void Add(Form_Window& window) { windows_.push_back(&window); }
+  void Remove(Form_Window& window) { std::erase(windows_, &window); }
+  [[nodiscard]] const std::vector<Form_Window*>& All() const { return windows_; }
+
+  /// The form's window that is or holds this one; nullptr if it belongs to none.
+  [[nodiscard]] Form_Window* Around(HWND window) const;
+
+ private:
+  std::vector<Form_Window*> windows_;
+};
+
+struct Window_Context {
+  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance) {}
+
+  HINSTANCE Instance;
+  win32::Guard Guard;
+  const win32::Scale Scale = Scale::Of_Screen();
+  win32::Fonts Fonts{Scale};
+  Stock_Pictures Pictures;
+  win32::Painter Painter{Fonts, Pictures};
+  Library_Owner Common_Controls;  ///< loaded with the first tip
+  Window_List Windows;
+};
+
+}  // namespace platform::win32
