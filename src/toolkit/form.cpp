@@ -20,6 +20,7 @@ void Form::Load() {
 
 void Form::Show(bool activate) {
   Load();
+  if (peer_ == nullptr) return;
   visible_ = true;
   peer_->Show(activate);
 }
@@ -31,8 +32,10 @@ void Form::Hide() {
 }
 
 void Form::Unload() {
-  if (peer_ == nullptr) return;
+  if (peer_ == nullptr || unloading_) return;
+  unloading_ = true;
   if (On_Unload) On_Unload();
+  unloading_ = false;
   visible_ = false;
   captured_ = nullptr;
   peer_.reset();

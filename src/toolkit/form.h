@@ -39,12 +39,12 @@ class Form : public Property_Owner, public Font_Properties {
   void Load();
   [[nodiscard]] bool Loaded() const { return peer_ != nullptr; }
 
-  /// Loads it first if need be.
+  /// Loads it first if need be; does nothing more if it unloads itself in that.
   void Show(bool activate = true);
   void Hide();
   [[nodiscard]] bool Visible() const { return visible_; }
 
-  /// Runs On_Unload and removes the window; does nothing if it isn't loaded.
+  /// Runs On_Unload and removes the window; does nothing if it isn't loaded, or inside its own On_Unload.
   void Unload();
 
   /// The client area, in the present unit.
@@ -105,6 +105,7 @@ class Form : public Property_Owner, public Font_Properties {
   std::unique_ptr<Form_Peer> peer_;
   Control* captured_ = nullptr;
   bool visible_ = false;
+  bool unloading_ = false;
 };
 
 }  // namespace toolkit

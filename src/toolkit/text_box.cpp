@@ -1,5 +1,6 @@
 #include "toolkit/text_box.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace toolkit {
@@ -9,6 +10,7 @@ Text_Box::Text_Box(Form& window, std::string name, int index)
 
 void Text_Box::User_Text(std::string text) {
   Text.Keep(std::move(text));
+  Keep_Selection_Inside();
   if (On_Change) On_Change();
 }
 
@@ -16,9 +18,10 @@ void Text_Box::User_Character(std::string_view character) {
   std::string text = Text;
   const auto start = static_cast<std::size_t>(SelStart());
   text.replace(start, static_cast<std::size_t>(SelLength()), character);
-  SelStart = static_cast<int>(start + character.size());
-  SelLength = 0;
-  User_Text(std::move(text));
+  Text.Keep(std::move(text));
+  SelStart.Keep(static_cast<int>(start + character.size()));
+  SelLength.Keep(0);
+  if (On_Change) On_Change();
 }
 
 void Text_Box::Changed(Aspect aspect) {
@@ -26,8 +29,15 @@ void Text_Box::Changed(Aspect aspect) {
     SelStart.Keep(0);
     SelLength.Keep(0);
   }
+  if (aspect == Aspect::Selection) Keep_Selection_Inside();
   Control::Changed(aspect);
   if (aspect == Aspect::Caption && On_Change) On_Change();
+}
+
+void Text_Box::Keep_Selection_Inside() {
+  const int size = static_cast<int>(Text().size());
+  SelStart.Keep(std::clamp(SelStart(), 0, size));
+  SelLength.Keep(std::clamp(SelLength(), 0, size - SelStart()));
 }
 
 }  // namespace toolkit

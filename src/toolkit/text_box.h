@@ -10,6 +10,7 @@ class Text_Box : public Control, public Font_Properties {
   Text_Box(Form& window, std::string name, int index = -1);
 
   Property<std::string> Text{*this, Aspect::Caption};
+  /// The selection. What lies outside the text is cut off.
   Property<int> SelStart{*this, Aspect::Selection};   ///< characters before the selection
   Property<int> SelLength{*this, Aspect::Selection};  ///< characters selected
 
@@ -23,6 +24,9 @@ class Text_Box : public Control, public Font_Properties {
   void User_Character(std::string_view character);
 
   void Changed(Aspect aspect) override;
+
+ private:
+  void Keep_Selection_Inside();
 };
 
 }  // namespace toolkit

@@ -34,9 +34,10 @@ bool Is_Digit(int code) { return code >= '0' && code <= '9'; }
 
 // Texts that are no number for any type.
 constexpr std::string_view no_numbers[] = {
-    "",     " ",    "    ",  "-",     "+",     "--1",      "++1",        "+-1",  "- 1",  "+ 1",  "1-",   "1 2",
-    "1.5",  "1,5",  "1e3",   "0x10",  "&H10",  "one",      "12a",        "a12",  "\t1",  "1\t",  "1\r\n", "\n1",
-    "\xA0", "1\xA0", "\"1\"", "1/2",  "True1", "00000000x", "9999999999x", "99999999999999999999x"};
+    "",     " ",     "    ",  "-",   "+",     "--1",       "++1",         "+-1",
+    "- 1",  "+ 1",   "1-",    "1 2", "1.5",   "1,5",       "1e3",         "0x10",
+    "&H10", "one",   "12a",   "a12", "\t1",   "1\t",       "1\r\n",       "\n1",
+    "\xA0", "1\xA0", "\"1\"", "1/2", "True1", "00000000x", "9999999999x", "99999999999999999999x"};
 
 }  // namespace
 
@@ -128,8 +129,8 @@ TEST(To_Int32, Throws_type_mismatch_for_what_is_no_number) {
 }
 
 TEST(To_Int32, Reads_back_what_To_Text_wrote) {
-  for (std::int64_t number = std::numeric_limits<std::int32_t>::min(); number <= std::numeric_limits<std::int32_t>::max();
-       number += 98'765'43) {
+  for (std::int64_t number = std::numeric_limits<std::int32_t>::min();
+       number <= std::numeric_limits<std::int32_t>::max(); number += 98'765'43) {
     const auto value = static_cast<std::int32_t>(number);
     ASSERT_EQ(To_Int32(To_Text(value)), value);
   }

@@ -13,29 +13,26 @@ using basic::Weekday;
 
 namespace {
 
-const Date_Words english{
-    {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"},
-    {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"},
-    {"January", "February", "March", "April", "May", "June", "July", "August", "September", "October", "November",
-     "December"},
-    "/",
-    ":"};
+const Date_Words english{{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"},
+                         {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"},
+                         {"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                          "October", "November", "December"},
+                         "/",
+                         ":"};
 
-const Date_Words german{
-    {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"},
-    {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"},
-    {"Januar", "Februar", "M\xE4rz", "April", "Mai", "Juni", "Juli", "August", "September", "Oktober", "November",
-     "Dezember"},
-    ".",
-    ":"};
+const Date_Words german{{"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"},
+                        {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"},
+                        {"Januar", "Februar", "M\xE4rz", "April", "Mai", "Juni", "Juli", "August", "September",
+                         "Oktober", "November", "Dezember"},
+                        ".",
+                        ":"};
 
 // Separators of more than one character, and a point in the time.
-const Date_Words spaced{
-    {"Ne", "Po", "Ut", "St", "Ct", "Pa", "So"},
-    {"N", "P", "U", "S", "C", "A", "O"},
-    {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"},
-    ". ",
-    "."};
+const Date_Words spaced{{"Ne", "Po", "Ut", "St", "Ct", "Pa", "So"},
+                        {"N", "P", "U", "S", "C", "A", "O"},
+                        {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"},
+                        ". ",
+                        "."};
 
 Moment At(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
   return {Date_Serial(year, month, day), std::int64_t{hour * 3600 + minute * 60 + second} * 1'000'000};

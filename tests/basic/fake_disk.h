@@ -16,7 +16,7 @@ class Fake_Disk : public basic::Disk {
   std::map<std::string, std::string> Contents;
   std::set<std::string> Blocked;
   std::size_t Room = std::numeric_limits<std::size_t>::max();  ///< bytes that can still be written
-  int Open_For_Writing = 0;                                     ///< files that are open at this moment
+  int Open_For_Writing = 0;                                    ///< files that are open at this moment
   int Reads = 0, Writes = 0;
 
   void Read_Whole(const std::string& path, std::string& buffer) override {

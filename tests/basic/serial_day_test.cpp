@@ -27,8 +27,8 @@ constexpr std::chrono::sys_days day_zero =
 
 /// The standard library's word on a date whose month and day may run over or under.
 std::int64_t Serial_By_Chrono(int year, int month, int day) {
-  const std::chrono::year_month first = std::chrono::year_month(std::chrono::year(year), std::chrono::month(1)) +
-                                        std::chrono::months(month - 1);
+  const std::chrono::year_month first =
+      std::chrono::year_month(std::chrono::year(year), std::chrono::month(1)) + std::chrono::months(month - 1);
   return (std::chrono::sys_days(first / 1) + std::chrono::days(day - 1) - day_zero).count();
 }
 
@@ -125,7 +125,8 @@ TEST(Date_Serial, Agrees_with_the_standard_library_on_months_and_days_that_run_o
   for (const int year : {102, 1599, 1600, 1899, 1900, 1999, 2000, 2004, 9990}) {
     for (int month = -10; month <= 60; ++month) {
       for (int day = -40; day <= 400; day += 3)
-        ASSERT_EQ(Date_Serial(year, month, day), Serial_By_Chrono(year, month, day)) << year << ' ' << month << ' ' << day;
+        ASSERT_EQ(Date_Serial(year, month, day), Serial_By_Chrono(year, month, day))
+            << year << ' ' << month << ' ' << day;
     }
   }
 }
