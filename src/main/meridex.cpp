@@ -26,6 +26,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
                  system.Clock, stored_.Values, calendar_),
       function_keys_(arrangement_, placement_, compact_, view_, grid_, event_file_, system.Message_Box, system.Clock,
                      system.Locale, stored_, calendar_),
+      balloons_(backend, system.Screen, system.Clock, arrangement_, calendar_),
       date_watch_(backend, arrangement_, colours_, embedding_, placement_, compact_, view_, grid_, wallpaper_,
                   system.Clock, system.Locale, stored_.Values, calendar_),
       start_up_(system.Instances, stored_, arrangement_, colours_, embedding_, placement_, wallpaper_, grid_, view_,
@@ -38,6 +39,10 @@ void Meridex::Tie() {
   event_file_.Enter_Date = [this](std::string_view line) { grid_.Enter_Date(line); };
   editor_.Idle_Restart = [this] { compact_.Idle_Restart(); };
   embedding_.Show_Splash = [this] { splash_.Show(); };
+  balloons_.Calls.Rebuild_Month = [this] { view_.Redraw_Grid(); };
+  balloons_.Calls.Idle_Restart = [this] { compact_.Idle_Restart(); };
+  balloons_.Day_Of_Box = [this](basic::Int16 box) { return grid_.Day_Of_Box(box); };
+  box_mouse_.Balloon_Tooltip = [this](const std::string& text) { balloons_.Balloon_Tooltip(text); };
   menus_.Exit = [this] { Exit(); };
   instances_.On_Close_Request = [this] { Exit(); };
   arrangement_.Main_Frm.On_Unload = [this] { loop_.Quit(); };
@@ -51,5 +56,6 @@ void Meridex::Start() {
 
 void Meridex::Exit() {
   editor_.Window.Unload();
+  balloons_.Unload_All();
   arrangement_.Main_Frm.Unload();
 }

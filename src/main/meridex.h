@@ -7,6 +7,7 @@
 #include "calendar/start_up.h"
 #include "packs/wallpaper_stuff.h"
 #include "platform/system.h"
+#include "tooltips/balloon_tooltip.h"
 
 class Meridex {
  public:
@@ -53,6 +54,7 @@ class Meridex {
   calendar::Popup_Menus menus_;
   calendar::Box_Mouse box_mouse_;
   calendar::Function_Keys function_keys_;
+  tooltips::Balloons balloons_;
   calendar::Date_Watch date_watch_;
   calendar::Start_Up start_up_;
 };

@@ -76,8 +76,14 @@ class Backend {
   /// The size of the screen in twips.
   virtual double Screen_Size(Axis axis) = 0;
 
+  /// The name of the font that the system gives for a name: another one where it has none of that name.
+  virtual std::string Font_Given_For(const std::string& name) = 0;
+
   /// The width of a text in one line, in twips. "&" counts as it stands.
   virtual double Text_Width(const Font& font, std::string_view text) = 0;
+
+  /// The height of a text whose lines break at blanks where the width ends, in twips; "&" counts as it stands.
+  virtual double Text_Height(const Font& font, std::string_view text, double width) = 0;
 
   /// The number of characters of the longest beginning of the text that is narrower than `limit` twips.
   virtual std::size_t Longest_Beginning(const Font& font, std::string_view text, double limit) = 0;

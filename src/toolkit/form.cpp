@@ -59,6 +59,13 @@ void Form::Centre_On_Screen() {
   Top = (backend_.Screen_Size(Axis::Down) - Height) / 2;
 }
 
+void Form::Move(double left, double top) {
+  if (Left() == left && Top() == top) return;
+  Left.Keep(left);
+  Top.Keep(top);
+  Changed(Aspect::Bounds);
+}
+
 void Form::Set_Region(const Region& region) {
   if (peer_ != nullptr) peer_->Set_Region(region);
 }

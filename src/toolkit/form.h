@@ -55,6 +55,9 @@ class Form : public Property_Owner, public Font_Properties {
   void Set_Client_Size(double width, double height);
   void Centre_On_Screen();
 
+  /// Sets Left and Top in one step.
+  void Move(double left, double top);
+
   void Set_Region(const Region& region);
   /// Cuts the window to a rectangle with rounded corners, in pixels.
   void Set_Round_Region(int width, int height, int corner);

@@ -2,9 +2,26 @@
 
 #include <utility>
 
+#include "toolkit/form.h"
+
 namespace toolkit {
 
 Label::Label(Form& window, std::string name, int index)
     : Control(window, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
+
+void Label::Changed(Aspect aspect) {
+  Control::Changed(aspect);
+  if (!AutoSize) return;
+  const bool new_width = aspect == Aspect::Bounds && In_Twips().Width != sized_for_width_;
+  if (new_width || aspect == Aspect::Caption || aspect == Aspect::Appearance) Size_To_Text();
+}
+
+void Label::Size_To_Text() {
+  sized_for_width_ = In_Twips().Width;
+  const Font font{FontName, FontSize, FontBold, FontItalic, FontUnderline};
+  Bounds sized = In_Twips();
+  sized.Height = Window.System().Text_Height(font, Caption(), sized.Width);
+  Place(sized);
+}
 
 }  // namespace toolkit

@@ -1,0 +1,68 @@
+// The balloon: a small window with rounded corners that shows a title, an icon and a text beside a day box, and closes as
+// soon as the user turns to anything else.
+#pragma once
+
+#include <functional>
+
+#include "platform/screen.h"
+#include "presentation/arrangement.h"
+#include "state/calendar_state.h"
+#include "toolkit/timer.h"
+
+namespace tooltips {
+
+/// What a balloon calls of the calendar.
+struct Balloon_Calls {
+  std::function<void()> Rebuild_Month;  ///< on each opening: boxes, events and colours of the month on view
+  std::function<void()> Idle_Restart;   ///< on each closing
+};
+
+class Frm_Balloon {
+ public:
+  Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Arrangement& arrangement,
+              state::Calendar_State& calendar, const Balloon_Calls& calls);
+  Frm_Balloon(const Frm_Balloon&) = delete;
+  Frm_Balloon& operator=(const Frm_Balloon&) = delete;
+  ~Frm_Balloon() = default;
+
+  toolkit::Form Window;
+  toolkit::Label lblTitle;
+  toolkit::Image imgDisplayIcon;
+  toolkit::Control_Array<toolkit::Image> imgIconXP;  ///< the stock of icons, hidden
+  toolkit::Label lblText;
+
+  /// Fills, sizes and places the balloon; showing it is the caller's. `left` and `top` in twips on the screen, 0 for a
+  /// place beside box Tip_Box. The icon "i", in either case, is the information icon; any other value means none. The
+  /// font "Tahoma, if exists" falls back where it doesn't; its size is in points.
+  void SetBalloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
+                  const std::string& icon_type, const std::string& font_name, double font_size);
+
+  /// Unloads the window.
+  void HideBalloon() { Window.Unload(); }
+
+ private:
+  void Make_Controls();
+  void Tie_Events();
+  void Load();
+  void Unload();
+  void Resize();
+  void Shape();
+  void Show_Icon(const std::string& icon_type);
+  void Set_Font(const std::string& font_name, double font_size);
+
+  /// Below the box if there is room, else above; to its right if there is room, else to its left. Twips on the screen.
+  [[nodiscard]] int Place_Down() const;
+  [[nodiscard]] int Place_Across() const;
+
+  toolkit::Backend& backend_;
+  platform::Screen& screen_;
+  presentation::Arrangement& arrangement_;
+  state::Calendar_State& calendar_;
+  const Balloon_Calls& calls_;
+  toolkit::Timer close_timer_;
+};
+
+/// Whether the font "Tahoma" is present: the system gives a missing font another name.
+bool Tahoma_Exists(toolkit::Backend& backend);
+
+}  // namespace tooltips
