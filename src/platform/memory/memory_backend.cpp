@@ -1,5 +1,7 @@
 #include "platform/memory/memory_backend.h"
 
+#include <algorithm>
+
 #include "toolkit/timer.h"
 
 namespace platform::memory {
@@ -8,6 +10,7 @@ namespace {
 
 constexpr Window_Handle before_first_handle = 0x30000;
 constexpr std::int64_t micros_of_a_millisecond = 1000;
+constexpr double line_height = 195;  // twips
 
 }  // namespace
 
@@ -52,10 +55,40 @@ double Memory_Backend::Width_Of(char character) const {
   return character == '\r' || character == '\n' ? 0 : character_width_;
 }
 
-double Memory_Backend::Text_Width(const toolkit::Font&, std::string_view text) {
+double Memory_Backend::Width_Of(std::string_view text) const {
   double width = 0;
   for (const char character : text) width += Width_Of(character);
   return width;
+}
+
+double Memory_Backend::Text_Width(const toolkit::Font&, std::string_view text) { return Width_Of(text); }
+
+/// A word goes to the next line when it doesn't fit on its own any more; blanks hang over the line's end, and a word
+/// that is wider than a whole line sticks out.
+int Memory_Backend::Lines_Of(std::string_view paragraph, double width) const {
+  int lines = 1;
+  double used = 0;
+  while (!paragraph.empty()) {
+    const std::size_t word_end = std::min(paragraph.find(' '), paragraph.size());
+    const std::size_t next_word = std::min(paragraph.find_first_not_of(' ', word_end), paragraph.size());
+    if (used > 0 && used + Width_Of(paragraph.substr(0, word_end)) > width) {
+      ++lines;
+      used = 0;
+    }
+    used += Width_Of(paragraph.substr(0, next_word));
+    paragraph.remove_prefix(next_word);
+  }
+  return lines;
+}
+
+double Memory_Backend::Text_Height(const toolkit::Font&, std::string_view text, double width) {
+  int lines = 0;
+  for (;;) {
+    const std::size_t end = text.find('\n');
+    lines += Lines_Of(text.substr(0, end), width);
+    if (end == std::string_view::npos) return lines * line_height;
+    text.remove_prefix(end + 1);
+  }
 }
 
 std::size_t Memory_Backend::Longest_Beginning(const toolkit::Font&, std::string_view text, double limit) {

@@ -25,7 +25,11 @@ class Memory_Backend : public toolkit::Backend {
   /// Borders take no room: a window is as large as its client area.
   double Frame_Size(toolkit::Form_Border, toolkit::Axis) override { return 0; }
   double Screen_Size(toolkit::Axis axis) override;
+
+  /// It has every font.
+  std::string Font_Given_For(const std::string& name) override { return name; }
   double Text_Width(const toolkit::Font& font, std::string_view text) override;
+  double Text_Height(const toolkit::Font& font, std::string_view text, double width) override;
   std::size_t Longest_Beginning(const toolkit::Font& font, std::string_view text, double limit) override;
 
   /// The width of one character in twips; CR and LF have none.
@@ -35,6 +39,8 @@ class Memory_Backend : public toolkit::Backend {
 
  private:
   [[nodiscard]] double Width_Of(char character) const;
+  [[nodiscard]] double Width_Of(std::string_view text) const;
+  [[nodiscard]] int Lines_Of(std::string_view paragraph, double width) const;
   void Tick(toolkit::Timer& timer);
 
   Virtual_Time& time_;

@@ -20,8 +20,8 @@ void Memory_Instances::Enter() {
 }
 
 Window_Handle Memory_Instances::Find_Window(const std::string& title) {
-  const auto found = std::find_if(others_.begin(), others_.end(),
-                                  [&](const std::string& other) { return Same_Name(other, title); });
+  const auto found =
+      std::find_if(others_.begin(), others_.end(), [&](const std::string& other) { return Same_Name(other, title); });
   if (found != others_.end()) return first_other + static_cast<Window_Handle>(found - others_.begin());
   return Same_Name(title_, title) ? own_window : 0;
 }

@@ -20,8 +20,8 @@ using basic::Weekday;
 basic::Date_Words English() {
   return {{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"},
           {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"},
-          {"January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
-           "November", "December"},
+          {"January", "February", "March", "April", "May", "June", "July", "August", "September", "October", "November",
+           "December"},
           "/",
           ":"};
 }
@@ -29,8 +29,8 @@ basic::Date_Words English() {
 basic::Date_Words German() {
   return {{"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"},
           {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"},
-          {"Januar", "Februar", "M\xE4rz", "April", "Mai", "Juni", "Juli", "August", "September", "Oktober",
-           "November", "Dezember"},
+          {"Januar", "Februar", "M\xE4rz", "April", "Mai", "Juni", "Juli", "August", "September", "Oktober", "November",
+           "Dezember"},
           ".",
           ":"};
 }

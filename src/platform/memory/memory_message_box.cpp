@@ -28,9 +28,8 @@ Box_Answer Default_Answer(Box_Buttons buttons) {
 }  // namespace
 
 Memory_Message_Box::Prepared Memory_Message_Box::Answer_For(Box_Buttons buttons) {
-  const auto found = std::find_if(prepared_.begin(), prepared_.end(), [buttons](const Prepared& prepared) {
-    return Has_Button(buttons, prepared.answer);
-  });
+  const auto found = std::find_if(prepared_.begin(), prepared_.end(),
+                                  [buttons](const Prepared& prepared) { return Has_Button(buttons, prepared.answer); });
   if (found == prepared_.end()) return {Default_Answer(buttons), 0};
   const Prepared taken = *found;
   prepared_.erase(found);

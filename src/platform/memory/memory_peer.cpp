@@ -53,8 +53,6 @@ void Memory_Peer::Focus(toolkit::Control& control) {
   focused_ = &control;
 }
 
-toolkit::Control* Memory_Peer::Focused() const {
-  return focused_ != nullptr && Has(*focused_) ? focused_ : nullptr;
-}
+toolkit::Control* Memory_Peer::Focused() const { return focused_ != nullptr && Has(*focused_) ? focused_ : nullptr; }
 
 }  // namespace platform::memory

@@ -24,9 +24,8 @@ std::vector<Memory_Store::Value> Memory_Store::Values(const std::string& applica
   std::vector<Value> values;
   for (const auto& [address, value] : values_)
     if (address.front() == Folded(application)) values.push_back(value);
-  std::sort(values.begin(), values.end(), [](const Value& a, const Value& b) {
-    return std::tie(a.Section, a.Key) < std::tie(b.Section, b.Key);
-  });
+  std::sort(values.begin(), values.end(),
+            [](const Value& a, const Value& b) { return std::tie(a.Section, a.Key) < std::tie(b.Section, b.Key); });
   return values;
 }
 

@@ -58,10 +58,10 @@ class Memory_Windows {
 
   Virtual_Time& time_;
   Memory_Loop& loop_;
-  Peers loaded_;        // in the order of loading
-  Peers shown_;         // the visible ones in the order of showing
-  Peers front_;         // the visible ones, the foremost last
-  Peers activations_;   // the visible ones that were active, the active one last; nullptr is another program
+  Peers loaded_;       // in the order of loading
+  Peers shown_;        // the visible ones in the order of showing
+  Peers front_;        // the visible ones, the foremost last
+  Peers activations_;  // the visible ones that were active, the active one last; nullptr is another program
   bool silent_ = false;
 };
 

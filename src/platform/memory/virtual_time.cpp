@@ -38,8 +38,7 @@ bool Virtual_Time::Step(std::int64_t end) {
 }
 
 void Virtual_Time::Run_Until(std::int64_t end) {
-  while (Step(end)) {
-  }
+  while (Step(end)) {}
 }
 
 }  // namespace platform::memory
