@@ -73,7 +73,8 @@ Disk_Files::Disk_Files() {
 void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
   const Handle_Owner file = Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
   const DWORD size = GetFileSize(file.Get(), nullptr);
-  if (size > static_cast<DWORD>(std::numeric_limits<std::int32_t>::max())) throw Run_Error(Error_Number::Path_File_Access);
+  if (size > static_cast<DWORD>(std::numeric_limits<std::int32_t>::max()))
+    throw Run_Error(Error_Number::Path_File_Access);
   // Only what the buffer grows by is cleared first: it comes back with the size that it had.
   buffer.resize(size);
   DWORD read = 0;

@@ -53,6 +53,19 @@ int Fonts::Width(Face& face, std::string_view text) {
   return width == 0 ? 0 : width + face.Overhang;
 }
 
+int Fonts::Height(const Face& face, std::string_view text, int width) {
+  if (text.empty()) text = " ";
+  RECT place = {0, 0, width, 0};
+  DrawTextA(Select(face), text.data(), static_cast<int>(text.size()), &place, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+  return place.bottom;
+}
+
+std::string Fonts::Name_Of(const Face& face) {
+  char name[LF_FACESIZE] = "";
+  GetTextFaceA(Select(face), LF_FACESIZE, name);
+  return name;
+}
+
 std::size_t Fonts::Longest_Beginning(Face& face, std::string_view text, int limit) {
   if (limit < 0) return 0;
   if (double_bytes_) {

@@ -31,6 +31,12 @@ class Fonts {
   /// Pixels. Line ends have no width.
   int Width(Face& face, std::string_view text);
 
+  /// Pixels: the height of the text with its lines broken at blanks where the width (pixels) ends, one line at least.
+  int Height(const Face& face, std::string_view text, int width);
+
+  /// The name of the font that the system has in its place.
+  std::string Name_Of(const Face& face);
+
   /// The number of bytes of the longest beginning that is at most `limit` pixels wide; it never splits a character.
   std::size_t Longest_Beginning(Face& face, std::string_view text, int limit);
 

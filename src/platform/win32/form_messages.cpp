@@ -5,7 +5,7 @@ namespace platform::win32 {
 
 namespace {
 
-constexpr UINT check_tip = WM_APP;      // tips or places have changed under a pointer that may be at rest
+constexpr UINT check_tip = WM_APP;  // tips or places have changed under a pointer that may be at rest
 constexpr UINT lost_activity = WM_APP + 1;
 
 using toolkit::Mouse_Button;
@@ -54,7 +54,8 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
     case check_tip: {
       tip_check_posted_ = false;
       POINT at;
-      if (GetCursorPos(&at) != 0 && WindowFromPoint(at) == Window() && ScreenToClient(Window(), &at) != 0) Follow_Tip(at);
+      if (GetCursorPos(&at) != 0 && WindowFromPoint(at) == Window() && ScreenToClient(Window(), &at) != 0)
+        Follow_Tip(at);
       else tip_.Remove();
       return true;
     }

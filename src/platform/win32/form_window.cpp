@@ -63,8 +63,8 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
       tip_(context.Common_Controls) {
   Register_Class(context.Instance);
   const Frame_Style frame = Style_Of(form.Border);
-  window_.Reset(CreateWindowExA(frame.Extended, class_name, form.Caption().c_str(), frame.Style, place_.left, place_.top,
-                                place_.right - place_.left, place_.bottom - place_.top, nullptr, nullptr,
+  window_.Reset(CreateWindowExA(frame.Extended, class_name, form.Caption().c_str(), frame.Style, place_.left,
+                                place_.top, place_.right - place_.left, place_.bottom - place_.top, nullptr, nullptr,
                                 context.Instance, nullptr));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (form.Border == toolkit::Form_Border::Fixed_Dialog) {

@@ -11,7 +11,8 @@ Hidden_Window::Hidden_Window(HINSTANCE instance, Guard& guard, const char* windo
   description.hInstance = instance;
   description.lpszClassName = window_class;
   RegisterClassA(&description);
-  window_.Reset(CreateWindowExA(WS_EX_TOOLWINDOW, window_class, title, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, nullptr));
+  window_.Reset(CreateWindowExA(WS_EX_TOOLWINDOW, window_class, title, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance,
+                                nullptr));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

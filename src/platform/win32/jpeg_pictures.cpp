@@ -50,8 +50,10 @@ class Decoder {
   }
 
   Com_Owner<IPicture> Load(std::string_view file) const {
-    const auto make_stream = Find_Function<HRESULT WINAPI(HGLOBAL, BOOL, IStream**)>(ole_.Get(), "CreateStreamOnHGlobal");
-    const auto load = Find_Function<HRESULT WINAPI(IStream*, LONG, BOOL, REFIID, void**)>(automation_.Get(), "OleLoadPicture");
+    const auto make_stream =
+        Find_Function<HRESULT WINAPI(HGLOBAL, BOOL, IStream**)>(ole_.Get(), "CreateStreamOnHGlobal");
+    const auto load =
+        Find_Function<HRESULT WINAPI(IStream*, LONG, BOOL, REFIID, void**)>(automation_.Get(), "OleLoadPicture");
     if (make_stream == nullptr || load == nullptr) throw Run_Error(Error_Number::No_Object);
     const Memory_Owner memory(GlobalAlloc(GMEM_MOVEABLE, file.size()));
     if (!memory) Throw_Invalid();

@@ -53,11 +53,11 @@ void Native_Children::Make_Window(HWND parent, Child& child) {
   const DWORD enabled = child.Control->Enabled ? 0 : WS_DISABLED;
   child.Place = scale_.Pixels(child.Control->In_Twips());
   const auto id = static_cast<INT_PTR>(first_id + children_.size());
-  child.Window = CreateWindowExA(
-      kind.Extended, kind.Class, Text_Of(child.Text, child.Check, child.Button).c_str(),
-      WS_CHILD | WS_TABSTOP | kind.Style | shown | enabled, child.Place.left, child.Place.top,
-      child.Place.right - child.Place.left, child.Place.bottom - child.Place.top, parent, reinterpret_cast<HMENU>(id),
-      reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(parent, GWLP_HINSTANCE)), nullptr);
+  child.Window = CreateWindowExA(kind.Extended, kind.Class, Text_Of(child.Text, child.Check, child.Button).c_str(),
+                                 WS_CHILD | WS_TABSTOP | kind.Style | shown | enabled, child.Place.left,
+                                 child.Place.top, child.Place.right - child.Place.left,
+                                 child.Place.bottom - child.Place.top, parent, reinterpret_cast<HMENU>(id),
+                                 reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(parent, GWLP_HINSTANCE)), nullptr);
   Set_Font(child);
   if (child.Text != nullptr) SendMessageA(child.Window, EM_LIMITTEXT, 0, 0);  // as much as the system can
   if (child.Check != nullptr) SendMessageA(child.Window, BM_SETCHECK, child.Check->Value() == 1, 0);
@@ -73,14 +73,14 @@ void Native_Children::Set_Font(const Child& child) {
 }
 
 Native_Children::Child* Native_Children::Find(HWND window) {
-  const auto found = std::find_if(children_.begin(), children_.end(),
-                                  [=](const Child& child) { return child.Window == window; });
+  const auto found =
+      std::find_if(children_.begin(), children_.end(), [=](const Child& child) { return child.Window == window; });
   return found == children_.end() ? nullptr : &*found;
 }
 
 bool Native_Children::Changed(const toolkit::Control& control, toolkit::Aspect aspect) {
-  const auto found = std::find_if(children_.begin(), children_.end(),
-                                  [&](const Child& child) { return child.Control == &control; });
+  const auto found =
+      std::find_if(children_.begin(), children_.end(), [&](const Child& child) { return child.Control == &control; });
   if (found == children_.end()) return false;
   Child& child = *found;
   using enum toolkit::Aspect;
@@ -89,8 +89,7 @@ bool Native_Children::Changed(const toolkit::Control& control, toolkit::Aspect a
   if (aspect == Enabled) EnableWindow(child.Window, control.Enabled);
   if (aspect == Caption) Set_Text(child);
   if (aspect == Appearance) Set_Font(child);
-  if (aspect == Value && child.Check != nullptr)
-    SendMessageA(child.Window, BM_SETCHECK, child.Check->Value() == 1, 0);
+  if (aspect == Value && child.Check != nullptr) SendMessageA(child.Window, BM_SETCHECK, child.Check->Value() == 1, 0);
   if (aspect == Default_Button && child.Button != nullptr)
     SendMessageA(child.Window, BM_SETSTYLE, child.Button->Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
   if (aspect == Selection && child.Text != nullptr) {

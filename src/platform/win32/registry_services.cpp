@@ -39,7 +39,8 @@ std::string Registry_Store::Get(const std::string& application, const std::strin
   const std::string path = Section_Path(application, section);
   if (!section_ || path != section_path_) {
     HKEY opened = nullptr;
-    if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS) return default_text;
+    if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS)
+      return default_text;
     section_.Reset(opened);
     section_path_ = path;
   }
@@ -100,7 +101,9 @@ int System_Registry::Set(Key key, const std::string& name, Value_Type type, std:
                         reinterpret_cast<const BYTE*>(copy.c_str()), static_cast<DWORD>(copy.size()));
 }
 
-int System_Registry::Delete_Value(Key key, const std::string& name) { return RegDeleteValueA(To_Key(key), name.c_str()); }
+int System_Registry::Delete_Value(Key key, const std::string& name) {
+  return RegDeleteValueA(To_Key(key), name.c_str());
+}
 
 int System_Registry::Flush(Key key) { return RegFlushKey(To_Key(key)); }
 

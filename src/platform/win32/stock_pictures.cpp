@@ -39,7 +39,8 @@ void Put_On_Menu_Ground(HBITMAP bitmap) {
   for (std::size_t row = 0; row < height; ++row)
     for (std::size_t x = 0; x < static_cast<std::size_t>(section.dsBm.bmWidth); ++x) {
       const std::span pixel = bytes.subspan(row * pitch + x * 3, 3);
-      if (std::equal(pixel.begin(), pixel.end(), ground.begin())) std::copy(wanted.begin(), wanted.end(), pixel.begin());
+      if (std::equal(pixel.begin(), pixel.end(), ground.begin()))
+        std::copy(wanted.begin(), wanted.end(), pixel.begin());
     }
 }
 
@@ -74,7 +75,8 @@ HBITMAP Stock_Pictures::Menu_Bitmap(Stock_Picture picture) {
   if (picture == Stock_Picture::None || Is_Icon(picture)) return nullptr;
   Bitmap_Owner& bitmap = bitmaps_.at(static_cast<std::size_t>(picture));
   if (!bitmap) {
-    const HANDLE loaded = LoadImageA(instance_, MAKEINTRESOURCEA(Resource_Number(picture)), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+    const HANDLE loaded =
+        LoadImageA(instance_, MAKEINTRESOURCEA(Resource_Number(picture)), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
     bitmap.Reset(static_cast<HBITMAP>(loaded));
     Put_On_Menu_Ground(bitmap.Get());
   }

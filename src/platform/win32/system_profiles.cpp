@@ -7,8 +7,8 @@ namespace platform::win32 {
 std::string System_Profiles::Get_Text(const std::string& section, const std::string& entry,
                                       const std::string& default_text, unsigned room, const std::string& file) {
   std::string text(room, '\0');
-  const DWORD length = GetPrivateProfileStringA(section.c_str(), entry.c_str(), default_text.c_str(), text.data(), room,
-                                                file.c_str());
+  const DWORD length =
+      GetPrivateProfileStringA(section.c_str(), entry.c_str(), default_text.c_str(), text.data(), room, file.c_str());
   text.resize(length);
   return text;
 }

@@ -30,8 +30,8 @@ bool Tip_Window::Make(HWND owner) {
   if (start == nullptr) return false;
   start();
   owner_ = owner;
-  window_.Reset(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
-                                0, owner, nullptr, GetModuleHandleA(nullptr), nullptr));
+  window_.Reset(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0,
+                                0, 0, owner, nullptr, GetModuleHandleA(nullptr), nullptr));
   SendMessageA(window_.Get(), TTM_SETMAXTIPWIDTH, 0, widest_tip);
   return static_cast<bool>(window_);
 }

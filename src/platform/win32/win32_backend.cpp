@@ -34,8 +34,19 @@ double Win32_Backend::Screen_Size(toolkit::Axis axis) {
   return GetSystemMetrics(axis == toolkit::Axis::Across ? SM_CXSCREEN : SM_CYSCREEN) * Twips_Per_Pixel(axis);
 }
 
+std::string Win32_Backend::Font_Given_For(const std::string& name) {
+  toolkit::Font font;
+  font.Name = name;
+  return context_.Fonts.Name_Of(context_.Fonts.Get(font));
+}
+
 double Win32_Backend::Text_Width(const toolkit::Font& font, std::string_view text) {
   return context_.Fonts.Width(context_.Fonts.Get(font), text) * context_.Scale.X;
+}
+
+double Win32_Backend::Text_Height(const toolkit::Font& font, std::string_view text, double width) {
+  const Scale& scale = context_.Scale;
+  return context_.Fonts.Height(context_.Fonts.Get(font), text, scale.Pixels_X(width)) * scale.Y;
 }
 
 std::size_t Win32_Backend::Longest_Beginning(const toolkit::Font& font, std::string_view text, double limit) {

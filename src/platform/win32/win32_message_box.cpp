@@ -40,7 +40,8 @@ class Others_Disabled {
  public:
   Others_Disabled(const Window_List& windows, HWND owner) {
     for (const Form_Window* const window : windows.All())
-      if (window->Window() != owner && EnableWindow(window->Window(), FALSE) == 0) disabled_.push_back(window->Window());
+      if (window->Window() != owner && EnableWindow(window->Window(), FALSE) == 0)
+        disabled_.push_back(window->Window());
   }
   Others_Disabled(const Others_Disabled&) = delete;
   Others_Disabled& operator=(const Others_Disabled&) = delete;

@@ -37,8 +37,8 @@ struct Win32_Platform::Parts {
   System_Profiles Profiles;
   Desktop_Picture Wallpaper;
   Jpeg_Pictures Pictures;
-  platform::System System{Clock,     Locale, Files, Loop,     Message_Box, Popup_Menu, Store,
-                          Screen,    Instances, Shell, Registry, Profiles,    Wallpaper,  Pictures};
+  platform::System System{Clock,  Locale,    Files, Loop,     Message_Box, Popup_Menu, Store,
+                          Screen, Instances, Shell, Registry, Profiles,    Wallpaper,  Pictures};
 };
 
 namespace {
