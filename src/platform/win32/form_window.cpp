@@ -22,6 +22,11 @@ HRGN Make_Region(const std::vector<toolkit::Pixel_Rect>& rects) {
   return ExtCreateRegion(nullptr, static_cast<DWORD>(bytes.size()), data);
 }
 
+/// A window without a frame has none: nobody sees it, and other instances look for this one by its title alone.
+const char* Title_Of(const toolkit::Form& form) {
+  return form.Border == toolkit::Form_Border::None ? "" : form.Caption().c_str();
+}
+
 /// The painting of what of a window is marked.
 class Painting {
  public:
@@ -63,8 +68,8 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
       tip_(context.Common_Controls) {
   Register_Class(context.Instance);
   const Frame_Style frame = Style_Of(form.Border);
-  window_.Reset(CreateWindowExA(frame.Extended, class_name, form.Caption().c_str(), frame.Style, place_.left,
-                                place_.top, place_.right - place_.left, place_.bottom - place_.top, nullptr, nullptr,
+  window_.Reset(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
+                                place_.right - place_.left, place_.bottom - place_.top, nullptr, nullptr,
                                 context.Instance, nullptr));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (form.Border == toolkit::Form_Border::Fixed_Dialog) {
@@ -103,7 +108,7 @@ void Form_Window::Focus(toolkit::Control& control) { children_.Focus(control); }
 void Form_Window::Form_Changed(toolkit::Aspect aspect) {
   using enum toolkit::Aspect;
   if (aspect == Bounds) Move_To_Place();
-  if (aspect == Caption) SetWindowTextA(Window(), form_.Caption().c_str());
+  if (aspect == Caption) SetWindowTextA(Window(), Title_Of(form_));
   if (aspect == Enabled) EnableWindow(Window(), form_.Enabled);
   if (aspect == Appearance) Repaint_All();
   POINT at;
