@@ -12,14 +12,18 @@ Edit_Box::Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Mon
       calendar_(calendar) {}
 
 void Edit_Box::Open(basic::Int16 index) {
-  const std::string long_date = Long_Date(grid_.Day_Of_Box(index));
+  const basic::Int16 day = grid_.Day_Of_Box(index);
+  const basic::Serial_Day serial =
+      basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), day.Value());
   editor_.Window.Load();
   if (!Settle_Unsaved_Text()) {
     editor_.Window.Set_Focus(editor_.Message_Txt);
     return;
   }
-  Fill(index);
-  editor_.Date_Lbl.Caption = long_date;
+  calendar_.Current_Box = index;
+  calendar_.Selected_Date = events::Date_Key(day, calendar_.View_Month, calendar_.View_Year);
+  Fill();
+  editor_.Date_Lbl.Caption = Long_Date(serial, day);
   editor_.Window.Show();
   editor_.Window.Set_Focus(editor_.Message_Txt);
   editor_.Message_Txt.SelStart = 0;
@@ -36,19 +40,14 @@ bool Edit_Box::Settle_Unsaved_Text() {
   return true;
 }
 
-void Edit_Box::Fill(basic::Int16 index) {
-  const basic::Int16 day = grid_.Day_Of_Box(index);
-  calendar_.Current_Box = index;
-  calendar_.Selected_Date = events::Date_Key(day, calendar_.View_Month, calendar_.View_Year);
+void Edit_Box::Fill() {
   editor_.Window.Load();
   editor_.Message_Txt.Text = "";
   editor_.Message_Txt.Text = basic::Single_Ampersands(event_file_.Get_Message(true));
   editor_.Apply_Btn.Enabled = false;
 }
 
-std::string Edit_Box::Long_Date(basic::Int16 day) const {
-  const basic::Serial_Day serial =
-      basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), day.Value());
+std::string Edit_Box::Long_Date(basic::Serial_Day serial, basic::Int16 day) const {
   const basic::Date_Words& words = locale_.Words();
   return words.Weekday_Name(basic::Weekday_Of(serial)) + " " + basic::To_Text(day) + Get_Suffix(day) + " " +
          words.Month_Name(calendar_.View_Month.Value()) + " " + basic::To_Text(calendar_.View_Year);

@@ -18,8 +18,8 @@ class Edit_Box {
  private:
   /// Says whether the editor may be filled anew.
   bool Settle_Unsaved_Text();
-  void Fill(basic::Int16 index);
-  [[nodiscard]] std::string Long_Date(basic::Int16 day) const;
+  void Fill();
+  [[nodiscard]] std::string Long_Date(basic::Serial_Day serial, basic::Int16 day) const;
 
   editor::Edit_Frm& editor_;
   events::Event_File& event_file_;

@@ -29,6 +29,7 @@ Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arr
   start_timer_.On_Tick = [this] {
     start_timer_.Disable();
     Window.Unload();
+    On_Closed();
   };
 }
 

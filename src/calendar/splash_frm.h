@@ -14,6 +14,9 @@ class Splash_Frm {
   toolkit::Image Image1;
   toolkit::Label Label9;
 
+  /// After it has gone.
+  std::function<void()> On_Closed;
+
   /// Shows it; it goes by itself after 1500 milliseconds.
   void Show() { Window.Show(false); }
 

@@ -45,7 +45,9 @@ void Meridex::Tie() {
   box_mouse_.Balloon_Tooltip = [this](const std::string& text) { balloons_.Balloon_Tooltip(text); };
   menus_.Exit = [this] { Exit(); };
   instances_.On_Close_Request = [this] { Exit(); };
-  arrangement_.Main_Frm.On_Unload = [this] { loop_.Quit(); };
+  arrangement_.Main_Frm.On_Unload = [this] { date_watch_.Dectect_Date_Timer.Disable(); };
+  arrangement_.Main_Frm.On_Close = [this] { Exit(); };
+  splash_.On_Closed = [this] { Quit_Behind_Last_Window(); };
 }
 
 void Meridex::Start() {
@@ -58,4 +60,9 @@ void Meridex::Exit() {
   editor_.Window.Unload();
   balloons_.Unload_All();
   arrangement_.Main_Frm.Unload();
+  Quit_Behind_Last_Window();
+}
+
+void Meridex::Quit_Behind_Last_Window() {
+  if (!arrangement_.Main_Frm.Loaded() && !splash_.Window.Loaded()) loop_.Quit();
 }

@@ -16,13 +16,14 @@ class Meridex {
   /// The load of the calendar window, and the window on the screen. Throws Run_Error where the load ends the program.
   void Start();
 
-  /// Closes all windows and ends the program. Events and settings are on disk already.
+  /// Closes all windows; the program ends with the last of them, the splash, where it still shows. Events and settings are on disk already.
   void Exit();
 
   [[nodiscard]] const state::Calendar_State& State() const { return calendar_; }
 
  private:
   void Tie();
+  void Quit_Behind_Last_Window();
 
   platform::Event_Loop& loop_;
   platform::Instances& instances_;
