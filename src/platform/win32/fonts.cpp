@@ -1,7 +1,6 @@
 #include "platform/win32/fonts.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace platform::win32 {
 
@@ -94,12 +93,16 @@ void Fonts::Measure(Face& face) {
   if (face.Measured) return;
   face.Measured = true;
   const HDC context = Select(face);
-  // Windows 98 has the older of the two calls alone.
-  if (GetCharWidth32A(context, 0, 255, face.Widths.data()) == 0) GetCharWidthA(context, 0, 255, face.Widths.data());
-  for (const char c : {'\r', '\n'}) face.Widths[static_cast<unsigned char>(c)] = 0;
-  SIZE one = {};
+  GetCharWidthA(context, 0, 255, face.Widths.data());
+  // A font that the system has made bold or italic itself is wider than its characters, by an overhang that some
+  // systems count once for a text and others for each character too.
+  SIZE one = {}, two = {};
   GetTextExtentPoint32A(context, "x", 1, &one);
-  face.Overhang = std::max(0, static_cast<int>(one.cx) - face.Widths['x']);
+  GetTextExtentPoint32A(context, "xx", 2, &two);
+  const int advance = two.cx - one.cx, surplus = face.Widths['x'] - advance;
+  for (int& width : face.Widths) width -= surplus;
+  for (const char c : {'\r', '\n'}) face.Widths[static_cast<unsigned char>(c)] = 0;
+  face.Overhang = one.cx - advance;
 }
 
 }  // namespace platform::win32
