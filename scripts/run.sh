@@ -202,9 +202,10 @@ fi
 copy_prefix "$scratch/prefix"
 put_settings
 fill_folder
-boot_prefix
 if [ -n "$virtual" ]; then
+  boot_desktop
   shoot
 else
+  boot_prefix
   start_program
 fi

@@ -6,6 +6,7 @@
 #   copy_prefix FOLDER                a prefix for one run: own registry, shared system folder; sets WINEPREFIX
 #   store_setting SECTION KEY VALUE   a stored setting of the program in that prefix, before it is booted
 #   boot_prefix                       starts its server, on the real clock
+#   boot_desktop                      the same on a display of start_display's, until Wine's desktop stands there
 #   on_clock FILE COMMAND...          runs a command on the clock that FILE tells
 #   end_prefix                        ends every program of the prefix
 #
@@ -20,7 +21,8 @@ export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES='mscoree,mshtml='
 
 cache_folder=${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/meridex
-golden_prefix=$cache_folder/wine-prefix
+# The number counts the recipes below: trees of different ages can share the cache.
+golden_prefix=$cache_folder/wine-prefix-2
 display_process=
 
 # Polls: tries the command every 50 ms until it succeeds; fails after SECONDS.
@@ -55,11 +57,6 @@ end_display() {
   display_process=
 }
 
-# What a golden prefix must have been made by: this recipe's number and the Wine at hand.
-golden_stamp() {
-  echo "recipe 1, $("$WINE64" --version)"
-}
-
 add_value() { # KEY NAME KIND DATA
   "$WINE64" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 </dev/null
 }
@@ -75,13 +72,14 @@ fill_golden_prefix() {
   add_value 'HKCU\Software\Wine\Explorer' Desktop REG_SZ meridex
   add_value 'HKCU\Software\Wine\Explorer\Desktops' meridex REG_SZ "$screen_size"
   add_value 'HKCU\Control Panel\Colors' Background REG_SZ '58 110 165'
+  add_value 'HKCU\Control Panel\Colors' WindowFrame REG_SZ '0 0 0'
   "$WINESERVER" -k || true
   timeout 60 "$WINESERVER" -w
 }
 
 make_golden_prefix() {
   local stamp
-  stamp=$(golden_stamp)
+  stamp=$("$WINE64" --version)
   mkdir -p "$cache_folder"
   (
     flock 9
@@ -119,6 +117,22 @@ store_setting() { # SECTION KEY VALUE
 boot_prefix() {
   "$WINESERVER" -p60  # it goes by itself if a run is cut off
   timeout 60 "$WINE64" cmd /c ver >/dev/null 2>&1 </dev/null
+}
+
+desktop_stands() {
+  [ "$(import -window root -crop 1x1+1+1 -depth 8 rgb:- | od -An -tu1)" = "  58 110 165" ]
+}
+
+# The desktop comes up on its own, and now and then it doesn't.
+boot_desktop() {
+  local try
+  for try in 1 2 3; do
+    boot_prefix
+    ! wait_until 15 desktop_stands || return 0
+    echo "Wine's desktop didn't come up (try $try)" >&2
+    end_prefix
+  done
+  return 1
 }
 
 # FILE holds '@YYYY-MM-DD HH:MM:SS' for a clock that runs on from there. Timers and the wait for them stay real.

@@ -29,7 +29,7 @@ class Start(Desktop_Test):
         self.assertEqual(desktop.exit_status(first), 0)
         wait_for(lambda: len(desktop.windows()) == 1, "one calendar")
         desktop.calendar()
-        self.assertIsNone(second.poll())
+        self.assertIsNone(second.poll(), "the second goes on")
 
     def ends_with(self, number, description, **stored):
         desktop = self.desktop(**stored)

@@ -54,12 +54,15 @@ class Desktop:
             self.prefix.preset("Software\\Meridex\\Settings", self.settings)
             if colours:
                 self.prefix.preset("Software\\Meridex\\Colours", colours)
-            self.prefix.boot()
+            self.prefix.boot(self._desktop_stands)
             self.prefix.set_clock(now)
             self.screen.rest_pointer()
         except BaseException:
             self.close()
             raise
+
+    def _desktop_stands(self):
+        return self.screen.picture().pixel(1, 1) == DESKTOP_COLOUR
 
     def close(self):
         if hasattr(self, "prefix"):
@@ -98,8 +101,9 @@ class Desktop:
         return self.screen.windows(PROGRAM)
 
     def calendar_window(self):
-        """The calendar's window if it is on the screen: the one without a title bar that bears the program's name."""
-        return next((window for window in self.windows() if window.title == "Meridex" and not window.framed), None)
+        """The calendar's window if it is on the screen: neither title nor frame, and as wide as one of the styles."""
+        return next((window for window in self.windows()
+                     if not window.framed and not window.title and window.rect.width in geometry.WINDOW_WIDTHS), None)
 
     def calendar(self):
         """Waits until the calendar stands on the screen; returns its place."""
@@ -151,7 +155,8 @@ class Desktop:
 
     def menu_choose(self, number):
         """Chooses an item of the open popup menu, counted from 1; separators and grey items don't count."""
-        wait_for(lambda: any(window.title == "" and not window.framed for window in self.windows()), "a menu")
+        wait_for(lambda: any(not window.framed and window.rect.width not in geometry.WINDOW_WIDTHS
+                             for window in self.windows()), "a menu")
         self.screen.picture_at_rest()
         self.screen.key(*["Down"] * number, "Return")
 

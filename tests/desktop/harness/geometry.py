@@ -148,6 +148,10 @@ class Layout:
         return Rect(one.right, one.top, other.left, one.bottom)
 
 
+# The width of the window in each style.
+WINDOW_WIDTHS = [Layout(style, 2004, 3, 2).window_size[0] for style in STYLES]
+
+
 def placed(alignment, window_twips, area, manual=(0, 0)):
     """Left and top of the window in pixels, for a position number and a work area in pixels."""
     width, height = window_twips

@@ -3,6 +3,8 @@ import pathlib
 import shutil
 import subprocess
 
+from .waiting import wait_for
+
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 WINE, SERVER = "/usr/lib/wine/wine64", "/usr/lib/wine/wineserver64"
 FAKE_CLOCK = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
@@ -44,11 +46,19 @@ class Prefix:
             file.write(f"\n[{registry_text(key)}] 1\n")
             file.writelines(f'"{registry_text(name)}"="{registry_text(value)}"\n' for name, value in values.items())
 
-    def boot(self):
-        """On the real clock, so that only the program sees the false one. The server goes by itself if a test is cut off."""
-        subprocess.run([SERVER, "-p60"], env=self.environment, timeout=60, check=True)
-        self.run("cmd", "/c", "ver")
-        self.booted = True
+    def boot(self, stands):
+        """On the real clock, so that only the program sees the false one. The server goes by itself if a test is cut off.
+        Wine's desktop comes up on its own, and now and then it doesn't: `stands` tells whether it has."""
+        for _ in range(3):
+            subprocess.run([SERVER, "-p60"], env=self.environment, timeout=60, check=True)
+            self.run("cmd", "/c", "ver")
+            self.booted = True
+            try:
+                wait_for(stands, "Wine's desktop")
+                return
+            except AssertionError:
+                self.end()
+        raise RuntimeError("Wine's desktop didn't come up in three tries")
 
     def end(self):
         """Ends every program of the prefix."""
