@@ -42,6 +42,7 @@ class Memory_Platform {
 
   toolkit::Backend& Backend() { return Windows_And_Timers; }
   Memory_Windows& Windows() { return Windows_And_Timers.Windows; }
+  [[nodiscard]] const Memory_Windows& Windows() const { return Windows_And_Timers.Windows; }
   platform::System System();
 
   /// A process of the program begins: it takes the present locale, and nothing of an earlier one is left in the way.
