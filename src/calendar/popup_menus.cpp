@@ -48,7 +48,7 @@ void Popup_Menus::Popup_Months() {
   const int month = Track(presentation::Months_Menu(calendar_.View_Month, calendar_.View_Year, today.Month, today.Year));
   if (month == 0) return;
   calendar_.View_Month = month;
-  Refresh_Month();
+  view_.Refresh_Calendar();
 }
 
 void Popup_Menus::Popup_Years() {
@@ -61,7 +61,7 @@ void Popup_Menus::Popup_Years() {
     case presentation::two_on: calendar_.View_Year += 2; break;
     default: return;
   }
-  Refresh_Month();
+  view_.Refresh_Calendar();
 }
 
 void Popup_Menus::Popup_Start_Day(basic::Int16 index) {
@@ -79,11 +79,6 @@ void Popup_Menus::Set_As_Start_Day(basic::Int16 index) {
   }
   view_.Refresh_Calendar();
   stored_.Save(&settings::Settings::Start_Day);
-}
-
-void Popup_Menus::Refresh_Month() {
-  view_.Write_Title();
-  view_.Redraw_Grid();
 }
 
 }  // namespace calendar

@@ -26,9 +26,6 @@ class Popup_Menus {
   void Clear(basic::Int16 index);
   void Set_As_Start_Day(basic::Int16 index);
 
-  /// The title and the grid of the month on view, whatever the mode.
-  void Refresh_Month();
-
   platform::Popup_Menu& menu_;
   presentation::Arrangement& arrangement_;
   Month_Grid& grid_;

@@ -38,7 +38,7 @@ class Balloons {
   platform::Clock& clock_;
   presentation::Arrangement& arrangement_;
   state::Calendar_State& calendar_;
-  std::vector<std::unique_ptr<Frm_Balloon>> balloons_;
+  std::vector<std::shared_ptr<Frm_Balloon>> balloons_;
 };
 
 }  // namespace tooltips
