@@ -15,7 +15,8 @@ constexpr const char* desktop_key = "Control Panel\\Desktop";
 
 class Set_Wallpaper_Mod {
  public:
-  Set_Wallpaper_Mod(platform::Registry_Keys& keys, platform::Wallpaper& wallpaper) : keys_(keys), wallpaper_(wallpaper) {}
+  Set_Wallpaper_Mod(platform::Registry_Keys& keys, platform::Wallpaper& wallpaper)
+      : keys_(keys), wallpaper_(wallpaper) {}
 
   /// Makes the file the desktop's picture: display mode 0 in the middle, 1 tiled, any other stretched. An empty path takes
   /// the picture off. A failure isn't told.
@@ -25,7 +26,8 @@ class Set_Wallpaper_Mod {
   void Apply_Wallpaper(const std::string& path, std::string_view mode_word);
 
   /// Writes a text into a key that is there, whatever fails on the way.
-  void Write_Desktop_Value(platform::Hive hive, const std::string& key, const std::string& name, const std::string& text);
+  void Write_Desktop_Value(platform::Hive hive, const std::string& key, const std::string& name,
+                           const std::string& text);
 
  private:
   platform::Registry_Keys& keys_;

@@ -21,8 +21,8 @@ struct Hive_Name {
 };
 
 constexpr Hive_Name hive_names[] = {
-    {"HKCU", platform::Hive::Current_User}, {"HKLM", platform::Hive::Local_Machine},
-    {"HKU", platform::Hive::Users},         {"HKDD", platform::Hive::Dyn_Data},
+    {"HKCU", platform::Hive::Current_User},   {"HKLM", platform::Hive::Local_Machine},
+    {"HKU", platform::Hive::Users},           {"HKDD", platform::Hive::Dyn_Data},
     {"HKCC", platform::Hive::Current_Config}, {"HKCR", platform::Hive::Classes_Root},
 };
 
@@ -55,7 +55,8 @@ struct As_Int16 {
 /// The lowest `size` bytes of a number, the lowest first, as the registry keeps numbers.
 std::string Bytes_Of(std::int32_t number, std::size_t size) {
   std::string bytes;
-  for (auto rest = static_cast<std::uint32_t>(number); bytes.size() < size; rest >>= 8) bytes += static_cast<char>(rest);
+  for (auto rest = static_cast<std::uint32_t>(number); bytes.size() < size; rest >>= 8)
+    bytes += static_cast<char>(rest);
   return bytes;
 }
 

@@ -10,7 +10,7 @@
 namespace platform::memory {
 
 struct Plain_Picture {
-  int Width = 0, Height = 0;  ///< pixels
+  int Width = 0, Height = 0;         ///< pixels
   int Red = 0, Green = 0, Blue = 0;  ///< 0 to 255
 };
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "basic/text.h"
+#include "platform/memory/letter_case.h"
 
 namespace platform::memory {
 
@@ -18,7 +19,7 @@ bool Is_Section(std::string_view line) { return basic::Trim_Blanks(line).starts_
 
 bool Is_Section(std::string_view line, std::string_view section) {
   line = basic::Trim_Blanks(line);
-  return Is_Section(line) && basic::Same_Letters(basic::Trim_Blanks(line.substr(1, line.find(']') - 1)), section);
+  return Is_Section(line) && Same_Name(basic::Trim_Blanks(line.substr(1, line.find(']') - 1)), section);
 }
 
 /// The text of an entry's line; nothing if the line isn't that entry's.
@@ -26,13 +27,14 @@ std::optional<std::string_view> Text_Of(std::string_view line, std::string_view 
   line = basic::Trim_Blanks(line);
   const std::size_t mark = line.find('=');
   if (line.starts_with(';') || mark == std::string_view::npos) return std::nullopt;
-  if (!basic::Same_Letters(basic::Trim_Blanks(line.substr(0, mark)), entry)) return std::nullopt;
+  if (!Same_Name(basic::Trim_Blanks(line.substr(0, mark)), entry)) return std::nullopt;
   return basic::Trim_Blanks(line.substr(mark + 1));
 }
 
 /// The lines of a section, its head line apart; both ends the file's if there is no such section.
 std::pair<Line, Line> Lines_Of(const Lines& lines, std::string_view section) {
-  const auto head = std::find_if(lines.begin(), lines.end(), [&](const auto& line) { return Is_Section(line, section); });
+  const auto head =
+      std::find_if(lines.begin(), lines.end(), [&](const auto& line) { return Is_Section(line, section); });
   if (head == lines.end()) return {lines.end(), lines.end()};
   return {head + 1, std::find_if(head + 1, lines.end(), [](const auto& line) { return Is_Section(line); })};
 }
@@ -82,7 +84,8 @@ bool Memory_Profiles::Write_Text(const std::string& section, const std::string& 
   const std::string line = entry + "=" + text;
   const auto [first, last] = Lines_Of(lines, section);
   const bool absent = first == lines.end() && (lines.empty() || !Is_Section(lines.back(), section));
-  const auto old = std::find_if(first, last, [&](const auto& candidate) { return Text_Of(candidate, entry).has_value(); });
+  const auto old =
+      std::find_if(first, last, [&](const auto& candidate) { return Text_Of(candidate, entry).has_value(); });
   if (absent) {
     lines.push_back("[" + section + "]");
     lines.push_back(line);

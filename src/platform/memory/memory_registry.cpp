@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "basic/text.h"
+#include "platform/memory/letter_case.h"
 
 namespace platform::memory {
 
@@ -33,7 +33,7 @@ int Memory_Registry::Query(Key key, const std::string& name, char* data, std::ui
   int status = 0;
   const Values* const values = Values_Of(key, Key_Access::Query_Value, status);
   if (values == nullptr) return status;
-  const auto found = values->find(basic::Upper_Case(name));
+  const auto found = values->find(Folded(name));
   if (found == values->end()) return status_not_found;
   const std::string& bytes = found->second;
   const std::uint32_t room = size;
@@ -48,7 +48,7 @@ int Memory_Registry::Set(Key key, const std::string& name, Value_Type type, std:
   int status = 0;
   Values* const values = Values_Of(key, Key_Access::Set_Value, status);
   if (values == nullptr) return status;
-  std::string& value = (*values)[basic::Upper_Case(name)] = bytes;
+  std::string& value = (*values)[Folded(name)] = bytes;
   // The system adds the terminator to a text alone, and not to an empty one: that has no byte that could lack it.
   if (type == Value_Type::Text && !value.empty() && value.back() != '\0') value += '\0';
   return 0;
@@ -58,7 +58,7 @@ int Memory_Registry::Delete_Value(Key key, const std::string& name) {
   int status = 0;
   Values* const values = Values_Of(key, Key_Access::Set_Value, status);
   if (values == nullptr) return status;
-  return values->erase(basic::Upper_Case(name)) == 0 ? status_not_found : 0;
+  return values->erase(Folded(name)) == 0 ? status_not_found : 0;
 }
 
 int Memory_Registry::Flush(Key key) { return open_keys_.contains(key) ? 0 : status_invalid_handle; }
@@ -66,13 +66,13 @@ int Memory_Registry::Flush(Key key) { return open_keys_.contains(key) ? 0 : stat
 int Memory_Registry::Close(Key key) { return open_keys_.erase(key) == 0 ? status_invalid_handle : 0; }
 
 void Memory_Registry::Put(Hive hive, const std::string& path, const std::string& name, const std::string& text) {
-  Make(Address_Of(hive, path))[basic::Upper_Case(name)] = text + '\0';
+  Make(Address_Of(hive, path))[Folded(name)] = text + '\0';
 }
 
 std::optional<std::string> Memory_Registry::Find(Hive hive, const std::string& path, const std::string& name) const {
   const auto key = keys_.find(Address_Of(hive, path));
   if (key == keys_.end()) return std::nullopt;
-  const auto value = key->second.find(basic::Upper_Case(name));
+  const auto value = key->second.find(Folded(name));
   if (value == key->second.end()) return std::nullopt;
   std::string text = value->second;
   if (!text.empty() && text.back() == '\0') text.pop_back();
@@ -85,7 +85,7 @@ void Memory_Registry::Deny(Hive hive, bool denied) {
 }
 
 Memory_Registry::Address Memory_Registry::Address_Of(Hive hive, const std::string& path) {
-  return {hive, basic::Upper_Case(path)};
+  return {hive, Folded(path)};
 }
 
 /// Makes a key and all keys above it.
