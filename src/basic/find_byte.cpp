@@ -1,6 +1,7 @@
 #include "basic/find_byte.h"
 
 #include <bit>
+#include <cstdint>
 #include <cstring>
 
 #ifdef __SSE2__
@@ -11,11 +12,29 @@ namespace basic {
 
 #ifdef __SSE2__
 
+namespace {
+
+/// A bit for each of sixteen bytes: set where it is the one that the sample consists of.
+std::uint64_t Hits_In_16(const char* at, __m128i sample) {
+  const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+  return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, sample)));
+}
+
+std::uint64_t Hits_In_64(const char* at, __m128i sample) {
+  return Hits_In_16(at, sample) | Hits_In_16(at + 16, sample) << 16U | Hits_In_16(at + 32, sample) << 32U |
+         Hits_In_16(at + 48, sample) << 48U;
+}
+
+}  // namespace
+
 const char* Find_Byte(const char* at, const char* end, char wanted) {
   const __m128i sample = _mm_set1_epi8(wanted);
+  for (; end - at >= 64; at += 64) {
+    const std::uint64_t hits = Hits_In_64(at, sample);
+    if (hits != 0) return at + std::countr_zero(hits);
+  }
   for (; end - at >= 16; at += 16) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    const auto hits = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, sample)));
+    const std::uint64_t hits = Hits_In_16(at, sample);
     if (hits != 0) return at + std::countr_zero(hits);
   }
   while (at != end && *at != wanted) ++at;

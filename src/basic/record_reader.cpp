@@ -1,7 +1,5 @@
 #include "basic/record_reader.h"
 
-#include <algorithm>
-
 #include "basic/find_byte.h"
 
 namespace basic {
@@ -25,7 +23,9 @@ bool Record_Reader::Next(std::string_view& record) {
 }
 
 const char* Record_Reader::Next_Delimiter() const {
-  return std::find_if(at_, end_, [](char c) { return c == '\r' || c == '\n' || c == ','; });
+  const char* at = at_;
+  while (at != end_ && *at != '\r' && *at != '\n' && *at != ',') ++at;
+  return at;
 }
 
 void Record_Reader::Pass_Delimiter() {

@@ -10,7 +10,8 @@ using basic::Find_Byte;
 namespace {
 
 constexpr int block = 16;
-constexpr int longest = 3 * block + 3;
+constexpr int wide_block = 64;
+constexpr int longest = wide_block + 3 * block + 3;
 
 // The bytes to search stand in the middle of a buffer that is full of the wanted byte elsewhere: a search that looks
 // outside finds a wrong one.
