@@ -1,0 +1,59 @@
+#include "bench/bench_program.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace bench {
+
+namespace {
+
+constexpr std::int64_t nine_in_the_morning = 9 * 3600 * platform::memory::micros_of_a_second;
+constexpr std::int64_t time_to_rest = 5 * platform::memory::micros_of_a_second;
+
+}  // namespace
+
+void Watched_Backend::Start_Timer(toolkit::Timer& timer) {
+  if (timer.Name == "Dectect_Date_Timer") Date_Timer = &timer;
+  Memory_Backend::Start_Timer(timer);
+}
+
+Bench_Program::Bench_Program(platform::Files& files) : program_(backend_, System_With(files)) {
+  program_.Start();
+  window_ = backend_.Windows.Find("Main_Frm");
+  next_ = Find_Control("Next_Month_Lbl");
+  previous_ = Find_Control("Prev_Month_Lbl");
+  if (next_ == nullptr || previous_ == nullptr || backend_.Date_Timer == nullptr)
+    throw std::runtime_error("the program didn't start");
+  Play(time_to_rest);
+  backend_.Windows.Activate(window_);
+  Tick();
+  if (!platform_.Message_Box.Take_Shown().empty())
+    throw std::runtime_error("the program showed a message at its start");
+  if (Boxes_With_Events() == 0) throw std::runtime_error("the month on view shows no event");
+}
+
+Bench_Program::~Bench_Program() { backend_.Windows.Silence(); }
+
+platform::System Bench_Program::System_With(platform::Files& files) {
+  platform_.Time.Set_Now({basic::Date_Serial(2004, 3, 5), nine_in_the_morning});
+  platform_.Begin_Program();
+  const platform::System all = platform_.System();
+  return {all.Clock,  all.Locale,    files,     all.Loop,     all.Message_Box, all.Popup_Menu, all.Store,
+          all.Screen, all.Instances, all.Shell, all.Registry, all.Profiles,    all.Wallpaper,  all.Pictures};
+}
+
+toolkit::Control* Bench_Program::Find_Control(const char* name) const {
+  if (window_ == nullptr) return nullptr;
+  const auto& controls = window_->Controls();
+  const auto found = std::find_if(controls.begin(), controls.end(), [&](const auto* c) { return c->Name == name; });
+  return found == controls.end() ? nullptr : *found;
+}
+
+int Bench_Program::Boxes_With_Events() const {
+  return static_cast<int>(std::ranges::count_if(window_->Controls(), [](const toolkit::Control* control) {
+    const auto* const label = dynamic_cast<const toolkit::Label*>(control);
+    return label != nullptr && label->Name == "Box_Caption_Lbl" && label->Visible && !label->Caption().empty();
+  }));
+}
+
+}  // namespace bench
