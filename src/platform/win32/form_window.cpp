@@ -1,6 +1,8 @@
 #include "platform/win32/form_window.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace platform::win32 {
 
@@ -73,8 +75,11 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
                                 context.Instance, nullptr));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (form.Border == toolkit::Form_Border::Fixed_Dialog) {
-    const HICON icon = context.Pictures.Frame_Icon(GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON));
-    SendMessageA(Window(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+    for (const auto& [kind, across, down] :
+         {std::array{ICON_SMALL, SM_CXSMICON, SM_CYSMICON}, std::array{ICON_BIG, SM_CXICON, SM_CYICON}}) {
+      const HICON icon = context.Pictures.Frame_Icon(GetSystemMetrics(across), GetSystemMetrics(down));
+      SendMessageA(Window(), WM_SETICON, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(icon));
+    }
   }
   if (!form.Enabled) EnableWindow(Window(), FALSE);
   for (toolkit::Control* const control : form.Controls())
@@ -89,17 +94,19 @@ Form_Window::~Form_Window() {
 }
 
 void Form_Window::Show(bool activate) {
+  shown_ = true;
+  Settle();
   constexpr UINT stay = SWP_NOMOVE | SWP_NOSIZE;
-  if (!activate) {
-    SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, stay | SWP_NOACTIVATE | SWP_SHOWWINDOW);
-    return;
-  }
-  SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, stay | SWP_SHOWWINDOW);
+  SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, stay | SWP_SHOWWINDOW | (activate ? 0 : SWP_NOACTIVATE));
+  if (!activate) return;
   SetForegroundWindow(Window());
   SetActiveWindow(Window());
 }
 
-void Form_Window::Hide() { ShowWindow(Window(), SW_HIDE); }
+void Form_Window::Hide() {
+  shown_ = false;
+  ShowWindow(Window(), SW_HIDE);
+}
 
 bool Form_Window::Minimised() const { return IsIconic(Window()) != 0; }
 
@@ -107,7 +114,7 @@ void Form_Window::Focus(toolkit::Control& control) { children_.Focus(control); }
 
 void Form_Window::Form_Changed(toolkit::Aspect aspect) {
   using enum toolkit::Aspect;
-  if (aspect == Bounds) Move_To_Place();
+  if (aspect == Bounds) moved_ = true;
   if (aspect == Caption) SetWindowTextA(Window(), Title_Of(form_));
   if (aspect == Enabled) EnableWindow(Window(), form_.Enabled);
   if (aspect == Appearance) Repaint_All();
@@ -123,39 +130,60 @@ RECT Form_Window::Wanted_Place() const {
   return {left, top, left + scale.Pixels_X(form_.Width), top + scale.Pixels_Y(form_.Height)};
 }
 
-void Form_Window::Move_To_Place() {
+void Form_Window::Set_Region(const toolkit::Region& region) {
+  if (!round_ && region == region_) return;
+  round_ = false;
+  region_ = region;
+  new_region_.Reset(Make_Region(region.Rects()));
+  cut_ = true;
+}
+
+void Form_Window::Set_Round_Region(int width, int height, int corner) {
+  round_ = true;
+  new_region_.Reset(CreateRoundRectRgn(0, 0, width, height, corner, corner));
+  cut_ = true;
+}
+
+void Form_Window::Settle() {
+  if (std::exchange(moved_, false)) Settle_Place();
+  if (std::exchange(cut_, false)) Settle_Region();
+  if (all_marked_ || !marks_.empty()) Settle_Marks();
+}
+
+void Form_Window::Settle_Place() {
   const RECT wanted = Wanted_Place();
   if (EqualRect(&wanted, &place_) != 0) return;
   const bool same_size = wanted.right - wanted.left == place_.right - place_.left &&
                          wanted.bottom - wanted.top == place_.bottom - place_.top;
-  place_ = wanted;
   // An outline follows the size as a whole.
   if (!same_size && form_.Outline_Corner != 0) Repaint_All();
+  place_ = wanted;
   SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
-void Form_Window::Set_Region(const toolkit::Region& region) {
-  if (cut_to_region_ && region == region_) return;
-  region_ = region;
-  cut_to_region_ = true;
-  Take_Region(Make_Region(region.Rects()));
-}
-
-void Form_Window::Set_Round_Region(int width, int height, int corner) {
-  cut_to_region_ = false;
-  Take_Region(CreateRoundRectRgn(0, 0, width, height, corner, corner));
-}
-
-void Form_Window::Take_Region(HRGN region) {
+void Form_Window::Settle_Region() {
   // From here on the region is the system's.
-  SetWindowRgn(Window(), region, TRUE);
+  SetWindowRgn(Window(), new_region_.Take(), TRUE);
   Repaint_All();
 }
 
-void Form_Window::Repaint_All() {
-  if (IsWindowVisible(Window()) != 0) InvalidateRect(Window(), nullptr, FALSE);
+void Form_Window::Settle_Marks() {
+  constexpr std::size_t few = 4;
+  if (std::exchange(all_marked_, false)) {
+    InvalidateRect(Window(), nullptr, FALSE);
+  } else if (marks_.size() <= few) {
+    for (const RECT& mark : marks_) InvalidateRect(Window(), &mark, FALSE);
+  } else {
+    // What lies between them is painted faster than each of them is told.
+    RECT all = {};
+    for (const RECT& mark : marks_) UnionRect(&all, &all, &mark);
+    InvalidateRect(Window(), &all, FALSE);
+  }
+  marks_.clear();
 }
+
+void Form_Window::Repaint_All() { all_marked_ = shown_; }
 
 /// The entry of a label or picture; nullptr for any other control.
 Painted_Control* Form_Window::Painted(const toolkit::Control& control) {
@@ -208,7 +236,10 @@ void Form_Window::Mark(Painted_Control& painted) {
   Mark(painted.Place);
 }
 
-void Form_Window::Mark(const RECT& place) { InvalidateRect(Window(), &place, FALSE); }
+/// A hidden window is painted as a whole when it is shown.
+void Form_Window::Mark(const RECT& place) {
+  if (shown_ && !all_marked_) marks_.push_back(place);
+}
 
 void Form_Window::Paint() {
   for (Painted_Control& painted : painted_) painted.Waiting = false;

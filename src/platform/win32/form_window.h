@@ -37,6 +37,9 @@ class Form_Window final : public toolkit::Form_Peer {
   [[nodiscard]] HWND Window() const { return window_.Get(); }
   [[nodiscard]] toolkit::Form& Form() const { return form_; }
 
+  /// Brings the window to where the form says, cuts it to its region and marks for painting what has changed.
+  void Settle();
+
   /// A key on its way to this window or to one in it. Says whether it went another way.
   bool Take_Key(MSG& message);
 
@@ -58,9 +61,10 @@ class Form_Window final : public toolkit::Form_Peer {
   bool Set_Pointer(WPARAM over, LPARAM part) const;
   void Paint();
 
-  void Move_To_Place();
   [[nodiscard]] RECT Wanted_Place() const;
-  void Take_Region(HRGN region);
+  void Settle_Place();
+  void Settle_Region();
+  void Settle_Marks();
   void Repaint_All();
   Painted_Control* Painted(const toolkit::Control& control);
   void Update_Painted(Painted_Control& painted, bool repaint);
@@ -77,8 +81,13 @@ class Form_Window final : public toolkit::Form_Peer {
   std::vector<Painted_Control> painted_;
   Native_Children children_;
   Tip_Window tip_;
-  toolkit::Region region_;
-  bool cut_to_region_ = false;
+  // What is to be settled. The marks are rectangles in pixels of the client area.
+  bool moved_ = false, cut_ = false, all_marked_ = false;
+  std::vector<RECT> marks_;
+  Region_Owner new_region_;
+  toolkit::Region region_;  // the present one, unless it is round
+  bool round_ = true;       // or there is none yet
+  bool shown_ = false;
   bool tip_check_posted_ = false;
   int pressed_ = 0;  // the mouse buttons that went down here, as the toolkit numbers them
 };

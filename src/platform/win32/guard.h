@@ -3,17 +3,22 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 
 namespace platform::win32 {
 
 class Guard {
  public:
+  /// What follows each work that ran to its end.
+  std::function<void()> Afterwards;
+
   /// Runs what the system called for and says whether it ran to its end. Once the program is ending nothing runs any more.
   template <class Work>
   bool Run(Work&& work) noexcept {
     if (ending_) return false;
     try {
       work();
+      if (Afterwards) Afterwards();
       return true;
     } catch (...) {
       Caught();

@@ -13,6 +13,7 @@ void Message_Loop::Run() {
 
 void Message_Loop::Wait_Events(std::int64_t micros) {
   context_.Guard.Throw_If_Ending();
+  context_.Windows.Settle();
   if (Serve_Waiting()) return;
   constexpr std::int64_t longest_wait = 1000000;  // milliseconds; callers come back when nothing has happened
   const auto wait = std::clamp<std::int64_t>((micros + 999) / 1000, 0, longest_wait);

@@ -58,6 +58,7 @@ class Others_Disabled {
 Box_Answer Win32_Message_Box::Show(const std::string& title, const std::string& text, Box_Icon icon,
                                    Box_Buttons buttons) {
   context_.Guard.Throw_If_Ending();
+  context_.Windows.Settle();
   ReleaseCapture();
   const HWND owner = GetActiveWindow();
   int result = 0;

@@ -23,6 +23,7 @@ void Insert(HMENU menu, UINT position, const Menu_Item& item) {
 
 int Win32_Popup_Menu::Track(Window_Handle owner, const std::vector<Menu_Item>& items) {
   context_.Guard.Throw_If_Ending();
+  context_.Windows.Settle();
   const Menu_Owner menu(CreatePopupMenu());
   UINT position = 0;
   for (const Menu_Item& item : items) {

@@ -4,6 +4,11 @@
 
 namespace platform::win32 {
 
+void Window_List::Settle() {
+  // By number: settling sends messages, and those may settle in their turn.
+  for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
+}
+
 Form_Window* Window_List::Around(HWND window) const {
   if (window == nullptr) return nullptr;
   for (Form_Window* const form : windows_)

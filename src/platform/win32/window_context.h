@@ -18,6 +18,10 @@ class Window_List {
   void Remove(Form_Window& window) { std::erase(windows_, &window); }
   [[nodiscard]] const std::vector<Form_Window*>& All() const { return windows_; }
 
+  /// Shows what the forms have become since the last time. Comes behind each callback of the system and before each
+  /// wait, so that however many properties change in between, the display is told once.
+  void Settle();
+
   /// The form's window that is or holds this one; nullptr if it belongs to none.
   [[nodiscard]] Form_Window* Around(HWND window) const;
 
@@ -26,7 +30,9 @@ class Window_List {
 };
 
 struct Window_Context {
-  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance) {}
+  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance) {
+    Guard.Afterwards = [this] { Windows.Settle(); };
+  }
 
   HINSTANCE Instance;
   win32::Guard Guard;
