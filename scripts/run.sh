@@ -149,6 +149,7 @@ wait_for_calendar() { # PROCESS
       is_message_box "$window" && boxes="$boxes $window"
     done
     if [ -n "$boxes" ]; then
+      give_keys
       echo "Closing a message titled $(xdotool getwindowname "${boxes##* }" 2>/dev/null || true)"
       xdotool key Return
       wait_until 5 gone "${boxes##* }" || true
@@ -164,15 +165,24 @@ gone() { # WINDOW
   ! windows_of_program | grep -qx "$1"
 }
 
-# Waits until what stands on the screen is painted and stays.
+# Waits until what stands on the screen is painted and stays, with a desktop also until the splash is gone.
 wait_for_rest() { # SUM OF THE EMPTY SCREEN
-  local before='' now tries=60
-  while ((tries-- > 0)); do
+  local before='' now same=0 enough=${desktop:+12} tries=60
+  while ((same < ${enough:-1} && tries-- > 0)); do
     now=$(screen_sum)
-    [ "$now" = "$1" ] || [ "$now" != "$before" ] || return 0
+    if [ "$now" != "$1" ] && [ "$now" = "$before" ]; then
+      ((same += 1))
+    else
+      same=0
+    fi
     before=$now
     sleep 0.2
   done
+}
+
+# Behind a desktop of its own the program gets its keys only through this.
+give_keys() {
+  [ -z "$desktop" ] || xdotool windowfocus "$(xdotool search --onlyvisible --name 'Wine desktop' | head -n 1)" || true
 }
 
 shoot() {

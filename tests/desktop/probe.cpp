@@ -70,8 +70,8 @@ BOOL CALLBACK Print_Top_Window(HWND window, LPARAM) {
 int main(int count, char** arguments) {
   if (count == 6 && std::strcmp(arguments[1], "post") == 0) {
     const auto window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::atoll(arguments[2])));
-    return PostMessageA(window, static_cast<UINT>(std::atoi(arguments[3])), static_cast<WPARAM>(std::atoll(arguments[4])),
-                        static_cast<LPARAM>(std::atoll(arguments[5])))
+    return PostMessageA(window, static_cast<UINT>(std::atoi(arguments[3])),
+                        static_cast<WPARAM>(std::atoll(arguments[4])), static_cast<LPARAM>(std::atoll(arguments[5])))
                ? 0
                : 1;
   }
