@@ -226,6 +226,16 @@ TEST_F(File_Channel_Test, Cuts_a_full_disk_s_file_behind_a_whole_record_wherever
   }
 }
 
+TEST_F(File_Channel_Test, Cuts_a_later_file_by_its_own_length) {
+  Write({"an earlier file of some length"});
+  Disk.Room = Record("first").size() + 3;
+  Channel.Open_For_Writing(other);
+  Channel.Write_Record("first");
+  Channel.Write_Record("second");
+  EXPECT_EQ(Error_Of([&] { Channel.Close(); }), 61);
+  EXPECT_EQ(Disk.Contents[other], Record("first"));
+}
+
 TEST_F(File_Channel_Test, Leaves_an_empty_file_if_not_even_the_first_record_finds_room) {
   Content() = "old";
   Disk.Room = 4;

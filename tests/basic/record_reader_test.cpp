@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/basic/read_by_the_letter.h"
+
 using basic::Record_Reader;
 using Records = std::vector<std::string>;
 
@@ -15,40 +17,6 @@ Records Read(std::string_view bytes) {
   Records records;
   Record_Reader reader(bytes);
   for (std::string_view record; reader.Next(record);) records.emplace_back(record);
-  return records;
-}
-
-/// The same rule told another way: character by character.
-Records Read_By_The_Letter(const std::string& bytes) {
-  enum { Before, In_Quotes, Behind_Quotes, Plain } place = Before;
-  Records records;
-  std::string record;
-  bool begun = false;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const char c = bytes[i];
-    begun = true;
-    if (place == In_Quotes) {
-      if (c == '"') place = Behind_Quotes;
-      else record += c;
-      continue;
-    }
-    if (c == ',' || c == '\r' || c == '\n') {
-      if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
-      records.push_back(record);
-      record.clear();
-      place = Before;
-      begun = false;
-      continue;
-    }
-    if (place == Behind_Quotes || (place == Before && c == ' ')) continue;
-    if (place == Before && c == '"') {
-      place = In_Quotes;
-      continue;
-    }
-    place = Plain;
-    record += c;
-  }
-  if (begun) records.push_back(record);
   return records;
 }
 

@@ -131,6 +131,15 @@ TEST(Date_Serial, Agrees_with_the_standard_library_on_months_and_days_that_run_o
   }
 }
 
+TEST(Date_Serial, Reaches_its_years_from_dates_far_outside) {
+  for (const int year : {-401, -400, -5, -1, 0, 1, 99, 10000, 10400}) {
+    for (const int month : {-30, -12, -1, 0, 1, 2, 3, 12, 13, 24}) {
+      const int day = year < 5000 ? 300'000 : -300'000;
+      ASSERT_EQ(Date_Serial(year, month, day), Serial_By_Chrono(year, month, day)) << year << ' ' << month;
+    }
+  }
+}
+
 TEST(Date_Serial, Throws_error_5_outside_its_years) {
   EXPECT_EQ(Error_Of_Serial(100, 1, 1), 0);
   EXPECT_EQ(Error_Of_Serial(100, 1, 0), 5);

@@ -49,6 +49,8 @@ TEST(Form, Loads_again_after_an_unload) {
   form.Load();
   EXPECT_EQ(loads, 2);
   EXPECT_EQ(backend.Windows, 1);
+  form.Unload();
+  EXPECT_EQ(backend.Windows, 0) << "and unloads again";
 }
 
 TEST(Form, Loads_on_being_shown) {
