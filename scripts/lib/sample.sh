@@ -18,7 +18,7 @@ sample_calendar() {
     'Train to York 8:15'
     'Pay the rent'
     'Choir'
-    $'Market\r\nBread, apples, a pot of honey'
+    'Market: bread, apples, a pot of honey'
     'Car to the garage before ten, ask about the brakes'
     'Football with Sam'
     'Plant the beans'

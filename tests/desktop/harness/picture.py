@@ -25,6 +25,12 @@ class Picture:
         data = subprocess.run(command, env=environment, timeout=20, check=True, capture_output=True).stdout
         return Picture(width, height, data)
 
+    @staticmethod
+    def of_file(path, width, height):
+        command = ["convert", str(path), "-depth", "8", "rgb:-"]
+        data = subprocess.run(command, timeout=30, check=True, capture_output=True).stdout
+        return Picture(width, height, data)
+
     def __eq__(self, other):
         return isinstance(other, Picture) and self.data == other.data
 
