@@ -39,7 +39,7 @@ std::string_view Last_Name(std::string_view tidy_path) { return tidy_path.substr
 
 }  // namespace
 
-/// A file that is open for writing. While it is, the file can't be deleted or opened once more.
+/// A file that is open for writing. While it is, it can be read, but not deleted or opened for writing once more.
 class Memory_Files::Writer : public basic::Output_File {
  public:
   Writer(Memory_Files& files, std::string key) : files_(files), key_(std::move(key)) { ++Target()->Writers; }
@@ -88,14 +88,17 @@ Memory_Files::Entry* Memory_Files::Find(std::string_view path) {
   return const_cast<Entry*>(std::as_const(*this).Find(path));
 }
 
-/// Says by its error why a path can't be opened: a missing folder, a folder in its place, or a writer on it.
+/// Says by its error why a path can't be opened: a missing folder, or a folder in its place.
 void Memory_Files::Check_Place(const std::string& path) const {
   const Entry* const folder = Find(Above(Tidy(path)));
   if (folder == nullptr || !folder->Is_Folder) throw Run_Error(Error_Number::Path_Not_Found);
   const Entry* const there = Find(path);
-  if (there == nullptr) return;
-  if (there->Is_Folder) throw Run_Error(Error_Number::Path_File_Access);
-  if (there->Writers > 0) throw Run_Error(Error_Number::Permission_Denied);
+  if (there != nullptr && there->Is_Folder) throw Run_Error(Error_Number::Path_File_Access);
+}
+
+void Memory_Files::Check_No_Writer(const std::string& path) const {
+  const Entry* const there = Find(path);
+  if (there != nullptr && there->Writers > 0) throw Run_Error(Error_Number::Permission_Denied);
 }
 
 void Memory_Files::Read_Whole(const std::string& path, std::string& buffer) {
@@ -116,6 +119,7 @@ Memory_Files::Entry& Memory_Files::Make_File(const std::string& path) {
 
 std::unique_ptr<basic::Output_File> Memory_Files::Create(const std::string& path) {
   Check_Place(path);
+  Check_No_Writer(path);
   Make_File(path);
   return std::make_unique<Writer>(*this, Key_Of(path));
 }
@@ -147,10 +151,9 @@ std::vector<std::string> Memory_Files::File_Names(const std::string& folder) {
 }
 
 void Memory_Files::Delete(const std::string& path) {
-  const Entry* const there = Find(path);
-  if (there == nullptr) throw Run_Error(Error_Number::File_Not_Found);
   Check_Place(path);
-  entries_.erase(Key_Of(path));
+  Check_No_Writer(path);
+  if (entries_.erase(Key_Of(path)) == 0) throw Run_Error(Error_Number::File_Not_Found);
 }
 
 std::string Memory_Files::Program_Folder() { return std::string(program_folder); }

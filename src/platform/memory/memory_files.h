@@ -75,6 +75,7 @@ class Memory_Files : public Files {
   Entry* Find(std::string_view path);
   Entry& Make_File(const std::string& path);
   void Check_Place(const std::string& path) const;
+  void Check_No_Writer(const std::string& path) const;
 
   const Virtual_Time& time_;
   std::map<std::string, Entry> entries_;  // by the folded path

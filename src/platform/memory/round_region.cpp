@@ -17,11 +17,13 @@ int Indent(int row, double radius) {
 }  // namespace
 
 toolkit::Region Round_Region(int width, int height, int corner) {
-  const double radius = std::min({corner, width, height}) / 2.0;
+  const int right = width - 1;
+  const int bottom = height - 1;
+  const double radius = std::min({corner, right, bottom}) / 2.0;
   std::vector<toolkit::Pixel_Rect> rows;
-  for (int row = 0; row < height; ++row) {
-    const int indent = Indent(std::min(row, height - 1 - row), radius);
-    rows.push_back({indent, row, width - indent, row + 1});
+  for (int row = 0; row < bottom; ++row) {
+    const int indent = Indent(std::min(row, bottom - 1 - row), radius);
+    rows.push_back({indent, row, right - indent, row + 1});
   }
   return toolkit::Region(std::move(rows));
 }

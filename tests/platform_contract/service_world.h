@@ -1,0 +1,28 @@
+// The services of the platform that this executable is built for, and a folder to work in.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "platform/system.h"
+#include "toolkit/backend.h"
+
+class Service_World {
+ public:
+  virtual ~Service_World() = default;
+  virtual platform::System& System() = 0;
+  virtual toolkit::Backend& Backend() = 0;
+
+  /// Makes a folder in the program folder.
+  virtual void Make_Folder(const std::string& name) = 0;
+};
+
+std::unique_ptr<Service_World> Make_Service_World();
+
+class Service_Cases : public ::testing::Test {
+ protected:
+  std::string Path(const std::string& name) { return World->System().Files.Program_Folder() + '\\' + name; }
+
+  std::unique_ptr<Service_World> World = Make_Service_World();
+};
