@@ -1,4 +1,4 @@
-// JPEG pictures, decoded by the system.
+// JPEG pictures from disk to disk.
 #pragma once
 
 #include "platform/pictures.h"
