@@ -31,8 +31,9 @@ inline std::string In_Words(toolkit::Aspect aspect) {
 
 class Fake_Backend : public toolkit::Backend {
  public:
-  Words Told;              ///< all that the windows were told, in order
-  int Windows = 0;         ///< windows that exist at this moment
+  Words Told;       ///< all that the windows were told, in order
+  int Windows = 0;  ///< windows that exist at this moment
+  int Heights_Measured = 0;
   bool Minimised = false;  ///< what each window says
   toolkit::Form* Active = nullptr;
 
@@ -65,6 +66,7 @@ class Fake_Backend : public toolkit::Backend {
   }
   /// Thirty twips a line and point, broken anywhere.
   double Text_Height(const toolkit::Font& font, std::string_view text, double width) override {
+    ++Heights_Measured;
     return 30 * font.Size * std::max(1.0, std::ceil(Text_Width(font, text) / width));
   }
   std::size_t Longest_Beginning(const toolkit::Font& font, std::string_view text, double limit) override {

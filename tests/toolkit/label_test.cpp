@@ -60,8 +60,10 @@ TEST_F(Label_Test, Sizes_itself_once_for_a_change_and_not_for_a_move) {
   Text.AutoSize = true;
   Text.Caption = "twenty characters...";
   Backend.Take();
+  Backend.Heights_Measured = 0;
   Text.Left = 500;
   EXPECT_EQ(Backend.Take(), Words{"Text_Lbl bounds"});
+  EXPECT_EQ(Backend.Heights_Measured, 0);
   Text.Caption = "twenty characters!!!";
   EXPECT_EQ(Backend.Take(), Words{"Text_Lbl caption"}) << "the height stays";
   Text.Caption = "ten chars.";
