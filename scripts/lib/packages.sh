@@ -9,7 +9,7 @@
 packages_build=(cmake ninja-build g++ python3 googletest libgtest-dev binutils-mingw-w64-x86-64 binutils-mingw-w64-i686
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-win32 mingw-w64-x86-64-dev mingw-w64-i686-dev)
 # shellcheck disable=SC2034
-packages_wine=(wine64 wine fonts-wine fonts-liberation xvfb xdotool imagemagick x11-utils libfaketime locales python3
+packages_wine=(wine64 wine fonts-wine fonts-liberation xvfb xdotool imagemagick x11-utils x11-xkb-utils libfaketime locales python3
   binutils util-linux procps)
 # shellcheck disable=SC2034
 packages_lint=(clang-format clang-tidy clang libclang-rt-14-dev)

@@ -24,6 +24,7 @@ cache_folder=${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/meridex
 # The number counts the recipes below: trees of different ages can share the cache.
 golden_prefix=$cache_folder/wine-prefix-2
 display_process=
+idle_input=
 
 # Polls: tries the command every 50 ms until it succeeds; fails after SECONDS.
 #   wait_until SECONDS COMMAND...
@@ -114,8 +115,10 @@ store_setting() { # SECTION KEY VALUE
     "$(registry_text "$3")" >>"$WINEPREFIX/user.reg"
 }
 
+# Wine's desktop goes a second after the last program on it: an idle command line stays there until the prefix ends.
 boot_prefix() {
   "$WINESERVER" -p60  # it goes by itself if a run is cut off
+  exec {idle_input}> >(exec "$WINE64" cmd >/dev/null 2>&1)
   timeout 60 "$WINE64" cmd /c ver >/dev/null 2>&1 </dev/null
 }
 
@@ -123,16 +126,12 @@ desktop_stands() {
   [ "$(import -window root -crop 1x1+1+1 -depth 8 rgb:- | od -An -tu1)" = "  58 110 165" ]
 }
 
-# The desktop comes up on its own, and now and then it doesn't.
 boot_desktop() {
-  local try
-  for try in 1 2 3; do
-    boot_prefix
-    ! wait_until 15 desktop_stands || return 0
-    echo "Wine's desktop didn't come up (try $try)" >&2
-    end_prefix
-  done
-  return 1
+  boot_prefix
+  wait_until 30 desktop_stands || {
+    echo "Wine's desktop didn't come up." >&2
+    return 1
+  }
 }
 
 # FILE holds '@YYYY-MM-DD HH:MM:SS' for a clock that runs on from there. Timers and the wait for them stay real.
@@ -145,6 +144,8 @@ on_clock() { # FILE COMMAND...
 
 end_prefix() {
   [ -n "${WINEPREFIX:-}" ] && [ "$WINEPREFIX" != "$golden_prefix" ] || return 0
+  [ -z "$idle_input" ] || exec {idle_input}>&-
+  idle_input=
   "$WINESERVER" -k 2>/dev/null || true
   timeout 20 "$WINESERVER" -w 2>/dev/null || true
 }

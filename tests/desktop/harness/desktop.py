@@ -37,13 +37,14 @@ def record(line):
 
 
 class Desktop:
-    def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB"):
+    def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
+                 keyboard="us"):
         """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values."""
         self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, **(settings or {})}
         self.now = datetime.datetime.fromisoformat(now)
         self.programs = []
         self._temporary = tempfile.mkdtemp(prefix="meridex-")
-        self.screen = Screen()
+        self.screen = Screen(keyboard)
         try:
             self.prefix = Prefix(pathlib.Path(self._temporary, "prefix"), self.screen.environment, language)
             self.folder = self.prefix.drive / "Meridex"
@@ -117,7 +118,20 @@ class Desktop:
         return self.calendar()
 
     def framed_window(self, title):
-        return next((window for window in self.windows() if window.title == title and window.framed), None)
+        """A visible window with that title; one that ends in a blank is the beginning of the title."""
+        return next((window for window in self.windows() if window.framed and
+                     (window.title == title or title.endswith(" ") and window.title.startswith(title))), None)
+
+    def activate(self):
+        """Makes the calendar the active window, as a user does, by a click beside everything that answers it."""
+        layout = self.layout()
+        x, y, _, _ = self.on_screen(layout.header_rect(0))
+        self.screen.click(x + 4, y + 4)
+        wait_for(lambda: self._calendar_is_active(), "the calendar to be active")
+
+    def _calendar_is_active(self):
+        return any(window["active"] for window in self.probe()
+                   if window["rect"][2] - window["rect"][0] in geometry.WINDOW_WIDTHS)
 
     def find_window(self, title, seconds=15):
         """Waits for a window with a title bar, such as the editor."""

@@ -38,6 +38,7 @@ class Prefix:
         self.environment = dict(environment, WINEPREFIX=str(self.folder), WINEDEBUG="-all", LC_ALL=f"{language}.UTF-8",
                                 WINEDLLOVERRIDES="mscoree,mshtml=")
         self.booted = False
+        self._idle = None
 
     def preset(self, key, values):
         """Values below HKEY_CURRENT_USER, before the prefix is booted."""
@@ -47,23 +48,20 @@ class Prefix:
             file.writelines(f'"{registry_text(name)}"="{registry_text(value)}"\n' for name, value in values.items())
 
     def boot(self, stands):
-        """On the real clock, so that only the program sees the false one. The server goes by itself if a test is cut off.
-        Wine's desktop comes up on its own, and now and then it doesn't: `stands` tells whether it has."""
-        for _ in range(3):
-            subprocess.run([SERVER, "-p60"], env=self.environment, timeout=60, check=True)
-            self.run("cmd", "/c", "ver")
-            self.booted = True
-            try:
-                wait_for(stands, "Wine's desktop")
-                return
-            except AssertionError:
-                self.end()
-        raise RuntimeError("Wine's desktop didn't come up in three tries")
+        """On the real clock, so that only the program sees the false one; `stands` tells whether Wine's desktop has come
+        up. It would go a second after the last program on it, so an idle command line stays there until the end."""
+        subprocess.run([SERVER, "-p60"], env=self.environment, timeout=60, check=True)
+        self.booted = True
+        self._idle = subprocess.Popen([WINE, "cmd"], env=self.environment, stdin=subprocess.PIPE,
+                                      stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(stands, "Wine's desktop", seconds=30)
 
     def end(self):
         """Ends every program of the prefix."""
         subprocess.run([SERVER, "-k"], env=self.environment, timeout=30, check=False)
         subprocess.run([SERVER, "-w"], env=self.environment, timeout=30, check=False)
+        if self._idle:
+            self._idle.communicate(timeout=30)
 
     def run(self, *command, seconds=60):
         """Runs a program to its end; returns its exit status and what it printed."""

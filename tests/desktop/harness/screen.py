@@ -26,7 +26,8 @@ class Window(NamedTuple):
 
 
 class Screen:
-    def __init__(self):
+    def __init__(self, keyboard="us"):
+        """keyboard: the layout; what it doesn't have can't be typed."""
         reader, writer = os.pipe()
         self._server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp"],
@@ -39,6 +40,7 @@ class Screen:
             self.close()
             raise RuntimeError("no virtual screen came up")
         self.environment = dict(os.environ, DISPLAY=f":{number}")
+        self._run("setxkbmap", keyboard)
 
     def close(self):
         self._server.send_signal(signal.SIGTERM)
