@@ -1,0 +1,99 @@
+// The event file with all that it works on: a disk that can be filled, boxes that are noted, an editor that is told.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "events/event_file.h"
+#include "tests/basic/fake_disk.h"
+
+/// The disk as the calendar sees it, with calendar.dat alone on it.
+class Fake_Files : public platform::Files {
+ public:
+  Fake_Disk Disk;
+  std::vector<std::string>* Calls = nullptr;  ///< where the looks for the file are noted
+
+  void Read_Whole(const std::string& path, std::string& buffer) override { Disk.Read_Whole(path, buffer); }
+  std::unique_ptr<basic::Output_File> Create(const std::string& path) override { return Disk.Create(path); }
+  bool File_Exists(const std::string& path) override {
+    if (Calls != nullptr) Calls->emplace_back("look");
+    return Disk.Contents.count(path) != 0;
+  }
+  bool Folder_Exists(const std::string& path) override { return Disk.Contents.count(path) != 0; }
+  std::vector<std::string> File_Names(const std::string&) override { return {}; }
+  void Delete(const std::string& path) override { Disk.Contents.erase(path); }
+  std::string Program_Folder() override { return "C:\\Meridex"; }
+  std::string Program_Path() override { return "C:\\Meridex\\Meridex.exe"; }
+};
+
+class Fake_Message_Box : public platform::Message_Box {
+ public:
+  std::vector<std::string> Shown;
+
+  platform::Box_Answer Show(const std::string& title, const std::string& text, platform::Box_Icon icon,
+                            platform::Box_Buttons buttons) override {
+    const bool as_failure = icon == platform::Box_Icon::Critical && buttons == platform::Box_Buttons::OK;
+    Shown.push_back(title + ": " + text + (as_failure ? "" : " (another icon or other buttons)"));
+    return platform::Box_Answer::OK;
+  }
+};
+
+class Fake_Editor : public events::Editor_Input {
+ public:
+  std::string Text;
+  bool Ticked = false;
+
+  [[nodiscard]] std::string Message_Text() const override { return Text; }
+  [[nodiscard]] bool Every_Year() const override { return Ticked; }
+  void Tick_Every_Year() override { Ticked = true; }
+};
+
+class Event_File_World {
+ public:
+  static constexpr const char* path = "C:\\Meridex\\calendar.dat";
+  static constexpr const char* loading_failed = "ERROR: Error loading in data file.";
+  static constexpr const char* saving_failed = "ERROR: Error saving data file.";
+
+  Fake_Files Files;
+  basic::File_Channel Channel{Files};
+  Fake_Message_Box Message_Box;
+  state::Calendar_State Calendar;
+  Fake_Editor Editor;
+  events::Event_File File{Files, Channel, Message_Box, Calendar, Editor};
+  std::vector<std::string> Calls;    ///< what a reading for the grid does, in order
+  std::vector<std::string> Entered;  ///< the lines that went to the grid
+
+  Event_File_World() {
+    Files.Calls = &Calls;
+    File.Clear_Tooltips = [this] { Calls.emplace_back("clear tips"); };
+    File.Enter_Date = [this](std::string_view line) {
+      Calls.emplace_back("enter");
+      Entered.emplace_back(line);
+    };
+    Calendar.Selected_Date = "8/3/2004";
+  }
+
+  std::string& Content() { return Files.Disk.Contents[path]; }
+  [[nodiscard]] bool Is_There() const { return Files.Disk.Contents.count(path) != 0; }
+
+  void Put(const std::vector<std::string>& lines) {
+    Content().clear();
+    for (const std::string& line : lines) Content() += Record(line);
+  }
+
+  /// A whole change of a day, as the editor and the menu make it.
+  void Change(const std::string& date, const std::string& text) {
+    Calendar.Selected_Date = date;
+    File.Load_File();
+    File.Check_For_Pre(text);
+  }
+
+  static std::string Record(const std::string& line) { return "\"" + line + "\"\r\n"; }
+
+  /// The messages since the last call.
+  std::vector<std::string> Messages() {
+    std::vector<std::string> shown;
+    shown.swap(Message_Box.Shown);
+    return shown;
+  }
+};
