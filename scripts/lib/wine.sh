@@ -40,7 +40,7 @@ wait_until() {
 start_display() {
   local file
   file=$(mktemp)
-  Xvfb -displayfd 7 -screen 0 "${screen_size}x24" -nolisten tcp 7>"$file" >/dev/null 2>&1 &
+  Xvfb -displayfd 7 -screen 0 "${screen_size}x24" -nolisten tcp -noreset 7>"$file" >/dev/null 2>&1 &
   display_process=$!
   if ! wait_until 20 grep -q . "$file"; then
     echo "No virtual display came up." >&2
