@@ -1,4 +1,4 @@
-// JPEG pictures from disk to disk.
+// JPEG pictures, decoded by the system.
 #pragma once
 
 #include "platform/pictures.h"
