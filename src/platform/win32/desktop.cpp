@@ -27,9 +27,15 @@ int Shell_Windows::Send(Window_Handle window, unsigned message, int parameter) {
   return static_cast<int>(SendMessageA(To_Window(window), message, 0, parameter));
 }
 
-// The window stays a popup: as a child by its style it could never be the active window.
+// The window stays a popup: as a child by its style it could never be the active window. For the move alone it is one,
+// since some systems make a popup active that they move.
 void Shell_Windows::Set_Parent(Window_Handle window, Window_Handle parent) {
-  SetParent(To_Window(window), To_Window(parent));
+  const HWND moved = To_Window(window);
+  const LONG style = GetWindowLongA(moved, GWL_STYLE);
+  constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
+  SetWindowLongA(moved, GWL_STYLE, (style & ~popup) | child);
+  SetParent(moved, To_Window(parent));
+  SetWindowLongA(moved, GWL_STYLE, style);
 }
 
 void Shell_Windows::Invalidate(Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }
