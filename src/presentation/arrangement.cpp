@@ -24,7 +24,6 @@ Arrangement::Arrangement(toolkit::Backend& backend)
       Exit_Pic(Main_Frm, "Exit_Pic"),
       title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0], &Day_Lbl[1],
                  &Day_Lbl[2],     &Day_Lbl[3],      &Day_Lbl[4],     &Day_Lbl[5], &Day_Lbl[6]} {
-  Main_Frm.Caption = "Meridex";
   Main_Frm.BackColor = first_back_colour;
   Main_Frm.Width = 6450;
   Main_Frm.Height = 6725;
