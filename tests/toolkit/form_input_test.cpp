@@ -141,6 +141,13 @@ TEST_F(Form_Input_Test, The_release_behind_a_double_click_goes_to_the_same_contr
   EXPECT_EQ(Take(), Words{"Under up 1 at 250 250"});
 }
 
+TEST_F(Form_Input_Test, A_lost_mouse_ends_the_press_without_a_release) {
+  Window.Mouse_Down(Mouse_Button::Left, 110, 120);
+  Window.Mouse_Lost();
+  Window.Mouse_Move(Mouse_Button::None, 350, 350);
+  EXPECT_EQ(Take(), (Words{"Under down 1 at 10 20", "Over move 0 at 150 150"}));
+}
+
 TEST_F(Form_Input_Test, A_control_that_goes_while_it_has_the_mouse_hears_no_more) {
   {
     Label passing(Window, "Passing");

@@ -165,13 +165,16 @@ TEST(Form, Tells_of_its_changed_properties_once_and_of_the_same_values_never) {
   form.Window.Enabled = false;
   form.Window.MousePointer = 5;
   form.Window.FontSize = 10.0;
-  const Words told = {"form caption", "form appearance", "form enabled", "form pointer", "form appearance"};
+  form.Window.Outline_Corner = 26;
+  const Words told = {"form caption", "form appearance", "form enabled",
+                      "form pointer", "form appearance", "form appearance"};
   EXPECT_EQ(form.Backend.Take(), told);
   form.Window.Caption = "Meridex";
   form.Window.BackColor = 0;
   form.Window.Enabled = false;
   form.Window.MousePointer = 5;
   form.Window.FontSize = 10.0;
+  form.Window.Outline_Corner = 26;
   EXPECT_EQ(form.Backend.Take(), Words{});
 }
 
