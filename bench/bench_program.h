@@ -36,6 +36,9 @@ class Bench_Program {
   /// Lets virtual time go on, with the ticks that fall due.
   void Play(std::int64_t micros) { platform_.Time.Run_Until(platform_.Time.Elapsed() + micros); }
 
+  /// The in-memory message box remembers what it showed, such as the alerts of a new day.
+  void Forget_Messages() { platform_.Message_Box.Take_Shown(); }
+
   /// How many boxes of the month on view show an event.
   [[nodiscard]] int Boxes_With_Events() const;
 

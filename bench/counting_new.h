@@ -6,8 +6,8 @@
 namespace bench {
 
 struct Allocations {
-  std::int64_t Made = 0;  ///< since the start of the program
-  std::int64_t Live = 0;  ///< made and not yet given back
+  std::int64_t Made = 0;        ///< since the start of the program
+  std::int64_t Live_Bytes = 0;  ///< of those made and not yet given back
 };
 
 Allocations Count_Allocations();

@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
-"""make_events.py COUNT FOLDER [--seed N] [--in-month N]
+"""make_events.py COUNT FOLDER [--today YYYY-MM-DD] [--in-month N] [--seed N]
 
 Writes the same COUNT events as FOLDER/calendar.dat and as FOLDER/events.gcal (a resource file of gcal). Of them --in-month
-(100 if there is room for them) belong to March 2004: those of that month, and those of every year in a March. A tenth of
-all events, at most one for each day of a year, are of every year. None is on 5 March, which is the present day of the
-measurements: an alert would stand in their way. The same arguments give the same bytes.
+(100) belong to the month of --today (2004-03-05): those of that month, and those of every year in it. A tenth of all
+events, at most one for each day of a year, are of every year. None is on --today itself: its alert would stand in the way
+of the measurements. The same arguments give the same bytes.
 """
 import argparse
+import calendar
 import datetime
 import os
 import random
@@ -15,8 +16,6 @@ WORDS = """dentist meeting call Anna Tom Jane birthday of the team lunch with re
 Lisbon flight hotel school concert review draft plan holiday car service at nine half past ten bring plates cups and cake
 remember keys ring doctor parcel library books return swim match home away weekly report budget""".split()
 
-VIEW_YEAR, VIEW_MONTH = 2004, 3
-PRESENT_DAY = 5
 FIRST_YEAR, LAST_YEAR = 1990, 2040
 
 
@@ -37,39 +36,53 @@ def make_text(source):
     return text
 
 
-def is_present_day(day, month):
-    return (day, month) == (PRESENT_DAY, VIEW_MONTH)
+class Calendar:
+    """The days on which events fall, drawn from a source of chance."""
+
+    def __init__(self, today, source):
+        self.today = today
+        self.source = source
+        self.first = datetime.date(FIRST_YEAR, 1, 1).toordinal()
+        self.last = datetime.date(LAST_YEAR, 12, 31).toordinal()
+
+    def is_today(self, day):
+        return (day.month, day.day) == (self.today.month, self.today.day)
+
+    def in_view(self, day):
+        return (day.year, day.month) == (self.today.year, self.today.month)
+
+    def days_of_every_year(self, count):
+        """Days of a year, never 29 February."""
+        days = [datetime.date(2001, 1, 1) + datetime.timedelta(i) for i in range(365)]
+        days = [day for day in days if not self.is_today(day)]
+        return self.source.sample(days, min(count, len(days)))
+
+    def day_in_view(self):
+        length = calendar.monthrange(self.today.year, self.today.month)[1]
+        while True:
+            day = self.today.replace(day=self.source.randint(1, length))
+            if not self.is_today(day):
+                return day
+
+    def day_out_of_view(self):
+        while True:
+            day = datetime.date.fromordinal(self.source.randint(self.first, self.last))
+            if not self.is_today(day) and not self.in_view(day):
+                return day
 
 
-def every_year_days(source, count):
-    """Days of a year, never 29 February; those of the month on view are counted in its share."""
-    days = [datetime.date(2001, 1, 1) + datetime.timedelta(i) for i in range(365)]
-    days = [day for day in days if not is_present_day(day.day, day.month)]
-    return [(day.day, day.month, None) for day in source.sample(days, min(count, len(days)))]
-
-
-def dated_day(source, in_month):
-    while True:
-        if in_month:
-            year, month, day = VIEW_YEAR, VIEW_MONTH, source.randint(1, 31)
-        else:
-            first = datetime.date(FIRST_YEAR, 1, 1).toordinal()
-            last = datetime.date(LAST_YEAR, 12, 31).toordinal()
-            date = datetime.date.fromordinal(source.randint(first, last))
-            year, month, day = date.year, date.month, date.day
-        if is_present_day(day, month) or (not in_month and (year, month) == (VIEW_YEAR, VIEW_MONTH)):
-            continue
-        return day, month, year
-
-
-def make_events(count, in_month, seed):
+def make_events(count, in_month, today, seed):
+    """(year or None for every year, month, day, text) of each event."""
     source = random.Random(seed)
-    days = every_year_days(source, count // 10)
-    share = sum(1 for _, month, _ in days if month == VIEW_MONTH)
-    for i in range(count - len(days)):
-        days.append(dated_day(source, i < in_month - share))
-    source.shuffle(days)
-    return [(day, month, year, make_text(source)) for day, month, year in days]
+    days = Calendar(today, source)
+    every_year = days.days_of_every_year(count // 10)
+    share = in_month - sum(1 for day in every_year if day.month == today.month)
+    dates = [(None, day.month, day.day) for day in every_year]
+    for i in range(count - len(every_year)):
+        day = days.day_in_view() if i < share else days.day_out_of_view()
+        dates.append((day.year, day.month, day.day))
+    source.shuffle(dates)
+    return [(*date, make_text(source)) for date in dates]
 
 
 def write(folder, name, pieces):
@@ -81,15 +94,16 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("count", type=int)
     parser.add_argument("folder")
-    parser.add_argument("--seed", type=int, default=7)
+    parser.add_argument("--today", type=datetime.date.fromisoformat, default=datetime.date(2004, 3, 5))
     parser.add_argument("--in-month", type=int, default=100)
+    parser.add_argument("--seed", type=int, default=7)
     options = parser.parse_args()
-    events = make_events(options.count, options.in_month, options.seed)
+    events = make_events(options.count, options.in_month, options.today, options.seed)
     os.makedirs(options.folder, exist_ok=True)
     write(options.folder, "calendar.dat",
-          ('"%d/%d/%d=%s"\r\n' % (day, month, year or 9999, text.replace("&", "&&")) for day, month, year, text in events))
+          ('"%d/%d/%d=%s"\r\n' % (day, month, year or 9999, text.replace("&", "&&")) for year, month, day, text in events))
     write(options.folder, "events.gcal",
-          ("%04d%02d%02d %s\n" % (year or 0, month, day, text.replace("\r\n", " ")) for day, month, year, text in events))
+          ("%04d%02d%02d %s\n" % (year or 0, month, day, text.replace("\r\n", " ")) for year, month, day, text in events))
 
 
 if __name__ == "__main__":

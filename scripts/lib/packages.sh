@@ -14,7 +14,7 @@ packages_wine=(wine64 wine fonts-wine fonts-liberation xvfb xdotool imagemagick 
 # shellcheck disable=SC2034
 packages_lint=(clang-format clang-tidy clang libclang-rt-14-dev)
 # shellcheck disable=SC2034
-packages_bench=(libbenchmark-dev gcal hyperfine libx11-dev libjpeg-turbo-progs)
+packages_bench=(libbenchmark-dev gcal libx11-dev libxdamage-dev libxtst-dev libjpeg-turbo-progs)
 
 # The languages in which the program is tried under Wine.
 tried_locales=(en_GB en_US de_DE)

@@ -1,0 +1,108 @@
+// How many GDI objects the calendar holds before and after a thousand month changes: bench_gdi_count.exe X Y
+// X and Y are the middle of its arrow, in pixels of its window. Prints the two numbers.
+#include <windows.h>
+#include <winternl.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+constexpr int warm_up = 50;
+constexpr int changes = 1000;
+
+/// An entry of the table of handles that a process shares with the system. A free one points to the next free one.
+struct Table_Entry {
+  std::uint64_t Object;
+  std::uint64_t Owner_And_Type;
+  std::uint64_t User_Pointer;
+};
+constexpr std::size_t table_size = 0x4000;
+
+template <class T>
+bool Read(HANDLE process, const void* at, T* to, std::size_t count = 1) {
+  SIZE_T got = 0;
+  return ReadProcessMemory(process, at, to, count * sizeof(T), &got) != 0 && got == count * sizeof(T);
+}
+
+/// The used entries of the table. Wine's GetGuiResources always answers 0, but its table is the real one.
+int Entries_In_Use(HANDLE process) {
+  using Query = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
+  Query query = nullptr;
+  const FARPROC found = GetProcAddress(GetModuleHandleA("ntdll"), "NtQueryInformationProcess");
+  std::memcpy(&query, &found, sizeof query);
+  PROCESS_BASIC_INFORMATION about{};
+  if (query == nullptr || query(process, ProcessBasicInformation, &about, sizeof about, nullptr) != 0) return -1;
+  constexpr std::size_t pointer_to_table = 0xF8;  // in the process's block, 64 bits
+  const char* table = nullptr;
+  if (!Read(process, reinterpret_cast<const char*>(about.PebBaseAddress) + pointer_to_table, &table)) return -1;
+  std::vector<Table_Entry> entries(table_size);
+  if (!Read(process, table, entries.data(), entries.size())) return -1;
+  const auto begin = reinterpret_cast<std::uintptr_t>(table);
+  const auto end = begin + table_size * sizeof(Table_Entry);
+  return static_cast<int>(std::ranges::count_if(entries, [=](const Table_Entry& entry) {
+    return entry.Object != 0 && (entry.Object < begin || entry.Object >= end);
+  }));
+}
+
+int Count_Objects(HANDLE process) {
+  const DWORD count = GetGuiResources(process, GR_GDIOBJECTS);
+  return count != 0 ? static_cast<int>(count) : Entries_In_Use(process);
+}
+
+/// Whether the count sees a new object at all.
+bool Count_Is_Sound() {
+  DeleteObject(CreateSolidBrush(0));  // the table is there from the first object on
+  const int before = Count_Objects(GetCurrentProcess());
+  const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+  const int with_it = Count_Objects(GetCurrentProcess());
+  DeleteObject(brush);
+  return before > 0 && with_it == before + 1 && Count_Objects(GetCurrentProcess()) == before;
+}
+
+BOOL CALLBACK Take_Calendar(HWND window, LPARAM result) {
+  char name[64] = "";
+  GetClassNameA(window, name, sizeof name);
+  if (!IsWindowVisible(window) || std::strcmp(name, "Meridex_Form") != 0) return TRUE;
+  *reinterpret_cast<HWND*>(result) = window;
+  return FALSE;
+}
+
+/// Each change is painted before the next: the window paints when no message waits.
+void Change_Months(HWND window, LPARAM arrow, int count) {
+  for (int i = 0; i < count; ++i) {
+    SendMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, arrow);
+    SendMessageA(window, WM_LBUTTONUP, 0, arrow);
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW);
+  }
+  Sleep(1000);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count != 3) return 2;
+  if (!Count_Is_Sound()) {
+    std::puts("GDI objects can't be counted here");
+    return 1;
+  }
+  HWND window = nullptr;
+  EnumWindows(Take_Calendar, reinterpret_cast<LPARAM>(&window));
+  DWORD id = 0;
+  if (window == nullptr || GetWindowThreadProcessId(window, &id) == 0) {
+    std::puts("no calendar");
+    return 1;
+  }
+  const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, id);
+  const LPARAM arrow = MAKELPARAM(std::atoi(arguments[1]), std::atoi(arguments[2]));
+  Change_Months(window, arrow, warm_up);
+  const int before = Count_Objects(process);
+  Change_Months(window, arrow, changes);
+  std::printf("before %d\nafter %d\n", before, Count_Objects(process));
+  CloseHandle(process);
+  return 0;
+}

@@ -1,0 +1,17 @@
+// Turns a JPEG into a bitmap as the calendar does for its wallpaper: bench_jpeg.exe JPEG BITMAP
+// Without arguments it only starts and ends: what starting a program costs.
+#include <cstdio>
+#include <exception>
+
+#include "platform/win32/jpeg_pictures.h"
+
+int main(int count, char** arguments) {
+  if (count != 3) return 0;
+  try {
+    platform::win32::Jpeg_Pictures().Convert_To_Bitmap(arguments[1], arguments[2]);
+    return 0;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "bench_jpeg: %s\n", error.what());
+    return 1;
+  }
+}

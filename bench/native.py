@@ -1,0 +1,51 @@
+"""The figures of the Linux build."""
+import json
+import subprocess
+
+from figures import Figure
+from timing import medians, seconds_of
+
+NANOSECONDS_PER = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+def google_benchmark(program, *arguments):
+    """Runs it and gives its medians by name."""
+    command = [str(program), *map(str, arguments), "--benchmark_format=json", "--benchmark_report_aggregates_only=true",
+               "--benchmark_enable_random_interleaving=true"]
+    output = subprocess.run(command, check=True, timeout=300, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+    return {run["run_name"]: run for run in json.loads(output)["benchmarks"] if run["aggregate_name"] == "median"}
+
+
+def nanoseconds(run, clock="real_time"):
+    return run[clock] * NANOSECONDS_PER[run["time_unit"]]
+
+
+def month_change(programs, data, repetitions):
+    runs = google_benchmark(programs / "bench_month_change", data, f"--benchmark_repetitions={repetitions}",
+                            "--benchmark_min_time=0.03")
+    times = {name.removesuffix("/manual_time"): nanoseconds(run) / 1e6 for name, run in runs.items()}
+    change = times["Month_Change/32767"]
+    return [
+        Figure("Month change, 32,767 records", change, "ms", 2, times["Fresh_Buffer_And_Memchr/32767"],
+               "read into a fresh buffer, quotes by memchr"),
+        Figure("Growth from 1,000 records on", change, "ms", 32.767, times["Month_Change/1000"],
+               "month change, 1,000 records"),
+    ]
+
+
+def tick(programs, data):
+    runs = google_benchmark(programs / "bench_tick", data / "32767", "--benchmark_repetitions=3")
+    usual, day = runs["Usual_Tick"], next(run for name, run in runs.items() if name.startswith("Day_Of_Ticks"))
+    return [
+        Figure("Usual tick", nanoseconds(usual, "cpu_time") / 1e3, "us", 2),
+        Figure("Allocations of the usual ticks", usual["allocations"], "", 0),
+        Figure("A day of 864,000 ticks", nanoseconds(day, "cpu_time") / 1e9, "s", 5),
+        Figure("Growth of memory over that day", day["growth"], "bytes", 0),
+    ]
+
+
+def month_print(programs, data, rounds):
+    own = [programs / "bench_month_print", data / "32767/calendar.dat", 3, 2004]
+    peer = ["gcal", "-H", "no", "-u", f"-f{data / '32767/events.gcal'}", "-cm", "%20040301"]
+    own_time, peer_time = medians(rounds, lambda: seconds_of(own), lambda: seconds_of(peer))
+    return [Figure("Month printed, whole process", own_time * 1e3, "ms", 1, peer_time * 1e3, "gcal, the same events")]

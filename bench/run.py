@@ -1,0 +1,67 @@
+#!/usr/bin/env python3
+"""Measures everything and prints the table: run.py [--quick] [GROUP]...; scripts/bench.sh builds what it needs.
+
+The groups: native, size, months, start, idle, screen, jpeg. The exit status is 1 if a goal isn't reached.
+"""
+import argparse
+import datetime
+import pathlib
+import subprocess
+import sys
+
+import figures
+import native
+import wine
+
+ROOT = wine.ROOT
+PROGRAMS = ROOT / "build/native-release/bench"
+DATA = ROOT / "build/bench-data"
+
+
+def make_data():
+    generator = ROOT / "bench/make_events.py"
+    today = datetime.date.today().isoformat()
+    for count, folder, options in [(1000, "1000", ["--in-month", "3"]), (32767, "32767", []),
+                                   (32767, "today", ["--today", today])]:
+        subprocess.run([sys.executable, "-B", generator, str(count), DATA / folder, *options], check=True)
+
+
+def measure(group, quick):
+    if group == "native":
+        return (native.month_change(PROGRAMS, DATA, 9 if quick else 21) + native.tick(PROGRAMS, DATA) +
+                native.month_print(PROGRAMS, DATA, 15 if quick else 41))
+    if group == "size":
+        return wine.size()
+    if group == "months":
+        return wine.month_change(DATA, 3 if quick else 7)
+    if group == "start":
+        return wine.start(DATA, PROGRAMS, 5 if quick else 15)
+    if group == "idle":
+        return wine.idle(DATA, 15 if quick else 60) + wine.idle_display(DATA, 10)
+    if group == "screen":
+        return wine.on_screen(DATA, PROGRAMS, 4 if quick else 10)
+    return wine.jpeg(DATA, 3 if quick else 9)
+
+
+GROUPS = ["native", "size", "months", "start", "idle", "screen", "jpeg"]
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--quick", action="store_true", help="fewer rounds, and 15 seconds of idling instead of 60")
+    parser.add_argument("group", nargs="*", choices=[[], *GROUPS], help="all if none is given")
+    options = parser.parse_args()
+    machine = figures.machine()
+    make_data()
+    found = []
+    for group in options.group or GROUPS:
+        print(f"Measuring: {group}", file=sys.stderr, flush=True)
+        found += measure(group, options.quick)
+    print(f"\n{machine}\n\n{figures.table(found)}")
+    over = sum(not figure.reached for figure in found)
+    print(f"\n{len(found) - over} of {len(found)} goals reached")
+    return 1 if over else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
