@@ -44,10 +44,10 @@ std::string Pack_Lookup::Get_Paper_Path(const std::string& pack_name, basic::Int
 }
 
 void Pack_Lookup::Delete_Old_Bmps(const std::string& pack_name) {
-  const std::string folder = Pack_Folder(pack_name);
+  const std::string folder = Pack_Folder(pack_name) + "\\";
   try {
     for (const std::string& name : files_.File_Names(folder))
-      if (name.ends_with(".bmp")) files_.Delete(folder + "\\" + name);
+      if (name.ends_with(".bmp")) files_.Delete(folder + name);
   } catch (const basic::Run_Error&) {
     // An old bitmap that stays does no harm.
   }

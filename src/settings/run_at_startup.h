@@ -8,7 +8,7 @@
 namespace settings {
 
 /// Where the entry lies in either hive, and its name.
-constexpr const char* run_key = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr const char* run_key = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
 constexpr const char* run_value = "Meridex";
 
 class Run_At_Startup {

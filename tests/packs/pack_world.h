@@ -32,7 +32,7 @@ struct Pack_World {
     return boxes;
   }
 
-  const std::string Folder = "C:\\Meridex\\Test\\";
+  const std::string Folder = R"(C:\Meridex\Test\)";
 
   platform::memory::Virtual_Time Time;
   platform::memory::Memory_Clock Clock{Time};

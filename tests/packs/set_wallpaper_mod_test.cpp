@@ -47,8 +47,8 @@ TEST_F(Set_Wallpaper_Mod_Test, An_empty_path_takes_the_picture_off) {
 }
 
 TEST_F(Set_Wallpaper_Mod_Test, The_system_keeps_the_path) {
-  After("C:\\Meridex\\Test\\3.bmp", 1);
-  EXPECT_EQ(Value("Wallpaper"), "C:\\Meridex\\Test\\3.bmp");
+  After(R"(C:\Meridex\Test\3.bmp)", 1);
+  EXPECT_EQ(Value("Wallpaper"), R"(C:\Meridex\Test\3.bmp)");
 }
 
 TEST_F(Set_Wallpaper_Mod_Test, No_key_stays_open) {

@@ -37,7 +37,7 @@ class Wallpaper_Stuff_Test : public ::testing::Test, protected Pack_World {
   }
 };
 
-const std::string march = "C:\\Meridex\\Test\\3.bmp";
+const std::string march = R"(C:\Meridex\Test\3.bmp)";
 
 }  // namespace
 

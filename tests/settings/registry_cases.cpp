@@ -8,22 +8,25 @@ using enum Registry_Call;
 
 const std::string test_key = "Software\\Meridex Test";
 
-Registry_Step Read(std::string place, std::string kind, Registry_Value default_value, int status, Registry_Value result,
-                   std::string name = "Value", std::string key = "Case") {
+Registry_Step Read(const std::string& place, const std::string& kind, const Registry_Value& default_value, int status,
+                   const Registry_Value& result, const std::string& name = "Value", const std::string& key = "Case") {
   return {Get, place, key, name, kind, default_value, status, result};
 }
 
-Registry_Step Write(std::string place, std::string kind, Registry_Value data, int status, std::string name = "Value",
-                    std::string key = "Case") {
+Registry_Step Write(const std::string& place, const std::string& kind, const Registry_Value& data, int status,
+                    const std::string& name = "Value", const std::string& key = "Case") {
   return {Set, place, key, name, kind, data, status, {}};
 }
 
-Registry_Step Remove(std::string place, int status, std::string name = "Value", std::string key = "Case") {
+Registry_Step Remove(const std::string& place, int status, const std::string& name = "Value",
+                     const std::string& key = "Case") {
   return {Delete, place, key, name, "", {}, status, {}};
 }
 
 /// A value of bytes that the module itself would not write; as a text if the kind is "S".
-Registry_Step Bytes(std::string kind, std::string bytes) { return {Raw, "HKCU", "Case", "Value", kind, bytes, 0, {}}; }
+Registry_Step Bytes(const std::string& kind, const std::string& bytes) {
+  return {Raw, "HKCU", "Case", "Value", kind, bytes, 0, {}};
+}
 
 Registry_Value Text(std::string text) { return text; }
 

@@ -25,7 +25,7 @@ enum class Registry_Call { Get, Set, Delete, Raw };
 
 /// One call of the module and what it must give. Keys lie under the test's own key.
 struct Registry_Step {
-  Registry_Call Call;
+  Registry_Call Call = Registry_Call::Get;
   std::string Place, Key, Name, Kind;
   settings::Registry_Value Data;    ///< the default of a read, the data of a write, the bytes of a raw one
   int Status = 0;                   ///< what the call returns
@@ -33,7 +33,7 @@ struct Registry_Step {
 };
 
 struct Registry_Case {
-  const char* Name;
+  const char* Name = nullptr;
   std::vector<Registry_Step> Steps;
 };
 

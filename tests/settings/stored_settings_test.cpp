@@ -34,10 +34,10 @@ class Stored_Settings_Test : public ::testing::Test {
 
 /// A text for each type that none of its keys has as its default, and how it is written back.
 struct Sample {
-  std::string operator()(basic::Int16 Settings::*) const { return "-321"; }
-  std::string operator()(std::int32_t Settings::*) const { return "-7654321"; }
-  std::string operator()(bool Settings::*) const { return "True"; }
-  std::string operator()(std::string Settings::*) const { return " any text, \"so\" = "; }
+  std::string operator()(basic::Int16 Settings::* /*variable*/) const { return "-321"; }
+  std::string operator()(std::int32_t Settings::* /*variable*/) const { return "-7654321"; }
+  std::string operator()(bool Settings::* /*variable*/) const { return "True"; }
+  std::string operator()(std::string Settings::* /*variable*/) const { return " any text, \"so\" = "; }
 };
 
 template <class Type>

@@ -1,6 +1,6 @@
 #include "platform/memory/memory_registry.h"
 
-#include <cstring>
+#include <algorithm>
 
 #include "platform/memory/letter_case.h"
 
@@ -40,7 +40,7 @@ int Memory_Registry::Query(Key key, const std::string& name, char* data, std::ui
   size = static_cast<std::uint32_t>(bytes.size());
   if (data == nullptr) return 0;
   if (room < size) return status_more_data;
-  std::memcpy(data, bytes.data(), bytes.size());
+  std::copy(bytes.begin(), bytes.end(), data);
   return 0;
 }
 

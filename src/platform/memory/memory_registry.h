@@ -41,14 +41,14 @@ class Memory_Registry : public Registry_Keys {
   using Values = std::map<std::string, std::string>;  // bytes by name, the name in capitals
 
   struct Address {
-    Hive hive;
+    Hive hive = Hive::Current_User;
     std::string path;  // in capitals
-    auto operator<=>(const Address&) const = default;
+    friend auto operator<=>(const Address&, const Address&) = default;
   };
 
   struct Open_Key {
     Address address;
-    Key_Access access;
+    Key_Access access = Key_Access::Query_Value;
   };
 
   static Address Address_Of(Hive hive, const std::string& path);
