@@ -62,10 +62,26 @@ TEST(Read_Event_Line, Throws_error_5_without_an_equals_sign) {
 }
 
 TEST(Read_Event_Line, Throws_error_13_unless_the_date_is_three_numbers) {
-  for (const char* const line :
-       {"=", "=Tea", "5=Tea", "5/3=Tea", "5/3/=Tea", "5//2004=Tea", "/3/2004=Tea", "//=Tea", "5/3/2004/=Tea",
-        "5/3/2004/1=Tea", "5.3.2004=Tea", "x/3/2004=Tea", "5/March/2004=Tea", "5/3/04x=Tea", "5/3/2004.0=Tea",
-        "5 5/3/2004=Tea", "--5/3/2004=Tea", "+/3/2004=Tea", "5/3/1e3=Tea", "5/3/&H7D4=Tea"})
+  for (const char* const line : {"=",
+                                 "=Tea",
+                                 "5=Tea",
+                                 "5/3=Tea",
+                                 "5/3/=Tea",
+                                 "5//2004=Tea",
+                                 "/3/2004=Tea",
+                                 "//=Tea",
+                                 "5/3/2004/=Tea",
+                                 "5/3/2004/1=Tea",
+                                 "5.3.2004=Tea",
+                                 "x/3/2004=Tea",
+                                 "5/March/2004=Tea",
+                                 "5/3/04x=Tea",
+                                 "5/3/2004.0=Tea",
+                                 "5 5/3/2004=Tea",
+                                 "--5/3/2004=Tea",
+                                 "+/3/2004=Tea",
+                                 "5/3/1e3=Tea",
+                                 "5/3/&H7D4=Tea"})
     EXPECT_EQ(Error_Of_Line(line), 13) << line;
 }
 
@@ -130,6 +146,5 @@ TEST(Every_Year_Form, Puts_9999_in_place_of_the_last_four_characters) {
 }
 
 TEST(Every_Year_Form, Throws_error_5_for_a_shorter_text) {
-  for (const char* const key : {"", "1", "1/1"})
-    EXPECT_EQ(Error_Of([&] { events::Every_Year_Form(key); }), 5) << key;
+  for (const char* const key : {"", "1", "1/1"}) EXPECT_EQ(Error_Of([&] { events::Every_Year_Form(key); }), 5) << key;
 }

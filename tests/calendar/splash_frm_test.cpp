@@ -1,0 +1,76 @@
+#include "calendar/splash_frm.h"
+
+#include <gtest/gtest.h>
+
+#include "presentation/which_style.h"
+#include "tests/toolkit/fake_backend.h"
+
+namespace {
+
+/// Keeps the timer that runs, so that it can be made to tick.
+class Ticking_Backend : public Fake_Backend {
+ public:
+  toolkit::Timer* Running = nullptr;
+
+  void Start_Timer(toolkit::Timer& timer) override { Running = &timer; }
+  void Stop_Timer(toolkit::Timer&) override { Running = nullptr; }
+};
+
+class Splash_Frm_Test : public ::testing::Test {
+ protected:
+  Splash_Frm_Test() {
+    Splash.On_Closed = [this] { ++Closed; };
+  }
+
+  Ticking_Backend Backend;
+  presentation::Arrangement Made{Backend};
+  calendar::Splash_Frm Splash{Backend, Made};
+  int Closed = 0;
+};
+
+}  // namespace
+
+TEST_F(Splash_Frm_Test, Shows_the_program_for_a_second_and_a_half_without_becoming_active) {
+  EXPECT_EQ(Backend.Running, nullptr);
+  Splash.Show();
+  EXPECT_TRUE(Splash.Window.Visible());
+  EXPECT_EQ(Backend.Take().back(), "show");
+  ASSERT_NE(Backend.Running, nullptr);
+  EXPECT_EQ(Backend.Running->Interval, 1500);
+  EXPECT_EQ(Splash.Label9.Caption(), "Meridex");
+}
+
+TEST_F(Splash_Frm_Test, Goes_at_the_first_tick) {
+  Splash.Show();
+  Backend.Running->On_Tick();
+  EXPECT_FALSE(Splash.Window.Loaded());
+  EXPECT_EQ(Backend.Running, nullptr);
+  EXPECT_EQ(Closed, 1);
+}
+
+TEST_F(Splash_Frm_Test, Tells_of_its_end_also_when_the_user_closes_it) {
+  Splash.Show();
+  Splash.Window.Close_Requested();
+  EXPECT_FALSE(Splash.Window.Loaded());
+  EXPECT_EQ(Backend.Running, nullptr);
+  EXPECT_EQ(Closed, 1);
+}
+
+TEST_F(Splash_Frm_Test, Takes_its_place_from_the_calendar_in_twips) {
+  presentation::Which_Style(Made, 2);
+  Made.Main_Frm.Move(1001.5, -77);
+  Made.Main_Frm.Scale = toolkit::Scale_Unit::Pixels;
+  Splash.Show();
+  EXPECT_EQ(Splash.Window.Width(), 5610);
+  EXPECT_EQ(Splash.Window.Height(), 1335);
+  EXPECT_EQ(Splash.Window.Left(), 1001.5 - 1155);
+  EXPECT_EQ(Splash.Window.Top(), -77 + 1305 + 1335);
+}
+
+TEST_F(Splash_Frm_Test, Halves_odd_lengths_towards_zero) {
+  Made.Main_Frm.Width = 5615;
+  Made.Box_Lbl[36].Top = 1001;
+  Splash.Show();
+  EXPECT_EQ(Splash.Window.Left(), 2);
+  EXPECT_EQ(Splash.Window.Top(), 500 + 1335);
+}

@@ -1,0 +1,197 @@
+#include "presentation/placement.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/basic/error_of.h"
+#include "tests/toolkit/fake_backend.h"
+
+using presentation::GetDesktopRect;
+using presentation::Placement;
+
+namespace {
+
+class Fake_Screen : public platform::Screen {
+ public:
+  platform::Pixel_Area Area{0, 0, 1280, 1024};
+  double Across = 15, Down = 15;
+
+  platform::Pixel_Area Bounds() override { return {0, 0, 1280, 1024}; }
+  platform::Pixel_Area Work_Area() override { return Area; }
+  double Twips_Per_Pixel_X() override { return Across; }
+  double Twips_Per_Pixel_Y() override { return Down; }
+};
+
+class Silent_Box : public platform::Message_Box {
+ public:
+  platform::Box_Answer Show(const std::string&, const std::string&, platform::Box_Icon,
+                            platform::Box_Buttons) override {
+    return platform::Box_Answer::No;
+  }
+};
+
+class Empty_Store : public platform::Settings_Store {
+ public:
+  std::string Get(const std::string&, const std::string&, const std::string&, const std::string& text) override {
+    return text;
+  }
+  void Save(const std::string&, const std::string&, const std::string&, const std::string&) override {}
+};
+
+class Placement_Test : public ::testing::Test {
+ protected:
+  /// A work area of one pixel a twip, to set any number of twips.
+  void Work_Area(int left, int top, int width, int height) {
+    Screen.Across = Screen.Down = 1;
+    Screen.Area = {left, top, width, height};
+  }
+
+  void Window_Of(double width, double height) {
+    Made.Main_Frm.Width = width;
+    Made.Main_Frm.Height = height;
+  }
+
+  std::pair<double, double> Placed(int position) {
+    Made.Main_Frm.Move(-1, -1);
+    Place.Position_Form(position);
+    return {Made.Main_Frm.Left, Made.Main_Frm.Top};
+  }
+
+  Fake_Backend Backend;
+  presentation::Arrangement Made{Backend};
+  Fake_Screen Screen;
+  Silent_Box Box;
+  Empty_Store Store;
+  settings::Stored_Settings Stored{Store};
+  state::Calendar_State Calendar;
+  Placement Place{Made, Screen, Box, Stored, Calendar};
+};
+
+using Corner = std::pair<double, double>;
+
+}  // namespace
+
+TEST_F(Placement_Test, GetDesktopRect_gives_the_work_area_in_pixels_or_in_twips) {
+  Screen.Area = {-3, 20, 1000, 700};
+  auto rect = GetDesktopRect(Screen, false);
+  EXPECT_EQ(rect.Left, -3);
+  EXPECT_EQ(rect.Top, 20);
+  EXPECT_EQ(rect.Width, 1000);
+  EXPECT_EQ(rect.Height, 700);
+  Screen.Across = 12;
+  Screen.Down = 10.5;
+  rect = GetDesktopRect(Screen, true);
+  EXPECT_EQ(rect.Left, -36);
+  EXPECT_EQ(rect.Top, 210);
+  EXPECT_EQ(rect.Width, 12000);
+  EXPECT_EQ(rect.Height, 7350);
+  Screen.Area = {1, 1, 3, 5};
+  EXPECT_EQ(GetDesktopRect(Screen, true).Height, 52) << "52.5 goes to the even number";
+  EXPECT_EQ(GetDesktopRect(Screen, true).Top, 10) << "10.5 goes to the even number";
+}
+
+TEST_F(Placement_Test, Knows_all_places) {
+  Work_Area(100, 200, 20000, 14000);
+  Window_Of(6450, 6725);
+  EXPECT_EQ(Placed(0), Corner(13650, 7475));
+  EXPECT_EQ(Placed(1), Corner(6875, 7475));
+  EXPECT_EQ(Placed(2), Corner(100, 7475));
+  EXPECT_EQ(Placed(3), Corner(6875, 3837));
+  EXPECT_EQ(Placed(4), Corner(13650, 200));
+  EXPECT_EQ(Placed(5), Corner(6875, 200));
+  EXPECT_EQ(Placed(6), Corner(100, 200));
+  EXPECT_EQ(Placed(8), Corner(13650, 3837));
+  EXPECT_EQ(Placed(9), Corner(100, 3837));
+}
+
+TEST_F(Placement_Test, Halves_the_difference_and_rounds_down) {
+  Work_Area(0, 0, 20000, 14000);
+  Window_Of(6450, 6725);
+  EXPECT_EQ(Placed(3), Corner(6775, 3637));
+}
+
+TEST_F(Placement_Test, Rounds_the_difference_before_it_is_halved) {
+  Work_Area(0, 0, 1001, 1000);
+  Window_Of(0.5, 0.5);
+  EXPECT_EQ(Placed(3), Corner(500, 500)) << "1000.5 is 1000, 999.5 is 1000";
+}
+
+TEST_F(Placement_Test, Halves_towards_zero_where_the_window_is_larger) {
+  Work_Area(10, 20, 100, 100);
+  Window_Of(103, 105);
+  EXPECT_EQ(Placed(3), Corner(9, 18));
+}
+
+TEST_F(Placement_Test, Takes_the_manual_place_as_it_is) {
+  Stored.Values.Manual_PosX = -32768;
+  Stored.Values.Manual_PosY = 32767;
+  EXPECT_EQ(Placed(7), Corner(-32768, 32767));
+}
+
+TEST_F(Placement_Test, Moves_nothing_for_any_other_number) {
+  for (const int position : {-1, 10, 11, 32767, -32768}) EXPECT_EQ(Placed(position), Corner(-1, -1)) << position;
+}
+
+TEST_F(Placement_Test, Leaves_the_unit_at_twips) {
+  for (const int position : {0, 7, 10}) {
+    Made.Main_Frm.Scale = toolkit::Scale_Unit::Pixels;
+    Place.Position_Form(position);
+    EXPECT_EQ(Made.Main_Frm.Scale, toolkit::Scale_Unit::Twips) << position;
+  }
+}
+
+TEST_F(Placement_Test, Set_Repos_throws_error_6_for_a_work_area_beyond_16_bits) {
+  Work_Area(-32768, 32767, 32767, 32767);
+  EXPECT_EQ(Error_Of([&] { Place.Set_Repos(); }), 0);
+  const platform::Pixel_Area too_large[] = {{0, 0, 32768, 0}, {0, 0, 0, 32768}, {32768, 0, 0, 0}, {0, -32769, 0, 0}};
+  for (const auto& area : too_large) {
+    Screen.Area = area;
+    EXPECT_EQ(Error_Of([&] { Place.Set_Repos(); }), 6);
+  }
+  // Placing itself knows no such limit.
+  Work_Area(0, 0, 100000, 100000);
+  Window_Of(1000, 1000);
+  EXPECT_EQ(Placed(0), Corner(99000, 99000));
+}
+
+TEST_F(Placement_Test, RePosition_does_nothing_while_the_work_area_stays) {
+  Stored.Values.Alignment = 6;
+  Place.Set_Repos();
+  Made.Main_Frm.Move(-1, -1);
+  Place.RePosition();
+  EXPECT_EQ(Made.Main_Frm.Left(), -1);
+}
+
+TEST_F(Placement_Test, RePosition_follows_one_changed_value_a_call) {
+  Stored.Values.Alignment = 6;
+  Place.Set_Repos();
+  Screen.Area = {10, 20, 600, 500};
+  for (int call = 0; call < 4; ++call) {
+    Made.Main_Frm.Move(-1, -1);
+    Place.RePosition();
+    EXPECT_EQ(Made.Main_Frm.Left(), 150) << call;
+    EXPECT_EQ(Made.Main_Frm.Top(), 300) << call;
+  }
+  Made.Main_Frm.Move(-1, -1);
+  Place.RePosition();
+  EXPECT_EQ(Made.Main_Frm.Left(), -1) << "all four values are known by now";
+}
+
+TEST_F(Placement_Test, RePosition_places_first_and_fails_at_what_does_not_fit_then) {
+  Stored.Values.Alignment = 6;
+  Place.Set_Repos();
+  Screen.Area = {10, 20, 1280, 3000};
+  EXPECT_EQ(Error_Of([&] { Place.RePosition(); }), 6);
+  EXPECT_EQ(Made.Main_Frm.Left(), 150);
+}
+
+TEST_F(Placement_Test, The_position_in_force_is_the_packs_where_both_switches_are_1) {
+  Stored.Values.Alignment = 6;
+  Calendar.Pack_Pos = 7;
+  Stored.Values.Manual_PosX = 33;
+  Stored.Values.Use_Themes = 1;
+  Place.Position_In_Force();
+  EXPECT_EQ(Made.Main_Frm.Left(), 0);
+  Stored.Values.Use_Theme_Pos = 1;
+  Place.Position_In_Force();
+  EXPECT_EQ(Made.Main_Frm.Left(), 33);
+}
