@@ -26,11 +26,8 @@ Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arr
   Label9.Transparent = true;
   Window.On_Load = [this] { Load(); };
   Window.On_Unload = [this] { start_timer_.Disable(); };
-  start_timer_.On_Tick = [this] {
-    start_timer_.Disable();
-    Window.Unload();
-    On_Closed();
-  };
+  Window.On_Close = [this] { Close(); };
+  start_timer_.On_Tick = [this] { Close(); };
 }
 
 /// In the middle of the calendar as it stands, its place down following the box style in force.
@@ -40,6 +37,11 @@ void Splash_Frm::Load() {
   const int half_way = toolkit::Round_To_Even(arrangement_.Box_Lbl[36].In_Twips().Top) / 2;
   Window.Move(main.Left + beside, main.Top + half_way + Window.Height);
   start_timer_.Enable();
+}
+
+void Splash_Frm::Close() {
+  Window.Unload();
+  On_Closed();
 }
 
 }  // namespace calendar

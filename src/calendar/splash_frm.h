@@ -14,7 +14,7 @@ class Splash_Frm {
   toolkit::Image Image1;
   toolkit::Label Label9;
 
-  /// After it has gone.
+  /// After it has gone, by itself or by the user.
   std::function<void()> On_Closed;
 
   /// Shows it; it goes by itself after 1500 milliseconds.
@@ -22,6 +22,7 @@ class Splash_Frm {
 
  private:
   void Load();
+  void Close();
 
   presentation::Arrangement& arrangement_;
   toolkit::Timer start_timer_;
