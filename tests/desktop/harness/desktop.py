@@ -11,7 +11,7 @@ from typing import NamedTuple
 
 from . import geometry
 from .prefix import ROOT, Prefix
-from .screen import HEIGHT, WIDTH, Screen
+from .screen import HEIGHT, WIDTH, Screen, Window
 from .waiting import wait_for
 
 BUILD = ROOT / "build/windows-x64"
@@ -19,8 +19,9 @@ PICTURES = ROOT / "build/desktop-pictures"  # where a failed test leaves what it
 PROGRAM = "meridex.exe"
 WHOLE_SCREEN = (0, 0, WIDTH, HEIGHT)
 
-# The ground of the virtual desktop, as scripts/lib/wine.sh sets it.
+# The ground of the virtual desktop, as scripts/lib/wine.sh sets it, and that of the stand-in for the shell's windows.
 DESKTOP_COLOUR = (58, 110, 165)
+SHELL_COLOUR = (40, 120, 90)
 WHITE = (255, 255, 255)
 
 
@@ -38,9 +39,11 @@ def record(line):
 
 class Desktop:
     def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
-                 keyboard="us"):
-        """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values."""
-        self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, **(settings or {})}
+                 keyboard="us", shell=False):
+        """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values;
+        shell: with the stand-in for the desktop's own windows, under which the calendar then lives."""
+        self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, "Show Splash": 0, **(settings or {})}
+        self.shell = shell
         self.now = datetime.datetime.fromisoformat(now)
         self.programs = []
         self._temporary = tempfile.mkdtemp(prefix="meridex-")
@@ -50,6 +53,9 @@ class Desktop:
             self.folder = self.prefix.drive / "Meridex"
             self.folder.mkdir()
             shutil.copy2(BUILD / "src/main" / PROGRAM, self.folder)
+            if shell:
+                for file in [*BUILD.glob("tools/desktop/*.exe"), *BUILD.glob("tools/desktop/*.dll")]:
+                    shutil.copy2(file, self.folder)
             if data is not None or events:
                 self.data_file.write_bytes(data if data is not None else b"".join(record(line) for line in events))
             self.prefix.preset("Software\\Meridex\\Settings", self.settings)
@@ -82,7 +88,8 @@ class Desktop:
 
     def start(self):
         """Starts the program, a further time too; returns its process without waiting for its window."""
-        self.programs.append(self.prefix.start(f"C:\\Meridex\\{PROGRAM}"))
+        starter = ["C:\\Meridex\\meridex-desktop-start.exe"] if self.shell else []
+        self.programs.append(self.prefix.start(*starter, f"C:\\Meridex\\{PROGRAM}"))
         return self.programs[-1]
 
     def exit_status(self, program, seconds=15):
@@ -103,14 +110,26 @@ class Desktop:
 
     def calendar_window(self):
         """The calendar's window if it is on the screen: neither title nor frame, and as wide as one of the styles."""
+        if self.shell:
+            return self._calendar_in_shell()
         return next((window for window in self.windows()
                      if not window.framed and not window.title and window.rect.width in geometry.WINDOW_WIDTHS), None)
 
+    def _calendar_in_shell(self):
+        for window in self.probe():
+            for child in window["children"] if window["class"] == "Progman" else []:
+                rect = geometry.Rect(*child["rect"])
+                if child["visible"] and rect.width in geometry.WINDOW_WIDTHS:
+                    return Window(child["handle"], child["text"], PROGRAM, rect, False)
+        return None
+
     def calendar(self):
         """Waits until the calendar stands on the screen; returns its place."""
-        window = wait_for(self.calendar_window, "the calendar on the screen")
+        wait_for(self.calendar_window, "the calendar on the screen")
+        if self.shell:  # the keys reach it only through this
+            self.screen.focus("Wine desktop")
         self.screen.picture_at_rest()
-        return window.rect
+        return self.calendar_window().rect
 
     def started(self):
         """Starts the program and waits for the calendar; returns its place."""

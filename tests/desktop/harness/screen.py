@@ -119,6 +119,10 @@ class Screen:
             self.move(*(a + (b - a) * step // steps for a, b in zip(start, end)))
         self.release(button)
 
+    def focus(self, name):
+        """Gives the keys to the window of that name."""
+        self.hands("search", "--onlyvisible", "--name", name, "windowfocus")
+
     def key(self, *names):
         """Keys one after the other, by their names: Return, Escape, F9, Down, a."""
         for name in names:
