@@ -28,7 +28,7 @@ for corpus in fuzz/corpus/*/; do
   mkdir -p "$found" "$findings"
   echo "$name: $seconds s"
   if ! nice "build/fuzz/fuzz/fuzz_$name" -max_total_time="$seconds" -timeout=25 -print_final_stats=1 \
-    -artifact_prefix="$findings/" "$found" "$corpus" </dev/null >"$log" 2>&1; then
+    -dict="fuzz/dictionaries/$name.txt" -artifact_prefix="$findings/" "$found" "$corpus" </dev/null >"$log" 2>&1; then
     status=1
     grep -aE '^(Not so:|==|SUMMARY|#[0-9]+ )' "$log" | tail -n 20 || true
     echo "$name: a finding, see $findings and $log"
