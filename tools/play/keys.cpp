@@ -84,7 +84,7 @@ void Play_Slide(World& world, const Words& words) {
 
 /// The target must be a window.
 std::optional<Target> Reach_Window(const World& world, const std::string& name) {
-  const auto target = Reach(world, name);
+  auto target = Reach(world, name);
   if (target && target->Control != nullptr) throw Cannot_Play("no window: " + name);
   return target;
 }

@@ -36,7 +36,7 @@ const toolkit::Label* Find_Label(const World& world, const std::string& name) {
 
 std::string Text_Of(const toolkit::Label* label) { return Quoted(label == nullptr ? std::string() : label->Caption()); }
 
-void Play_Boxes(World& world, const Words&) {
+void Play_Boxes(World& world, const Words& /*words*/) {
   for (int i = 0; i < presentation::box_count; ++i) {
     const std::string index = "(" + std::to_string(i) + ")";
     const toolkit::Label* const box = Find_Label(world, "Main_Frm.Box_Lbl" + index);
@@ -55,7 +55,7 @@ std::string Place_Text(const Form& window) {
          Number_Text(window.Height);
 }
 
-void Play_Windows(World& world, const Words&) {
+void Play_Windows(World& world, const Words& /*words*/) {
   const auto& windows = world.Platform.Windows();
   for (const Form* const window : windows.In_Order_Of_Showing())
     world.Print("window " + window->Name + ' ' + Place_Text(*window) + (window == windows.Active() ? " active" : ""));
@@ -71,7 +71,7 @@ void Play_Region(World& world, const Words& words) {
                 std::to_string(rect.Bottom));
 }
 
-void Play_Balloon(World& world, const Words&) {
+void Play_Balloon(World& world, const Words& /*words*/) {
   const Form* const window = world.Find_Window("frmBalloon");
   if (window == nullptr || !window->Visible()) return world.Print("no balloon");
   const auto icon = Find_Target(world, "frmBalloon.imgDisplayIcon");
@@ -81,7 +81,7 @@ void Play_Balloon(World& world, const Words&) {
               (has_icon ? " icon" : " noicon"));
 }
 
-void Play_Parent(World& world, const Words&) {
+void Play_Parent(World& world, const Words& /*words*/) {
   const Form* const main = world.Find_Window("Main_Frm");
   const bool embedded = main != nullptr && world.Platform.Shell.Under_Progman(main->Handle());
   world.Print(embedded ? "parent Progman" : "parent none");

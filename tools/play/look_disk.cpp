@@ -31,7 +31,7 @@ void Play_Ls(World& world, const Words& words) {
   for (const auto& entry : listed) world.Print(entry.Name + (entry.Is_Folder ? "/" : ""));
 }
 
-void Play_Store(World& world, const Words&) {
+void Play_Store(World& world, const Words& /*words*/) {
   for (const auto& value : world.Platform.Store.Values(application))
     world.Print(value.Section + ' ' + value.Key + ' ' + Quoted(value.Text));
 }

@@ -24,7 +24,7 @@ std::string_view Answer_Name(platform::Box_Answer answer) {
   return names.at(static_cast<std::size_t>(answer));
 }
 
-void Play_Messages(World& world, const Words&) {
+void Play_Messages(World& world, const Words& /*words*/) {
   for (const auto& shown : world.Platform.Message_Box.Take_Shown()) {
     std::string line = "message " + Quoted(shown.Title) + ' ' + Quoted(shown.Text) + ' ';
     line.append(Icon_Name(shown.Icon)).append(" ").append(Buttons_Name(shown.Buttons));
@@ -32,7 +32,7 @@ void Play_Messages(World& world, const Words&) {
   }
 }
 
-void Play_Menus(World& world, const Words&) {
+void Play_Menus(World& world, const Words& /*words*/) {
   for (const auto& shown : world.Platform.Menu.Take_Shown()) {
     world.Print("menu " + shown.Owner);
     for (const platform::Menu_Item& item : shown.Items) {
@@ -44,7 +44,7 @@ void Play_Menus(World& world, const Words&) {
 }
 
 /// No part of the program opens a file dialog or starts a browser yet.
-void Play_Nothing(World&, const Words&) {}
+void Play_Nothing(World& /*world*/, const Words& /*words*/) {}
 
 /// The path without the program folder, if it lies in that.
 std::string Relative_Path(World& world, const std::string& path) {
@@ -53,23 +53,23 @@ std::string Relative_Path(World& world, const std::string& path) {
   return within ? path.substr(folder.size()) : path;
 }
 
-void Play_Wallpaper(World& world, const Words&) {
+void Play_Wallpaper(World& world, const Words& /*words*/) {
   for (const auto& setting : world.Platform.Wallpaper.Take_Settings())
     world.Print("wallpaper " + Quoted(Relative_Path(world, setting.Path)) + ' ' + setting.Tile_Wallpaper + ' ' +
                 setting.Wallpaper_Style);
 }
 
-void Play_Posted(World& world, const Words&) {
+void Play_Posted(World& world, const Words& /*words*/) {
   for (const auto& posted : world.Platform.Instances.Take_Posted())
     world.Print("posted " + Quoted(posted.Title) + ' ' + std::to_string(posted.Message));
 }
 
-void Play_Icon_List(World& world, const Words&) {
+void Play_Icon_List(World& world, const Words& /*words*/) {
   auto& shell = world.Platform.Shell;
   world.Print("iconlist " + std::to_string(shell.Icon_Back()) + " repaints " + std::to_string(shell.Take_Repaints()));
 }
 
-void Play_Clock(World& world, const Words&) { world.Print(Moment_Text(world.Platform.Time.Now())); }
+void Play_Clock(World& world, const Words& /*words*/) { world.Print(Moment_Text(world.Platform.Time.Now())); }
 
 void Play_Say(World& world, const Words& words) {
   std::string text;

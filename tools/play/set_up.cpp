@@ -87,7 +87,7 @@ void Play_Icons(World& world, const Words& words) {
 
 void Play_Instance(World& world, const Words& words) { world.Platform.Instances.Add(words[0]); }
 
-void Play_Start(World& world, const Words&) { world.Start(); }
+void Play_Start(World& world, const Words& /*words*/) { world.Start(); }
 
 }  // namespace
 

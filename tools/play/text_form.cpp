@@ -87,7 +87,7 @@ std::string Moment_Text(const basic::Moment& moment) {
 int To_Whole(std::string_view word) { return Parse<int>(word, "a whole number"); }
 
 double To_Number(std::string_view word) {
-  const double number = Parse<double>(word, "a number");
+  const auto number = Parse<double>(word, "a number");
   if (!std::isfinite(number)) throw Cannot_Play("a number expected, not " + Quoted(word));
   return number;
 }
@@ -107,7 +107,7 @@ basic::Moment To_Moment(std::string_view day, std::string_view time) {
     throw Cannot_Play("no time of day: " + Quoted(time));
   const basic::Serial_Day serial = basic::Date_Serial(year, month, day_of_month);
   if (basic::Civil_From_Serial(serial).Day != day_of_month) throw Cannot_Play("no date: " + Quoted(day));
-  return {serial, (std::int64_t{hour} * 3600 + minute * 60 + second) * 1'000'000};
+  return {serial, (std::int64_t{hour} * 3600 + std::int64_t{minute} * 60 + second) * 1'000'000};
 }
 
 }  // namespace play

@@ -61,7 +61,7 @@ double Memory_Backend::Width_Of(std::string_view text) const {
   return width;
 }
 
-double Memory_Backend::Text_Width(const toolkit::Font&, std::string_view text) { return Width_Of(text); }
+double Memory_Backend::Text_Width(const toolkit::Font& /*font*/, std::string_view text) { return Width_Of(text); }
 
 /// A word goes to the next line when it doesn't fit on its own any more; blanks hang over the line's end, and a word
 /// that is wider than a whole line sticks out.
@@ -81,7 +81,7 @@ int Memory_Backend::Lines_Of(std::string_view paragraph, double width) const {
   return lines;
 }
 
-double Memory_Backend::Text_Height(const toolkit::Font&, std::string_view text, double width) {
+double Memory_Backend::Text_Height(const toolkit::Font& /*font*/, std::string_view text, double width) {
   int lines = 0;
   for (;;) {
     const std::size_t end = text.find('\n');
@@ -91,7 +91,7 @@ double Memory_Backend::Text_Height(const toolkit::Font&, std::string_view text, 
   }
 }
 
-std::size_t Memory_Backend::Longest_Beginning(const toolkit::Font&, std::string_view text, double limit) {
+std::size_t Memory_Backend::Longest_Beginning(const toolkit::Font& /*font*/, std::string_view text, double limit) {
   double width = 0;
   std::size_t length = 0;
   while (length < text.size() && width + Width_Of(text[length]) < limit) width += Width_Of(text[length++]);

@@ -23,7 +23,7 @@ class Memory_Backend : public toolkit::Backend {
   double Twips_Per_Pixel(toolkit::Axis axis) override;
 
   /// Borders take no room: a window is as large as its client area.
-  double Frame_Size(toolkit::Form_Border, toolkit::Axis) override { return 0; }
+  double Frame_Size(toolkit::Form_Border /*border*/, toolkit::Axis /*axis*/) override { return 0; }
   double Screen_Size(toolkit::Axis axis) override;
 
   /// It has every font.

@@ -49,10 +49,10 @@ const std::array<Locale_Data, 3>& All() {
 Memory_Locale::Memory_Locale() : chosen_(&All().front()), present_(chosen_) {}
 
 bool Memory_Locale::Choose(std::string_view name) {
-  const auto found =
+  const auto* const found =
       std::find_if(All().begin(), All().end(), [&](const Locale_Data& locale) { return locale.Name == name; });
   if (found == All().end()) return false;
-  chosen_ = &*found;
+  chosen_ = found;
   return true;
 }
 

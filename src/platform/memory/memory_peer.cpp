@@ -26,14 +26,14 @@ void Memory_Peer::Hide() {
   windows_.Hidden(*this);
 }
 
-void Memory_Peer::Form_Changed(toolkit::Aspect) { ++counts_.Form_Changes; }
+void Memory_Peer::Form_Changed(toolkit::Aspect /*aspect*/) { ++counts_.Form_Changes; }
 
 bool Memory_Peer::Has(const toolkit::Control& control) const {
   const auto& controls = form_.Controls();
   return std::find(controls.begin(), controls.end(), &control) != controls.end();
 }
 
-void Memory_Peer::Control_Changed(toolkit::Control& control, toolkit::Aspect) {
+void Memory_Peer::Control_Changed(toolkit::Control& control, toolkit::Aspect /*aspect*/) {
   if (&control.Window != &form_) throw std::logic_error("a change of a control of another window");
   ++counts_.Control_Changes;
 }

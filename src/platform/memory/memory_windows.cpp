@@ -108,9 +108,9 @@ std::vector<toolkit::Form*> Memory_Windows::In_Order_Of_Showing() const {
 
 std::vector<toolkit::Form*> Memory_Windows::From_The_Front() const {
   std::vector<toolkit::Form*> forms;
-  for (auto peer = front_.rbegin(); peer != front_.rend(); ++peer) forms.push_back(&(*peer)->Form());
-  for (auto peer = loaded_.rbegin(); peer != loaded_.rend(); ++peer)
-    if (!Contains(front_, *peer)) forms.push_back(&(*peer)->Form());
+  for (const Memory_Peer* const peer : Peers(front_.rbegin(), front_.rend())) forms.push_back(&peer->Form());
+  for (const Memory_Peer* const peer : Peers(loaded_.rbegin(), loaded_.rend()))
+    if (!Contains(front_, peer)) forms.push_back(&peer->Form());
   return forms;
 }
 

@@ -2,10 +2,10 @@
 // runs at its moment. The wall clock goes along with it and can be set without anything falling due by that.
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <tuple>
 
 #include "basic/serial_day.h"
 
@@ -23,7 +23,9 @@ class Virtual_Time {
     std::int64_t Due = 0;     ///< as Elapsed tells the time
     std::int64_t Number = 0;  ///< in the order of entry, from 1 on
 
-    friend auto operator<=>(const Ticket&, const Ticket&) = default;
+    friend bool operator<(const Ticket& a, const Ticket& b) {
+      return std::tie(a.Due, a.Number) < std::tie(b.Due, b.Number);
+    }
   };
 
   /// Microseconds since the beginning. They only ever grow.
