@@ -12,8 +12,9 @@ Label::Label(Form& window, std::string name, int index)
 void Label::Changed(Aspect aspect) {
   Control::Changed(aspect);
   if (!AutoSize) return;
-  const bool new_width = aspect == Aspect::Bounds && In_Twips().Width != sized_for_width_;
-  if (new_width || aspect == Aspect::Caption || aspect == Aspect::Appearance) Size_To_Text();
+  const bool new_size =
+      aspect == Aspect::Bounds && (In_Twips().Width != sized_for_width_ || In_Twips().Height != sized_height_);
+  if (new_size || aspect == Aspect::Caption || aspect == Aspect::Appearance) Size_To_Text();
 }
 
 void Label::Size_To_Text() {
@@ -21,6 +22,7 @@ void Label::Size_To_Text() {
   const Font font{FontName, FontSize, FontBold, FontItalic, FontUnderline};
   Bounds sized = In_Twips();
   sized.Height = Window.System().Text_Height(font, Caption(), sized.Width);
+  sized_height_ = sized.Height;
   Place(sized);
 }
 

@@ -31,14 +31,14 @@ class Label : public Control, public Font_Properties {
   Property<bool> Fixed_Border{*this, Aspect::Appearance};   ///< a single line around it
   Property<bool> Mnemonics{*this, Aspect::Appearance, true};  ///< "&" marks the next character; "&&" shows one "&"
   Property<bool> Word_Wrap{*this, Aspect::Appearance, true};  ///< breaks lines at blanks where the width ends
-  Property<bool> AutoSize{*this, Aspect::Appearance};  ///< the height follows the text, its font and the width
+  Property<bool> AutoSize{*this, Aspect::Appearance};  ///< the height is that of the text, whatever is set
 
   void Changed(Aspect aspect) override;
 
  private:
   void Size_To_Text();
 
-  double sized_for_width_ = 0;  // twips
+  double sized_for_width_ = 0, sized_height_ = 0;  // twips
 };
 
 }  // namespace toolkit

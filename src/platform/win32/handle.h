@@ -66,6 +66,7 @@ struct Free_Library {
 using Font_Owner = Owner<HFONT, Delete_Graphic>;
 using Bitmap_Owner = Owner<HBITMAP, Delete_Graphic>;
 using Brush_Owner = Owner<HBRUSH, Delete_Graphic>;
+using Pen_Owner = Owner<HPEN, Delete_Graphic>;
 using Region_Owner = Owner<HRGN, Delete_Graphic>;
 using Context_Owner = Owner<HDC, Delete_Context>;
 using Window_Owner = Owner<HWND, Destroy_Window>;

@@ -22,11 +22,12 @@ void Fill(HDC context, const RECT& place, COLORREF colour) {
   ExtTextOutA(context, 0, 0, ETO_OPAQUE, &place, nullptr, 0, nullptr);
 }
 
-void Draw_Outline(HDC context, const RECT& client, COLORREF ground, int corner) {
-  const Brush_Owner brush(CreateSolidBrush(ground));
+void Draw_Outline(HDC context, const RECT& client, const toolkit::Form& form) {
+  const Brush_Owner brush(CreateSolidBrush(To_Colour(form.BackColor)));
+  const Pen_Owner pen(CreatePen(PS_SOLID, 1, To_Colour(form.ForeColor)));
   const Selection inside(context, brush.Get());
-  const Selection line(context, GetStockObject(BLACK_PEN));
-  RoundRect(context, 0, 0, client.right, client.bottom, corner, corner);
+  const Selection line(context, pen.Get());
+  RoundRect(context, 0, 0, client.right, client.bottom, form.Outline_Corner, form.Outline_Corner);
 }
 
 UINT Text_Format(const toolkit::Label& label) {
@@ -63,10 +64,9 @@ void Painter::Paint(HDC target, const RECT& area, const RECT& client, const tool
 
 void Painter::Draw_All(HDC context, HDC target, const RECT& client, const toolkit::Form& form,
                        std::vector<Painted_Control>& controls) {
-  const COLORREF ground = To_Colour(form.BackColor);
   const Selection own_font(context, GetStockObject(SYSTEM_FONT));
-  Fill(context, client, ground);
-  if (form.Outline_Corner != 0) Draw_Outline(context, client, ground, form.Outline_Corner);
+  Fill(context, client, To_Colour(form.BackColor));
+  if (form.Outline_Corner != 0) Draw_Outline(context, client, form);
   for (Painted_Control& control : controls) {
     if (!control.Shown || RectVisible(target, &control.Place) == 0) continue;
     if (control.Label != nullptr) Draw_Label(context, control);
