@@ -11,7 +11,7 @@ constexpr basic::Serial_Day fifth_of_march_2004 = 38051;
 
 struct Forms {
   std::string Short_Date, Long_Date;
-  Weekday First;
+  Weekday First = Weekday::Saturday;
   std::string Friday;
 };
 

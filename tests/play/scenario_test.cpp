@@ -54,7 +54,8 @@ TEST(Scenario_Test, A_backslash_in_a_bare_word_stands_for_itself) {
 }
 
 TEST(Scenario_Test, What_cant_be_read_is_told_by_its_line) {
-  for (const char* const line : {"say \"open", "say \"a\"b", "say a\"b", "say \"\\q\"", "say \"\\x4\"", "say \"\\"})
+  for (const char* const line :
+       {R"(say "open)", R"(say "a"b)", R"(say a"b)", R"(say "\q")", R"(say "\x4")", R"(say "\)"})
     EXPECT_EQ(Line_Of_Error("start\n" + std::string(line) + "\nstart"), 2) << line;
 }
 
