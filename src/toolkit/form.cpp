@@ -103,6 +103,7 @@ Control* Form::Control_At(double x, double y) const {
 
 void Form::Mouse_Down(Mouse_Button button, double x, double y) {
   captured_ = Control_At(x, y);
+  clicking_ = true;
   if (captured_ == nullptr) return;
   const Bounds& place = captured_->In_Twips();
   if (captured_->Enabled && captured_->On_Mouse_Down) captured_->On_Mouse_Down(button, x - place.Left, y - place.Top);
@@ -116,20 +117,25 @@ void Form::Mouse_Move(Mouse_Button button, double x, double y) {
 
 void Form::Mouse_Up(Mouse_Button button, double x, double y) {
   Control* const target = std::exchange(captured_, nullptr);
+  const bool click = std::exchange(clicking_, false);
   if (target == nullptr) {
-    if (On_Click) On_Click();
+    if (click && On_Click) On_Click();
     return;
   }
   if (!target->Enabled) return;
   const Bounds place = target->In_Twips();
   if (target->On_Mouse_Up) target->On_Mouse_Up(button, x - place.Left, y - place.Top);
-  if (button == Mouse_Button::Left && place.Contains(x, y) && target->On_Click) target->On_Click();
+  if (click && button == Mouse_Button::Left && place.Contains(x, y) && target->On_Click) target->On_Click();
 }
 
 void Form::Double_Click(Mouse_Button button, double x, double y) {
+  // Only the left button knows a double-click.
+  if (button != Mouse_Button::Left) {
+    Mouse_Down(button, x, y);
+    return;
+  }
   captured_ = Control_At(x, y);
-  if (button == Mouse_Button::Left && captured_ != nullptr && captured_->Enabled && captured_->On_Double_Click)
-    captured_->On_Double_Click();
+  if (captured_ != nullptr && captured_->Enabled && captured_->On_Double_Click) captured_->On_Double_Click();
 }
 
 void Form::Key_Up(int code) const {

@@ -107,6 +107,7 @@ class Form : public Property_Owner, public Font_Properties {
   std::vector<Control*> controls_;
   std::unique_ptr<Form_Peer> peer_;
   Control* captured_ = nullptr;
+  bool clicking_ = false;  // the next release is a click; that of a double-click isn't
   bool visible_ = false;
   bool unloading_ = false;
 };

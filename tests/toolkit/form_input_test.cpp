@@ -129,9 +129,20 @@ TEST_F(Form_Input_Test, A_control_disabled_by_its_own_press_gets_no_release) {
 TEST_F(Form_Input_Test, A_left_double_click_goes_to_the_control_under_it) {
   Window.Double_Click(Mouse_Button::Left, 250, 250);
   EXPECT_EQ(Take(), Words{"Over double click"});
-  Window.Double_Click(Mouse_Button::Right, 250, 250);
   Window.Double_Click(Mouse_Button::Left, 50, 50);
   EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Form_Input_Test, A_double_click_of_another_button_is_a_press) {
+  Window.Double_Click(Mouse_Button::Right, 110, 120);
+  EXPECT_EQ(Take(), Words{"Under down 2 at 10 20"});
+}
+
+TEST_F(Form_Input_Test, The_release_behind_a_double_click_is_no_click) {
+  Window.Double_Click(Mouse_Button::Left, 110, 120);
+  Take();
+  Window.Mouse_Up(Mouse_Button::Left, 110, 120);
+  EXPECT_EQ(Take(), Words{"Under up 1 at 10 20"});
 }
 
 TEST_F(Form_Input_Test, The_release_behind_a_double_click_goes_to_the_same_control) {
