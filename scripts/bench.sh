@@ -11,8 +11,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 cd "$root"
 need_packages build wine bench
-# GCC 12 takes "text" + text for an overlap once it optimises.
-configure native-release -DCMAKE_CXX_FLAGS=-Wno-restrict
+configure native-release
 configure windows-x64
 build native-release bench_month_change bench_tick bench_month_print bench_first_map bench_click_time
 build windows-x64 meridex bench_month_change bench_gdi_count bench_jpeg floor_window
