@@ -21,11 +21,11 @@ void Balloons::Balloon_Tooltip(const std::string& text) {
                                                    Day_Of_Box(calendar_.Tip_Box).Value());
   const std::string title = Balloon_Title(day - clock_.Now().Day);
   Drop_Closed();
-  // Rebuilding the month can bring up a message, and under it this balloon can close and another one open.
+  // Rebuilding the month can bring up a message, and under it another balloon can open.
   const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, arrangement_, calendar_, Calls);
   balloons_.push_back(balloon);
   balloon->SetBalloon(title, text, 0, 0, "i", "Tahoma, if exists", 8);
-  balloon->Window.Show();
+  balloon->Show();
 }
 
 void Balloons::Unload_All() {

@@ -66,10 +66,7 @@ void Frm_Balloon::Tie_Events() {
   };
 }
 
-void Frm_Balloon::Load() {
-  calendar_.Tip_Showing = true;
-  close_timer_.Enable();
-}
+void Frm_Balloon::Load() { calendar_.Tip_Showing = true; }
 
 void Frm_Balloon::Unload() {
   close_timer_.Disable();
@@ -90,6 +87,11 @@ void Frm_Balloon::SetBalloon(const std::string& title, const std::string& text, 
   calls_.Rebuild_Month();
   Window.Top = top != 0 ? top : Place_Down();
   Window.Left = left != 0 ? left : Place_Across();
+}
+
+void Frm_Balloon::Show() {
+  Window.Show();
+  if (Window.Loaded()) close_timer_.Enable();
 }
 
 void Frm_Balloon::Show_Icon(const std::string& icon_type) {

@@ -37,6 +37,9 @@ class Frm_Balloon {
   void SetBalloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
                   const std::string& icon_type, const std::string& font_name, double font_size);
 
+  /// Shows it and makes it active. From here on it closes as soon as it isn't the active window.
+  void Show();
+
   /// Unloads the window.
   void HideBalloon() { Window.Unload(); }
 
