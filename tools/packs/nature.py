@@ -91,6 +91,13 @@ def branches(canvas, x, y, length, angle, width, colour, dice, depth):
                  width * 0.66, colour, dice, depth - 1)
 
 
+def wood(canvas, x, foot, size, colour, dice):
+    """A far bare tree: a stem and a haze of twigs."""
+    canvas.stroke(x, foot, x, foot - size, max(0.8, size * 0.05), colour)
+    for _ in range(3):
+        canvas.disc(x + dice.uniform(-0.2, 0.2) * size, foot - size * dice.uniform(0.75, 1.2), size * 0.32, colour, 0.33)
+
+
 def cumulus(canvas, x, y, width, seed, top=(255, 255, 255), base=(196, 208, 226), strength=1.0):
     """A heap cloud with a flat base in shadow."""
     dice = random.Random(seed)
