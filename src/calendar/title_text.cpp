@@ -1,5 +1,7 @@
 #include "calendar/title_text.h"
 
+#include <cstdlib>
+
 #include "basic/date_pattern.h"
 #include "presentation/box_style.h"
 
@@ -8,7 +10,7 @@ namespace calendar {
 const char* Get_Suffix(basic::Int16 day) {
   const int number = day.Value();
   if (number >= 11 && number <= 13) return "th";
-  switch (number % 10) {
+  switch (std::abs(number % 10)) {
     case 1: return "st";
     case 2: return "nd";
     case 3: return "rd";
