@@ -1,56 +1,35 @@
 // The whole program over event files that nobody would write by hand: it must come up, and keep what it can.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <random>
 #include <string>
 
-#include "main/meridex.h"
-#include "platform/memory/memory_platform.h"
+#include "tests/calendar/program_world.h"
 
 namespace {
 
 const std::string path = "C:\\Meridex\\calendar.dat";
 
-class Bad_Event_Files : public ::testing::Test {
+class Bad_Event_Files : public ::testing::Test, public Program_World {
  protected:
-  ~Bad_Event_Files() override { Platform.End_Program(); }
-
   /// Starts the program over the file and lets it tick for a while.
   void Start(const std::string& bytes) {
-    Platform.End_Program();
-    Program.reset();
     Platform.Files.Put(path, bytes);
-    Platform.Begin_Program();
-    Platform.Time.Set_Now({basic::Date_Serial(2004, 3, 5), 0});
-    Program = std::make_unique<Meridex>(Platform.Backend(), Platform.System());
-    Platform.Loop.Dispatch([this] { Program->Start(); });
-    Platform.Time.Run_Until(Platform.Time.Elapsed() + 1'000'000);
+    Program_World::Start();
+    Pass(1);
   }
 
-  [[nodiscard]] const toolkit::Form& Window() const { return *Platform.Windows_And_Timers.Windows.Find("Main_Frm"); }
-
-  [[nodiscard]] std::string Caption_Of(int box) const {
-    for (const toolkit::Control* const control : Window().Controls())
+  [[nodiscard]] std::string Caption_Of(int box) {
+    for (const toolkit::Control* const control : Window("Main_Frm")->Controls())
       if (control->Name == "Box_Caption_Lbl" && control->Index == box)
         return dynamic_cast<const toolkit::Label&>(*control).Caption;
     return "no such box";
   }
 
   std::string Press(int key) {
-    Platform.Loop.Dispatch([&] { Window().Key_Up(key); });
+    Platform.Loop.Dispatch([&] { Window("Main_Frm")->Key_Up(key); });
     return Messages();
   }
-
-  /// The texts of the boxes since the last call.
-  std::string Messages() {
-    std::string texts;
-    for (const auto& shown : Platform.Message_Box.Take_Shown()) texts += shown.Text + '\n';
-    return texts;
-  }
-
-  platform::memory::Memory_Platform Platform;
-  std::unique_ptr<Meridex> Program;
 };
 
 constexpr int key_f4 = 115;
