@@ -24,8 +24,8 @@ class Edit_Frm_Test : public ::testing::Test {
 
   void Type(const std::string& text) { Editor.Message_Txt.User_Text(text); }
 
-  toolkit::Label& Box() { return Arrangement.Box_Lbl[9]; }
-  toolkit::Label& Caption() { return Arrangement.Box_Caption_Lbl[9]; }
+  [[nodiscard]] toolkit::Label& Box() const { return Arrangement.Box_Lbl[9]; }
+  [[nodiscard]] toolkit::Label& Caption() const { return Arrangement.Box_Caption_Lbl[9]; }
 
   const std::string data_file = Memory_Files::Full_Path("calendar.dat");
   Memory_Platform Platform;

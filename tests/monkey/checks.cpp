@@ -77,7 +77,7 @@ std::string Checks::Editor_Text() const {
   const toolkit::Form* const editor = world_.Find_Window("Edit_Frm");
   if (editor == nullptr) return "";
   for (const toolkit::Control* const control : editor->Controls())
-    if (const auto* const box = dynamic_cast<const toolkit::Text_Box*>(control)) return box->Text;
+    if (const auto* const box = dynamic_cast<const toolkit::Text_Box*>(control)) return box->Text();
   return "";
 }
 

@@ -99,7 +99,7 @@ std::string Random_Actions::Key() {
 }
 
 std::string Random_Actions::Type() {
-  const std::string typing = "type Message_Txt " + play::Quoted(Typed_Text(random_));
+  std::string typing = "type Message_Txt " + play::Quoted(Typed_Text(random_));
   switch (random_.Below(4)) {
     case 0: return typing;
     case 1: return typing + "\n" + Control();

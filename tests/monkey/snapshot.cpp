@@ -17,7 +17,10 @@ void Copy_File(Memory_Files& from, Memory_Files& to, const std::string& path) {
 void Copy_Folder(Memory_Files& from, Memory_Files& to, const std::string& folder) {
   if (!from.Folder_Exists(folder)) return;
   to.Make_Folder(folder);
-  for (const std::string& name : from.File_Names(folder)) Copy_File(from, to, folder + "\\" + name);
+  for (const std::string& name : from.File_Names(folder)) {
+    std::string path = folder;
+    Copy_File(from, to, path.append("\\").append(name));
+  }
 }
 
 void Copy_World(play::World& from, play::World& to) {
