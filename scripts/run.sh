@@ -152,7 +152,7 @@ wait_for_calendar() { # PROCESS
       give_keys
       echo "Closing a message titled $(xdotool getwindowname "${boxes##* }" 2>/dev/null || true)"
       xdotool key Return
-      wait_until 5 gone "${boxes##* }" || true
+      wait_until 1 gone "${boxes##* }" || true  # a box that has just come up can miss its key
     elif [ -n "$(windows_of_program)" ]; then
       return 0
     fi

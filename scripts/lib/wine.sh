@@ -6,7 +6,7 @@
 #   copy_prefix FOLDER                a prefix for one run: own registry, shared system folder; sets WINEPREFIX
 #   store_setting SECTION KEY VALUE   a stored setting of the program in that prefix, before it is booted
 #   boot_prefix                       starts its server, on the real clock
-#   boot_desktop                      the same on a display of start_display's, until Wine's desktop stands there
+#   boot_desktop                      the same on a display of start_display's, until Wine's desktop is painted
 #   on_clock FILE COMMAND...          runs a command on the clock that FILE tells
 #   end_prefix                        ends every program of the prefix
 #
@@ -29,10 +29,10 @@ idle_input=
 # Polls: tries the command every 50 ms until it succeeds; fails after SECONDS.
 #   wait_until SECONDS COMMAND...
 wait_until() {
-  local tries=$(($1 * 20))
+  local deadline=$((SECONDS + $1))
   shift
   while ! "$@" >/dev/null 2>&1; do
-    ((tries-- > 0)) || return 1
+    [ $SECONDS -le $deadline ] || return 1
     sleep 0.05
   done
 }
@@ -119,7 +119,10 @@ store_setting() { # SECTION KEY VALUE
 boot_prefix() {
   "$WINESERVER" -p60  # it goes by itself if a run is cut off
   exec {idle_input}> >(exec "$WINE64" cmd >/dev/null 2>&1)
-  timeout 60 "$WINE64" cmd /c ver >/dev/null 2>&1 </dev/null
+  wait_until 60 xdotool search --onlyvisible --name 'Wine desktop' || {
+    echo "Wine's desktop didn't come up." >&2
+    return 1
+  }
 }
 
 desktop_stands() {
@@ -128,10 +131,7 @@ desktop_stands() {
 
 boot_desktop() {
   boot_prefix
-  wait_until 30 desktop_stands || {
-    echo "Wine's desktop didn't come up." >&2
-    return 1
-  }
+  wait_until 30 desktop_stands
 }
 
 # FILE holds '@YYYY-MM-DD HH:MM:SS' for a clock that runs on from there. Timers and the wait for them stay real.

@@ -83,6 +83,6 @@ class Title_Row(Desktop_Test):
         x, y = desktop.box_rect(10).centre
         desktop.screen.click(x, y)
         self.wait_for_colour(desktop, "Fore")
-        desktop.prefix.start("notepad")
+        desktop.programs.append(desktop.prefix.start("notepad"))
         wait_for(lambda: desktop.screen.windows("notepad.exe"), "another program's window")
         self.wait_for_colour(desktop, "Inactive")

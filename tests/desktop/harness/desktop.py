@@ -166,12 +166,12 @@ class Desktop:
         return [json.loads(line) for line in output.decode("latin-1").splitlines() if line.startswith("{")]
 
     def message_box(self, title="Meridex"):
-        """Waits for a message box and reads it."""
+        """Waits for a message box, until it takes keys, and reads it."""
         self.find_window(title)
 
         def read():
             for window in self.probe():
-                if window["class"] == "#32770" and window["text"] == title and window["visible"]:
+                if window["class"] == "#32770" and window["text"] == title and window["active"]:
                     children = window["children"]
                     texts = [child["text"] for child in children if child["class"] == "Static" and child["text"]]
                     buttons = [child["text"].replace("&", "") for child in children if child["class"] == "Button"]
