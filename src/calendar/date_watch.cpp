@@ -65,8 +65,9 @@ void Date_Watch::Begin_New_Day() {
   view_.Go_To_Present_Month();
   view_.Write_Title();
   grid_.Set_Day_Headers();
-  wallpaper_.Get_Wallpaper_Stuff(settings_.Pack_Name);
+  // Before the wallpaper: its messages let further ticks in, and the day begins once.
   last_day_key_ = Present_Day_Key();
+  wallpaper_.Get_Wallpaper_Stuff(settings_.Pack_Name);
   if (!calendar_.Compact_On) {
     grid_.Setup_Boxes(calendar_.View_Month, calendar_.View_Year);
     colours_.Set_Colours();
