@@ -128,11 +128,17 @@ windows_of_program() {
   timeout 10 xdotool search --onlyvisible --class '^meridex\.exe$' 2>/dev/null
 }
 
-# Message boxes have a title bar, the calendar has none.
-is_message_box() { # WINDOW
-  local hints
-  hints=$(xprop -id "$1" _MOTIF_WM_HINTS 2>/dev/null | cut -d, -f3)
-  [ -n "$hints" ] && [ $((hints)) -ne 0 ]
+# Message boxes have a title bar, the calendar and the desktop behind it have none. Prints box, calendar, or nothing for a
+# window that is just coming or going.
+kind_of() { # WINDOW
+  local decorations
+  decorations=$(xprop -id "$1" _MOTIF_WM_HINTS 2>/dev/null | sed -n 's/.*= 0x[0-9a-f]*, 0x[0-9a-f]*, \(0x[0-9a-f]*\),.*/\1/p')
+  [ -n "$decorations" ] || return 0
+  if [ $((decorations)) -ne 0 ]; then
+    echo box
+  elif [ "$(xdotool getwindowname "$1" 2>/dev/null)" != Meridex ]; then
+    echo calendar
+  fi
 }
 
 screen_sum() {
@@ -141,19 +147,22 @@ screen_sum() {
 
 # Waits for the calendar; message boxes on the way, such as an alert, are told of and closed.
 wait_for_calendar() { # PROCESS
-  local deadline=$((SECONDS + 60)) window boxes
+  local deadline=$((SECONDS + 60)) window box calendar
   while kill -0 "$1" 2>/dev/null; do
     [ $SECONDS -lt $deadline ] || return 1
-    boxes=''
+    box='' calendar=''
     for window in $(windows_of_program); do
-      is_message_box "$window" && boxes="$boxes $window"
+      case $(kind_of "$window") in
+        box) box=$window ;;
+        calendar) calendar=$window ;;
+      esac
     done
-    if [ -n "$boxes" ]; then
+    if [ -n "$box" ]; then
       give_keys
-      echo "Closing a message titled $(xdotool getwindowname "${boxes##* }" 2>/dev/null || true)"
+      echo "Closing a message titled $(xdotool getwindowname "$box" 2>/dev/null || true)"
       xdotool key Return
-      wait_until 1 gone "${boxes##* }" || true  # a box that has just come up can miss its key
-    elif [ -n "$(windows_of_program)" ]; then
+      wait_until 1 gone "$box" || true  # a box that has just come up can miss its key
+    elif [ -n "$calendar" ]; then
       return 0
     fi
     sleep 0.05
