@@ -45,7 +45,8 @@ void Popup_Menus::Clear(basic::Int16 index) {
 
 void Popup_Menus::Popup_Months() {
   const basic::Civil_Date today = basic::Civil_From_Serial(clock_.Now().Day);
-  const int month = Track(presentation::Months_Menu(calendar_.View_Month, calendar_.View_Year, today.Month, today.Year));
+  const int month =
+      Track(presentation::Months_Menu(calendar_.View_Month, calendar_.View_Year, today.Month, today.Year));
   if (month == 0) return;
   calendar_.View_Month = month;
   view_.Refresh_Calendar();

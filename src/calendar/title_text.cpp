@@ -25,8 +25,8 @@ Title_Text::Title_Text(platform::Clock& clock, platform::Locale& locale, const s
 const std::string& Title_Text::Get_Bar_Text() {
   const basic::Moment now = clock_.Now();
   const int today = basic::Civil_From_Serial(now.Day).Day;
-  const basic::Moment day_of_view{
-      basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), today), 0};
+  const basic::Moment day_of_view{basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), today),
+                                  0};
   text_.clear();
   if (presentation::Small_Style(settings_)) {
     Append_Month_And_Year(day_of_view);

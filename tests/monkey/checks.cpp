@@ -73,6 +73,8 @@ std::string Checks::File() const {
   return world_.Platform.Files.Bytes(Memory_Files::Full_Path("calendar.dat")).value_or("");
 }
 
+bool Checks::File_There() const { return world_.Platform.Files.File_Exists(Memory_Files::Full_Path("calendar.dat")); }
+
 std::string Checks::Editor_Text() const {
   const toolkit::Form* const editor = world_.Find_Window("Edit_Frm");
   if (editor == nullptr) return "";
@@ -91,6 +93,7 @@ toolkit::Label& Checks::Marked_Box() const {
 void Checks::Before() {
   before_ = {};
   before_.file = File();
+  before_.file_there = File_There();
   before_.running = Running();
   if (!before_.running) return;
   const auto& state = *world_.State();
@@ -167,7 +170,8 @@ void Checks::Note_What_May_Differ(const std::string& lines, bool nested) {
     if (!nested && lines.find("F9") == std::string::npos) throw Failed("the window opened without a drawing");
     all_odd_ = true;
   }
-  if ((changed_outside && !drawn) || nested) all_odd_ = true;
+  const bool came_back = !before_.file_there && File_There();
+  if (((changed_outside || came_back) && !drawn) || nested) all_odd_ = true;
   if (!drawn) Marked_Box().BackColor = normal;
 }
 

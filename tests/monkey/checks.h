@@ -6,7 +6,8 @@
 //   (Selected_Date). These two part when the month turns, a press is held or F1 is pressed meanwhile. Both boxes may
 //   differ until the next drawing, and so may the one of a day that was cleared: a second line of the day stays in the
 //   file, or the open editor's text goes there.
-// - After a file was put, removed or damaged from outside, any box may differ until the next drawing.
+// - After a file was put, removed or damaged from outside, any box may differ until the next drawing. The first save
+//   behind a removal can bring the old lines back, and then the same holds.
 // - After a message about the file, reading and writing may fail until the program is started again.
 // - In compact mode nothing is drawn; F9 brings the window back over a grid that may be that of another month.
 // - Today's mark follows the clock at the tick, not before.
@@ -47,13 +48,14 @@ class Checks {
  private:
   /// What the program is up to before an action.
   struct Earlier {
-    bool running = false, compact = false, editor_open = false;
+    bool running = false, compact = false, editor_open = false, file_there = false;
     std::string file, selected_date, editor_text;
     int current_box = 0;
   };
 
   [[nodiscard]] bool Running() const;
   [[nodiscard]] std::string File() const;
+  [[nodiscard]] bool File_There() const;
   [[nodiscard]] std::string Editor_Text() const;
   [[nodiscard]] toolkit::Label& Marked_Box() const;
   [[nodiscard]] bool File_Complaint();

@@ -41,7 +41,7 @@ std::string Random_Actions::Next(const Situation& situation) {
   if (kind < 620) return Of_The_User(may_press);
   if (kind < 720) return Wait();
   if (kind < 760) return Prepared_Answer();
-  if (kind < 800) return "later " + Tenths(random_.Below(20)) + " " + (random_.Once_In(2) ? Key() : Control());
+  if (kind < 800) return "later " + Tenths(random_.Below(20) + 1) + " " + (random_.Once_In(2) ? Key() : Control());
   if (kind < 850) return Clock();
   if (kind < 890) return Disk();
   if (kind < 920) return Screen();
