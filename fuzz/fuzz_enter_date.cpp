@@ -100,7 +100,7 @@ class Calendar {
   }
 
   void Put(const std::string& bytes) { platform_.Files.Put(path_, bytes); }
-  std::string Bytes() const { return platform_.Files.Bytes(path_).value_or("no file"); }
+  [[nodiscard]] std::string Bytes() const { return platform_.Files.Bytes(path_).value_or("no file"); }
 
   /// A program that has just been started: its file number is free.
   template <class Work>
@@ -122,8 +122,8 @@ class Calendar {
   }
 
   auto Shown() { return platform_.Message_Box.Take_Shown(); }
-  const std::string& Tip(int box) const { return arrangement_.Box_Lbl[box].ToolTipText; }
-  const std::string& Caption(int box) const { return arrangement_.Box_Caption_Lbl[box].Caption; }
+  [[nodiscard]] const std::string& Tip(int box) const { return arrangement_.Box_Lbl[box].ToolTipText; }
+  [[nodiscard]] const std::string& Caption(int box) const { return arrangement_.Box_Caption_Lbl[box].Caption; }
 
  private:
   platform::memory::Memory_Platform platform_;
@@ -202,7 +202,7 @@ std::optional<Records> Expected_Change(Records records, const std::string& text,
     const std::string date = record->substr(0, record->find('='));
     if (date != today && date != today_every_year) continue;
     if (text.empty()) records.erase(record);
-    else *record = key + "=" + text;
+    else *record = std::string(key).append("=").append(text);
     return records;
   }
   records.push_back(key + "=Tom && Jane");

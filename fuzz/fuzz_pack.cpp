@@ -76,7 +76,9 @@ void Expect_Fields(const std::string& value) {
 /// A computer with the pack on its disk.
 class Machine {
  public:
-  explicit Machine(const std::string& bytes) { platform_.Files.Put(platform_.Files.Full_Path(file), bytes); }
+  explicit Machine(const std::string& bytes) {
+    platform_.Files.Put(platform::memory::Memory_Files::Full_Path(file), bytes);
+  }
 
   void Expect_Lookup(const Expected_Value& expected, int month) {
     Expect_Details(expected, month);

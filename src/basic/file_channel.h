@@ -63,7 +63,7 @@ class File_Channel {
 
   Disk& disk_;
   bool taken_ = false;
-  std::string buffer_;  // the file being read, or the records that wait to be written
+  std::string buffer_;                    // the file being read, or the records that wait to be written
   std::vector<std::size_t> record_ends_;  // where each of the waiting records ends in the buffer
   std::unique_ptr<Output_File> output_;
   std::size_t written_ = 0;  // bytes that the file holds already

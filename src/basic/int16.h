@@ -14,7 +14,7 @@ namespace basic {
 
 /// Whole numbers, and the unscoped enumerations that name some of them.
 template <class T>
-concept Whole_Number = std::convertible_to<T, std::int64_t> && (std::integral<T> || std::is_enum_v<T>);
+concept Whole_Number = std::convertible_to<T, std::int64_t> &&(std::integral<T> || std::is_enum_v<T>);
 
 class Int16 {
  public:

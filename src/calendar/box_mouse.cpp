@@ -84,8 +84,7 @@ void Box_Mouse::Hold(basic::Int16 index) {
   TimeOut(loop_, clock_, hold_seconds);
   if (calendar_.Mouse_Released) return;
   calendar_.Tip_Box = index;
-  calendar_.Selected_Date =
-      events::Date_Key(grid_.Day_Of_Box(index), calendar_.View_Month, calendar_.View_Year);
+  calendar_.Selected_Date = events::Date_Key(grid_.Day_Of_Box(index), calendar_.View_Month, calendar_.View_Year);
   Balloon_Tooltip(event_file_.Get_Message(false));
 }
 

@@ -10,10 +10,11 @@ constexpr int tick_interval = 100;  // milliseconds
 
 }  // namespace
 
-Date_Watch::Date_Watch(toolkit::Backend& backend, presentation::Arrangement& arrangement, presentation::Colours& colours,
-                       presentation::Desktop_Embedding& embedding, presentation::Placement& placement, Compact& compact,
-                       Month_View& view, Month_Grid& grid, packs::Wallpaper_Stuff& wallpaper, platform::Clock& clock,
-                       platform::Locale& locale, const settings::Settings& settings, state::Calendar_State& calendar)
+Date_Watch::Date_Watch(toolkit::Backend& backend, presentation::Arrangement& arrangement,
+                       presentation::Colours& colours, presentation::Desktop_Embedding& embedding,
+                       presentation::Placement& placement, Compact& compact, Month_View& view, Month_Grid& grid,
+                       packs::Wallpaper_Stuff& wallpaper, platform::Clock& clock, platform::Locale& locale,
+                       const settings::Settings& settings, state::Calendar_State& calendar)
     : Dectect_Date_Timer(backend, "Dectect_Date_Timer", tick_interval), arrangement_(arrangement), colours_(colours),
       embedding_(embedding), placement_(placement), compact_(compact), view_(view), grid_(grid), wallpaper_(wallpaper),
       clock_(clock), locale_(locale), settings_(settings), calendar_(calendar) {
@@ -50,9 +51,7 @@ void Date_Watch::Follow_Active_State() {
   }
 }
 
-bool Date_Watch::Is_Active() {
-  return arrangement_.Main_Frm.System().Active_Form() == &arrangement_.Main_Frm;
-}
+bool Date_Watch::Is_Active() { return arrangement_.Main_Frm.System().Active_Form() == &arrangement_.Main_Frm; }
 
 const std::string& Date_Watch::Present_Day_Key() {
   day_key_.clear();

@@ -6,8 +6,8 @@
 
 namespace calendar {
 
-Edit_Box::Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid,
-                   platform::Locale& locale, platform::Message_Box& message_box, state::Calendar_State& calendar)
+Edit_Box::Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, platform::Locale& locale,
+                   platform::Message_Box& message_box, state::Calendar_State& calendar)
     : editor_(editor), event_file_(event_file), grid_(grid), locale_(locale), message_box_(message_box),
       calendar_(calendar) {}
 

@@ -76,12 +76,12 @@ bool Function_Keys::Take_Next_Style() {
 }
 
 bool Function_Keys::Overrule_Pack_Style() {
-  const auto answer = message_box_.Show("Meridex", style_question, platform::Box_Icon::Question,
-                                        platform::Box_Buttons::Yes_No_Cancel);
+  const auto answer =
+      message_box_.Show("Meridex", style_question, platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
   if (answer != platform::Box_Answer::Yes) return false;
   stored_.Values.Use_Theme_Style = 0;
-  stored_.Set(&Settings::Style, calendar_.Pack_Box_Style == presentation::thin_box ? presentation::square_box
-                                                                                   : presentation::thin_box);
+  stored_.Set(&Settings::Style,
+              calendar_.Pack_Box_Style == presentation::thin_box ? presentation::square_box : presentation::thin_box);
   stored_.Save(&Settings::Use_Theme_Style);
   return true;
 }

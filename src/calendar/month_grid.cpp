@@ -34,8 +34,7 @@ void Month_Grid::Setup_Boxes(basic::Int16 month, basic::Int16 year) {
   Reset_Boxes();
   const std::int32_t days = DaysInMonth(basic::Date_Serial(year.Value(), month.Value(), 1));
   const basic::Int16 first = Start_Box(month, year, First_Day_Of_Week(settings_, locale_));
-  for (int day = 1; day <= days; ++day)
-    arrangement_.Box_Lbl[first + day - 1].Caption = " " + basic::To_Text(day) + " ";
+  for (int day = 1; day <= days; ++day) arrangement_.Box_Lbl[first + day - 1].Caption = " " + basic::To_Text(day) + " ";
   Hide_Misc_Boxes();
   presentation::Which_Style(arrangement_, presentation::Style_In_Force(settings_, calendar_));
   placement_.Position_In_Force();
@@ -61,8 +60,7 @@ void Month_Grid::Set_Day_Headers() {
 
 void Month_Grid::Enter_Date(std::string_view line) {
   const events::Event_Line event = events::Read_Event_Line(line);
-  if (event.Month == calendar_.View_Month &&
-      (event.Year == events::every_year || event.Year == calendar_.View_Year))
+  if (event.Month == calendar_.View_Month && (event.Year == events::every_year || event.Year == calendar_.View_Year))
     Enter_In_Box(event);
   alerts_.Test(event);
 }

@@ -10,8 +10,9 @@ namespace calendar {
 
 class Month_View {
  public:
-  Month_View(presentation::Arrangement& arrangement, Month_Grid& grid, Title_Text& title, events::Event_File& event_file,
-             Alerts& alerts, presentation::Colours& colours, platform::Clock& clock, state::Calendar_State& calendar);
+  Month_View(presentation::Arrangement& arrangement, Month_Grid& grid, Title_Text& title,
+             events::Event_File& event_file, Alerts& alerts, presentation::Colours& colours, platform::Clock& clock,
+             state::Calendar_State& calendar);
 
   /// Writes the title of the month on view.
   void Write_Title();

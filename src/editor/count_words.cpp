@@ -7,7 +7,8 @@ namespace editor {
 
 std::int32_t CountWords(std::string_view text) {
   std::string words(text);
-  std::replace_if(words.begin(), words.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  std::replace_if(
+      words.begin(), words.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
   std::int32_t count = 0;
   std::size_t blank = words.find(' ');
   if (!words.empty() && blank != 0) count = 1;

@@ -21,9 +21,9 @@ Arrangement::Arrangement(toolkit::Backend& backend)
       Prev_Month_Lbl(Main_Frm, "Prev_Month_Lbl"), Which_Month_Lbl(Main_Frm, "Which_Month_Lbl"),
       Next_Month_Lbl(Main_Frm, "Next_Month_Lbl"), DotDotDot_Lbl(Main_Frm, "DotDotDot_Lbl"),
       Clear_Pic(Main_Frm, "Clear_Pic"), File_Pic(Main_Frm, "File_Pic"), Settings_Pic(Main_Frm, "Settings_Pic"),
-      Exit_Pic(Main_Frm, "Exit_Pic"),
-      title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0], &Day_Lbl[1],
-                 &Day_Lbl[2],     &Day_Lbl[3],      &Day_Lbl[4],     &Day_Lbl[5], &Day_Lbl[6]} {
+      Exit_Pic(Main_Frm, "Exit_Pic"), title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0],
+                                                 &Day_Lbl[1],     &Day_Lbl[2],      &Day_Lbl[3],     &Day_Lbl[4],
+                                                 &Day_Lbl[5],     &Day_Lbl[6]} {
   Main_Frm.BackColor = first_back_colour;
   Main_Frm.Width = 6450;
   Main_Frm.Height = 6725;

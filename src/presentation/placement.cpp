@@ -115,8 +115,8 @@ bool Placement::Place_Would_Be_Lost() const {
 }
 
 void Placement::Ask_For_Manual_Position() {
-  const auto answer = message_box_.Show("Meridex", manual_question, platform::Box_Icon::Question,
-                                        platform::Box_Buttons::Yes_No);
+  const auto answer =
+      message_box_.Show("Meridex", manual_question, platform::Box_Icon::Question, platform::Box_Buttons::Yes_No);
   if (answer != platform::Box_Answer::Yes) return;
   stored_.Set(&Settings::Alignment, manual_position);
   stored_.Set(&Settings::Use_Theme_Pos, 0);

@@ -49,7 +49,8 @@ const Setting_Key keys[] = {
 std::span<const Setting_Key> All_Keys() { return keys; }
 
 const Setting_Key& Key_Of(const Member& variable) {
-  return *std::find_if(std::begin(keys), std::end(keys), [&](const Setting_Key& key) { return key.Variable == variable; });
+  return *std::find_if(std::begin(keys), std::end(keys),
+                       [&](const Setting_Key& key) { return key.Variable == variable; });
 }
 
 }  // namespace settings

@@ -8,7 +8,8 @@
 
 namespace settings {
 
-using Member = std::variant<basic::Int16 Settings::*, std::int32_t Settings::*, bool Settings::*, std::string Settings::*>;
+using Member =
+    std::variant<basic::Int16 Settings::*, std::int32_t Settings::*, bool Settings::*, std::string Settings::*>;
 
 struct Setting_Key {
   const char* Section;

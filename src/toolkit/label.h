@@ -27,11 +27,11 @@ class Label : public Control, public Font_Properties {
   Property<Colour> BackColor{*this, Aspect::Appearance, System_Colour(15)};
   Property<Colour> ForeColor{*this, Aspect::Appearance, System_Colour(18)};
   Property<toolkit::Alignment> Alignment{*this, Aspect::Appearance, toolkit::Alignment::Left};
-  Property<bool> Transparent{*this, Aspect::Appearance};    ///< shows what lies under it behind its text
-  Property<bool> Fixed_Border{*this, Aspect::Appearance};   ///< a single line around it
+  Property<bool> Transparent{*this, Aspect::Appearance};      ///< shows what lies under it behind its text
+  Property<bool> Fixed_Border{*this, Aspect::Appearance};     ///< a single line around it
   Property<bool> Mnemonics{*this, Aspect::Appearance, true};  ///< "&" marks the next character; "&&" shows one "&"
   Property<bool> Word_Wrap{*this, Aspect::Appearance, true};  ///< breaks lines at blanks where the width ends
-  Property<bool> AutoSize{*this, Aspect::Appearance};  ///< the height is that of the text, whatever is set
+  Property<bool> AutoSize{*this, Aspect::Appearance};         ///< the height is that of the text, whatever is set
 
   void Changed(Aspect aspect) override;
 

@@ -31,8 +31,7 @@ Rect_List Band(const Rect_List& rects, int top, int bottom) {
   for (const Pixel_Rect& part : parts) {
     if (!joined.empty() && part.Left <= joined.back().Right)
       joined.back().Right = std::max(joined.back().Right, part.Right);
-    else
-      joined.push_back(part);
+    else joined.push_back(part);
   }
   return joined;
 }

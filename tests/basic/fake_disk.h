@@ -55,6 +55,6 @@ class Fake_Disk : public basic::Disk {
   };
 
   void Refuse_If_Blocked(const std::string& path) const {
-    if (Blocked.count(path) != 0) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
+    if (Blocked.contains(path)) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
   }
 };

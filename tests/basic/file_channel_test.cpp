@@ -14,8 +14,8 @@ using basic::Record_Reader;
 
 namespace {
 
-const std::string path = "C:\\Meridex\\calendar.dat";
-const std::string other = "C:\\Meridex\\Default\\settings.ini";
+const std::string path = R"(C:\Meridex\calendar.dat)";
+const std::string other = R"(C:\Meridex\Default\settings.ini)";
 
 class File_Channel_Test : public ::testing::Test {
  protected:
@@ -125,7 +125,8 @@ TEST_F(File_Channel_Test, Writes_many_records_in_few_large_pieces) {
 }
 
 TEST_F(File_Channel_Test, Writes_a_record_of_ten_megabytes) {
-  const std::string line(10'000'000, 'x');
+  std::string line;
+  line.resize(10'000'000, 'x');
   Write({"a", line, "b"});
   EXPECT_EQ(Content(), Record("a") + Record(line) + Record("b"));
 }

@@ -18,11 +18,12 @@ constexpr int longest = wide_block + 3 * block + 3;
 class Window_In_A_Buffer {
  public:
   Window_In_A_Buffer(int start, int length, char wanted)
-      : bytes_(static_cast<std::size_t>(start + length + block), wanted), start_(start), length_(length) {
+      : bytes_(static_cast<std::size_t>(start) + static_cast<std::size_t>(length) + block, wanted), start_(start),
+        length_(length) {
     for (int i = 0; i < length; ++i) At(i) = static_cast<char>(wanted + 1);
   }
 
-  char& At(int i) { return bytes_[static_cast<std::size_t>(start_ + i)]; }
+  char& At(int i) { return bytes_[static_cast<std::size_t>(start_) + static_cast<std::size_t>(i)]; }
   [[nodiscard]] const char* Begin() const { return bytes_.data() + start_; }
   [[nodiscard]] const char* End() const { return Begin() + length_; }
 

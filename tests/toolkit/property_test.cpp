@@ -56,7 +56,7 @@ TEST(Property, Tells_nobody_when_it_is_set_to_what_it_is) {
 TEST(Property, Has_its_new_value_when_its_owner_hears_of_it) {
   class Reader : public toolkit::Property_Owner {
    public:
-    void Changed(Aspect) override { Seen = Value; }
+    void Changed(Aspect /*aspect*/) override { Seen = Value; }
     Property<int> Value{*this, Aspect::Value};
     int Seen = -1;
   } owner;

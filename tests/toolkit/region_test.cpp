@@ -17,7 +17,7 @@ constexpr int height = 20;
 /// A region as a set of pixels, the plain way.
 class Bitmap {
  public:
-  Bitmap() : pixels_(width * height, false) {}
+  Bitmap() : pixels_(std::size_t{width} * height, false) {}
 
   void Fill(const Pixel_Rect& rect) {
     for (int y = rect.Top; y < rect.Bottom; ++y)
@@ -39,7 +39,9 @@ class Bitmap {
   friend bool operator==(const Bitmap&, const Bitmap&) = default;
 
  private:
-  [[nodiscard]] static std::size_t Place(int x, int y) { return static_cast<std::size_t>(y * width + x); }
+  [[nodiscard]] static std::size_t Place(int x, int y) {
+    return static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x);
+  }
 
   std::vector<bool> pixels_;
 };

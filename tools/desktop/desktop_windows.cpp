@@ -90,16 +90,16 @@ void Fill_Icons(HWND list) {
 }
 
 void Make_List_View(HWND view, int width, int height) {
-  const HWND list = CreateWindowExA(0, WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | LVS_ICON, 0, 0, width,
-                                    height, view, nullptr, GetModuleHandleA(nullptr), nullptr);
+  const HWND list = CreateWindowExA(0, WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | LVS_ICON, 0, 0,
+                                    width, height, view, nullptr, GetModuleHandleA(nullptr), nullptr);
   const std::string back = Environment("MERIDEX_DESKTOP_ICON_BACK");
   const LPARAM colour = back.empty() ? static_cast<LPARAM>(icon_text_back) : std::atoi(back.c_str());
   SendMessageA(list, LVM_SETBKCOLOR, 0, static_cast<LPARAM>(CLR_NONE));
   SendMessageA(list, LVM_SETTEXTBKCOLOR, 0, colour);
   SendMessageA(list, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(icon_text));
   Fill_Icons(list);
-  list_view_proc = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrA(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(List_Proc)));
+  list_view_proc =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrA(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(List_Proc)));
 }
 
 }  // namespace
@@ -115,9 +115,9 @@ void Make_Desktop_Windows() {
   const HWND progman = CreateWindowExA(WS_EX_NOACTIVATE, "Progman", "Program Manager", WS_POPUP | WS_CLIPCHILDREN, 0, 0,
                                        width, height, nullptr, nullptr, instance, nullptr);
   if (chain != "progman") {
-    const HWND view = CreateWindowExA(0, "SHELLDLL_DefView", "",
-                                      WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0, 0, width, height,
-                                      progman, nullptr, instance, nullptr);
+    const HWND view =
+        CreateWindowExA(0, "SHELLDLL_DefView", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0, 0,
+                        width, height, progman, nullptr, instance, nullptr);
     if (chain != "defview") Make_List_View(view, width, height);
   }
   ShowWindow(progman, SW_SHOWNA);

@@ -68,7 +68,8 @@ int main(int count, char** arguments) {
   STARTUPINFOA how = {};
   how.cb = sizeof how;
   PROCESS_INFORMATION started = {};
-  if (!CreateProcessA(nullptr, arguments[1], nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr, nullptr, &how, &started))
+  if (!CreateProcessA(nullptr, arguments[1], nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr, nullptr, &how,
+                      &started))
     return Fail(201, "starting the program");
   if (!Start_Shell(started, Dll_Beside_Starter().c_str()) || WaitForSingleObject(ready, patience) != WAIT_OBJECT_0) {
     TerminateProcess(started.hProcess, 202);

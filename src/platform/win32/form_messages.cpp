@@ -68,8 +68,7 @@ bool Form_Window::Mouse_Message(UINT message, WPARAM w, LPARAM l) {
   const POINT at = Point_Of(l);
   if (message == WM_MOUSEMOVE) Follow_Tip(at);
   tip_.Relay(Window(), message, w, l);
-  // The middle of the pixel, so that it lies in a control if the pixel belongs to it on the screen.
-  const double x = (at.x + 0.5) * context_.Scale.X, y = (at.y + 0.5) * context_.Scale.Y;
+  const double x = at.x * context_.Scale.X, y = at.y * context_.Scale.Y;
   switch (message) {
     case WM_MOUSEMOVE: form_.Mouse_Move(Held_Button(w), x, y); return true;
     case WM_LBUTTONDOWN:
