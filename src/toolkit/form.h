@@ -28,9 +28,8 @@ class Form : public Property_Owner, public Font_Properties {
   Property<bool> Enabled{*this, Aspect::Enabled, true};
   Property<Colour> BackColor{*this, Aspect::Appearance, System_Colour(15)};
   Property<Colour> ForeColor{*this, Aspect::Appearance, System_Colour(18)};
-  Property<int> MousePointer{*this, Aspect::Pointer, 0};  ///< 0 the default arrow, 5 the four-headed arrow
-  Property<int> Outline_Corner{*this, Aspect::Appearance,
-                               0};       ///< corner ellipses of a rounded outline in pixels, 0 for none
+  Property<int> MousePointer{*this, Aspect::Pointer, 0};       ///< 0 the default arrow, 5 the four-headed arrow
+  Property<int> Outline_Corner{*this, Aspect::Appearance, 0};  ///< corners of a rounded outline, pixels; 0 for none
   Scale_Unit Scale = Scale_Unit::Twips;  ///< the unit in which the controls' lengths read and write
 
   std::function<void()> On_Load, On_Activate, On_Deactivate, On_Unload, On_Resize, On_Click, On_Close;
