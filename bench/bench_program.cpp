@@ -7,8 +7,8 @@ namespace bench {
 
 namespace {
 
-constexpr std::int64_t nine_in_the_morning = 9 * 3600 * platform::memory::micros_of_a_second;
-constexpr std::int64_t time_to_rest = 5 * platform::memory::micros_of_a_second;
+constexpr std::int64_t nine_in_the_morning = 9 * 3600 * memory::micros_of_a_second;
+constexpr std::int64_t time_to_rest = 5 * memory::micros_of_a_second;
 
 }  // namespace
 

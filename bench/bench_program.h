@@ -3,12 +3,12 @@
 #pragma once
 
 #include "main/meridex.h"
-#include "platform/memory/memory_platform.h"
+#include "memory/memory_platform.h"
 
 namespace bench {
 
 /// The in-memory windows and timers; they remember the timer of the tick.
-class Watched_Backend final : public platform::memory::Memory_Backend {
+class Watched_Backend final : public memory::Memory_Backend {
  public:
   using Memory_Backend::Memory_Backend;
 
@@ -46,7 +46,7 @@ class Bench_Program {
   [[nodiscard]] toolkit::Control* Find_Control(const char* name) const;
   platform::System System_With(platform::Files& files);
 
-  platform::memory::Memory_Platform platform_;
+  memory::Memory_Platform platform_;
   Watched_Backend backend_{platform_.Time, platform_.Loop, platform_.Screen};
   Meridex program_;
   toolkit::Form* window_ = nullptr;

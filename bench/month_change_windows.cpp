@@ -7,7 +7,7 @@
 
 #include "bench/bench_program.h"
 #include "bench/floors.h"
-#include "platform/win32/disk_files.h"
+#include "win32/disk_files.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ double Time_Of(Work work, int times) {
 
 /// Floor and month change in turns, so that both meet the same machine.
 void Measure() {
-  platform::win32::Disk_Files files;
+  win32::Disk_Files files;
   const std::string path = files.Program_Folder() + "\\calendar.dat";
   bench::Bench_Program program(files);
   std::vector<char> buffer;

@@ -23,10 +23,10 @@ void Usual_Tick(benchmark::State& state) {
 void Day_Of_Ticks(benchmark::State& state) {
   bench::Posix_Files files(data_folder);
   bench::Bench_Program program(files);
-  program.Play(platform::memory::micros_of_a_day);
+  program.Play(memory::micros_of_a_day);
   program.Forget_Messages();
   const std::int64_t before = bench::Count_Allocations().Live_Bytes;
-  for (auto _ : state) program.Play(platform::memory::micros_of_a_day);
+  for (auto _ : state) program.Play(memory::micros_of_a_day);
   program.Forget_Messages();
   state.counters["growth"] = static_cast<double>(bench::Count_Allocations().Live_Bytes - before);
 }

@@ -12,7 +12,7 @@
 #include "events/event_line.h"
 #include "fuzz/expect.h"
 #include "fuzz/expected_number.h"
-#include "platform/memory/memory_platform.h"
+#include "memory/memory_platform.h"
 #include "tests/basic/read_by_the_letter.h"
 #include "tooltips/clear_tooltips.h"
 
@@ -126,8 +126,8 @@ class Calendar {
   [[nodiscard]] const std::string& Caption(int box) const { return arrangement_.Box_Caption_Lbl[box].Caption; }
 
  private:
-  platform::memory::Memory_Platform platform_;
-  const std::string path_ = platform::memory::Memory_Files::Full_Path("calendar.dat");
+  memory::Memory_Platform platform_;
+  const std::string path_ = memory::Memory_Files::Full_Path("calendar.dat");
   settings::Stored_Settings settings_{platform_.Store};
   state::Calendar_State state_;
   Editor editor_;

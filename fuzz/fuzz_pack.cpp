@@ -8,8 +8,8 @@
 
 #include "fuzz/expect.h"
 #include "fuzz/expected_number.h"
+#include "memory/memory_platform.h"
 #include "packs/pack_lookup.h"
-#include "platform/memory/memory_platform.h"
 #include "tests/basic/read_by_the_letter.h"
 
 namespace {
@@ -76,9 +76,7 @@ void Expect_Fields(const std::string& value) {
 /// A computer with the pack on its disk.
 class Machine {
  public:
-  explicit Machine(const std::string& bytes) {
-    platform_.Files.Put(platform::memory::Memory_Files::Full_Path(file), bytes);
-  }
+  explicit Machine(const std::string& bytes) { platform_.Files.Put(memory::Memory_Files::Full_Path(file), bytes); }
 
   void Expect_Lookup(const Expected_Value& expected, int month) {
     Expect_Details(expected, month);
@@ -95,7 +93,7 @@ class Machine {
     Expect(shown.size() == (expected.Error == 0 ? 0U : 1U), "a failure is told once");
   }
 
-  platform::memory::Memory_Platform platform_;
+  memory::Memory_Platform platform_;
   basic::File_Channel channel_{platform_.Files};
   settings::Stored_Settings settings_{platform_.Store};
   packs::Set_Wallpaper_Mod wallpaper_{platform_.Registry, platform_.Wallpaper};

@@ -2,10 +2,10 @@
 #include <windows.h>
 
 #include "main/meridex.h"
-#include "platform/win32/win32_platform.h"
+#include "win32/win32_platform.h"
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
-  platform::win32::Win32_Platform platform(instance);
+  win32::Win32_Platform platform(instance);
   Meridex program(platform.Backend(), platform.System());
   return platform.Run([&] { program.Start(); });
 }

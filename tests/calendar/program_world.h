@@ -5,11 +5,11 @@
 #include <string>
 
 #include "main/meridex.h"
-#include "platform/memory/memory_platform.h"
+#include "memory/memory_platform.h"
 
 class Program_World {
  public:
-  platform::memory::Memory_Platform Platform;
+  memory::Memory_Platform Platform;
   std::unique_ptr<Meridex> Program;
 
   Program_World() { Platform.Time.Set_Now({basic::Date_Serial(2004, 3, 5), 0}); }

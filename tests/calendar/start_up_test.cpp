@@ -29,7 +29,7 @@ class Start_Up_Test : public ::testing::Test, public Program_World {
     }
   }
 
-  void Show_Desktop() { Platform.Shell.Set_Chain(platform::memory::Shell_Chain::Icon_List); }
+  void Show_Desktop() { Platform.Shell.Set_Chain(memory::Shell_Chain::Icon_List); }
 };
 
 }  // namespace

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_platform.h"
+#include "memory/memory_platform.h"
 
 namespace {
 
-using platform::memory::Memory_Files;
-using platform::memory::Memory_Platform;
+using memory::Memory_Files;
+using memory::Memory_Platform;
 
 /// The editor between the event file and the calendar's labels, on the in-memory platform.
 class Edit_Frm_Test : public ::testing::Test {

@@ -12,7 +12,7 @@ namespace monkey {
 
 namespace {
 
-using platform::memory::Memory_Files;
+using memory::Memory_Files;
 
 constexpr toolkit::Colour mark = 0x123456;
 constexpr toolkit::Colour normal = 16777215;

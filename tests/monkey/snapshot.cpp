@@ -7,7 +7,7 @@ namespace monkey {
 
 namespace {
 
-using platform::memory::Memory_Files;
+using memory::Memory_Files;
 
 void Copy_File(Memory_Files& from, Memory_Files& to, const std::string& path) {
   if (const auto bytes = from.Bytes(path)) to.Put(path, *bytes);

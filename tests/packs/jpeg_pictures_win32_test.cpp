@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "platform/win32/disk_files.h"
-#include "platform/win32/jpeg_pictures.h"
 #include "tests/basic/error_of.h"
+#include "win32/disk_files.h"
+#include "win32/jpeg_pictures.h"
 
 namespace {
 
@@ -25,8 +25,8 @@ class Jpeg_Pictures_Test : public ::testing::Test {
     return Error_Of_Converting();
   }
 
-  platform::win32::Disk_Files Files;
-  platform::win32::Jpeg_Pictures Pictures;
+  win32::Disk_Files Files;
+  win32::Jpeg_Pictures Pictures;
   const std::string Jpeg = Files.Program_Folder() + "\\picture.jpg";
   const std::string Bitmap = Files.Program_Folder() + "\\picture.bmp";
   std::string Picture;

@@ -1,11 +1,11 @@
-#include "platform/memory/memory_pictures.h"
+#include "memory/memory_pictures.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_files.h"
+#include "memory/memory_files.h"
 #include "tests/basic/error_of.h"
 
-using platform::memory::Jpeg_Of;
+using memory::Jpeg_Of;
 
 namespace {
 
@@ -22,9 +22,9 @@ class Memory_Pictures_Test : public ::testing::Test {
     return Error_Of_Converting();
   }
 
-  platform::memory::Virtual_Time Time;
-  platform::memory::Memory_Files Files{Time};
-  platform::memory::Memory_Pictures Pictures{Files};
+  memory::Virtual_Time Time;
+  memory::Memory_Files Files{Time};
+  memory::Memory_Pictures Pictures{Files};
 };
 
 unsigned Number_At(const std::string& bytes, std::size_t at, int size) {

@@ -180,9 +180,8 @@ TEST_F(Pack_Lookup_Test, A_missing_pack_has_no_picture) {
 
 TEST_F(Pack_Lookup_Test, A_picture_that_cannot_be_decoded_is_told_and_leaves_no_bitmap) {
   const std::string whole = Small_Jpeg();
-  for (const std::string& bytes :
-       {std::string(), whole.substr(0, whole.size() - 2), whole.substr(0, 20), "GIF89a" + whole, "BM" + whole,
-        platform::memory::Jpeg_Of({20000, 20000, 0, 0, 0})}) {
+  for (const std::string& bytes : {std::string(), whole.substr(0, whole.size() - 2), whole.substr(0, 20),
+                                   "GIF89a" + whole, "BM" + whole, memory::Jpeg_Of({20000, 20000, 0, 0, 0})}) {
     Put("3.jpg", bytes);
     EXPECT_EQ(Path(3), "ERROR");
     EXPECT_EQ(Boxes(), picture_failure);

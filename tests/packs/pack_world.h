@@ -3,17 +3,17 @@
 
 #include <string>
 
+#include "memory/memory_clock.h"
+#include "memory/memory_files.h"
+#include "memory/memory_message_box.h"
+#include "memory/memory_pictures.h"
+#include "memory/memory_registry.h"
+#include "memory/memory_store.h"
+#include "memory/memory_wallpaper.h"
 #include "packs/wallpaper_stuff.h"
-#include "platform/memory/memory_clock.h"
-#include "platform/memory/memory_files.h"
-#include "platform/memory/memory_message_box.h"
-#include "platform/memory/memory_pictures.h"
-#include "platform/memory/memory_registry.h"
-#include "platform/memory/memory_store.h"
-#include "platform/memory/memory_wallpaper.h"
 
 /// A JPEG that the in-memory platform decodes, of 2 by 1 pixels.
-inline std::string Small_Jpeg() { return platform::memory::Jpeg_Of({2, 1, 10, 20, 30}); }
+inline std::string Small_Jpeg() { return memory::Jpeg_Of({2, 1, 10, 20, 30}); }
 
 struct Pack_World {
   Pack_World() { Settings.Load_Settings(); }
@@ -34,15 +34,15 @@ struct Pack_World {
 
   const std::string Folder = R"(C:\Meridex\Test\)";
 
-  platform::memory::Virtual_Time Time;
-  platform::memory::Memory_Clock Clock{Time};
-  platform::memory::Memory_Files Files{Time};
-  platform::memory::Memory_Loop Loop{Time};
-  platform::memory::Memory_Message_Box Message_Box{Loop};
-  platform::memory::Memory_Store Store;
-  platform::memory::Memory_Registry Registry;
-  platform::memory::Memory_Wallpaper Wallpaper{Registry};
-  platform::memory::Memory_Pictures Pictures{Files};
+  memory::Virtual_Time Time;
+  memory::Memory_Clock Clock{Time};
+  memory::Memory_Files Files{Time};
+  memory::Memory_Loop Loop{Time};
+  memory::Memory_Message_Box Message_Box{Loop};
+  memory::Memory_Store Store;
+  memory::Memory_Registry Registry;
+  memory::Memory_Wallpaper Wallpaper{Registry};
+  memory::Memory_Pictures Pictures{Files};
 
   basic::File_Channel Channel{Files};
   settings::Stored_Settings Settings{Store};
@@ -52,4 +52,4 @@ struct Pack_World {
   packs::Wallpaper_Stuff Wallpaper_Stuff{Packs, Set_Wallpaper_Mod, Clock, Settings.Values, State};
 };
 
-using Wallpapers = std::vector<platform::memory::Memory_Wallpaper::Setting>;
+using Wallpapers = std::vector<memory::Memory_Wallpaper::Setting>;

@@ -1,8 +1,8 @@
-#include "platform/memory/memory_profiles.h"
+#include "memory/memory_profiles.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_files.h"
+#include "memory/memory_files.h"
 
 namespace {
 
@@ -14,9 +14,9 @@ class Memory_Profiles_Test : public ::testing::Test {
     return Profiles.Get_Text(section, entry, "none", room, path);
   }
 
-  platform::memory::Virtual_Time Time;
-  platform::memory::Memory_Files Files{Time};
-  platform::memory::Memory_Profiles Profiles{Files};
+  memory::Virtual_Time Time;
+  memory::Memory_Files Files{Time};
+  memory::Memory_Profiles Profiles{Files};
 };
 
 }  // namespace

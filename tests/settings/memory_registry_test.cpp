@@ -1,11 +1,11 @@
-#include "platform/memory/memory_registry.h"
+#include "memory/memory_registry.h"
 
 #include <gtest/gtest.h>
 
+using memory::Memory_Registry;
 using platform::Hive;
 using platform::Key_Access;
 using platform::Value_Type;
-using platform::memory::Memory_Registry;
 
 namespace {
 
@@ -36,18 +36,18 @@ TEST_F(Memory_Registry_Test, Gives_each_opening_a_handle_of_its_own) {
   EXPECT_NE(Key, Made);
   EXPECT_EQ(Registry.Open_Keys(), 2U);
   EXPECT_EQ(Registry.Close(Key), 0);
-  EXPECT_EQ(Registry.Close(Key), platform::memory::status_invalid_handle);
+  EXPECT_EQ(Registry.Close(Key), memory::status_invalid_handle);
   EXPECT_EQ(Registry.Open_Keys(), 1U);
 }
 
 TEST_F(Memory_Registry_Test, A_handle_that_is_none_is_refused_everywhere) {
   std::uint32_t size = 0;
   for (const Memory_Registry::Key none : {Memory_Registry::Key{0}, Memory_Registry::Key{99}}) {
-    EXPECT_EQ(Registry.Query(none, "Value", nullptr, size), platform::memory::status_invalid_handle);
-    EXPECT_EQ(Registry.Set(none, "Value", Value_Type::Text, "x"), platform::memory::status_invalid_handle);
-    EXPECT_EQ(Registry.Delete_Value(none, "Value"), platform::memory::status_invalid_handle);
-    EXPECT_EQ(Registry.Flush(none), platform::memory::status_invalid_handle);
-    EXPECT_EQ(Registry.Close(none), platform::memory::status_invalid_handle);
+    EXPECT_EQ(Registry.Query(none, "Value", nullptr, size), memory::status_invalid_handle);
+    EXPECT_EQ(Registry.Set(none, "Value", Value_Type::Text, "x"), memory::status_invalid_handle);
+    EXPECT_EQ(Registry.Delete_Value(none, "Value"), memory::status_invalid_handle);
+    EXPECT_EQ(Registry.Flush(none), memory::status_invalid_handle);
+    EXPECT_EQ(Registry.Close(none), memory::status_invalid_handle);
   }
 }
 

@@ -1,7 +1,7 @@
 // The registry's table of cases against the in-memory platform.
-#include "platform/memory/memory_files.h"
-#include "platform/memory/memory_profiles.h"
-#include "platform/memory/memory_registry.h"
+#include "memory/memory_files.h"
+#include "memory/memory_profiles.h"
+#include "memory/memory_registry.h"
 #include "tests/settings/registry_cases.h"
 
 namespace {
@@ -13,10 +13,10 @@ class Memory_World : public Registry_World {
   platform::Files& Files() override { return files_; }
 
  private:
-  platform::memory::Virtual_Time time_;
-  platform::memory::Memory_Files files_{time_};
-  platform::memory::Memory_Registry keys_;
-  platform::memory::Memory_Profiles profiles_{files_};
+  memory::Virtual_Time time_;
+  memory::Memory_Files files_{time_};
+  memory::Memory_Registry keys_;
+  memory::Memory_Profiles profiles_{files_};
 };
 
 World_Maker maker = []() -> std::unique_ptr<Registry_World> { return std::make_unique<Memory_World>(); };

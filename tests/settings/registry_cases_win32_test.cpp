@@ -2,10 +2,10 @@
 // witness of what was written.
 #include <cstdlib>
 
-#include "platform/win32/disk_files.h"
-#include "platform/win32/registry_services.h"
-#include "platform/win32/system_profiles.h"
 #include "tests/settings/registry_cases.h"
+#include "win32/disk_files.h"
+#include "win32/registry_services.h"
+#include "win32/system_profiles.h"
 
 namespace {
 
@@ -16,9 +16,9 @@ class System_World : public Registry_World {
   platform::Files& Files() override { return files_; }
 
  private:
-  platform::win32::Disk_Files files_;
-  platform::win32::System_Registry keys_;
-  platform::win32::System_Profiles profiles_;
+  win32::Disk_Files files_;
+  win32::System_Registry keys_;
+  win32::System_Profiles profiles_;
 };
 
 World_Maker maker = []() -> std::unique_ptr<Registry_World> { return std::make_unique<System_World>(); };
@@ -39,9 +39,9 @@ class Registry_Witness : public ::testing::Test {
     return Registry.Registry_Set("HKCU", "Software\\Meridex Test\\Witness", name, kind, data);
   }
 
-  platform::win32::Disk_Files Files;
-  platform::win32::System_Registry Keys;
-  platform::win32::System_Profiles Profiles;
+  win32::Disk_Files Files;
+  win32::System_Registry Keys;
+  win32::System_Profiles Profiles;
   settings::Registry Registry{Keys, Profiles, Files};
 };
 

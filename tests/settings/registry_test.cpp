@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_files.h"
-#include "platform/memory/memory_profiles.h"
-#include "platform/memory/memory_registry.h"
+#include "memory/memory_files.h"
+#include "memory/memory_profiles.h"
+#include "memory/memory_registry.h"
 
 using platform::Hive;
 using settings::Registry_Value;
@@ -24,10 +24,10 @@ class Registry_Test : public ::testing::Test {
   }
   int Delete(const char* name) { return Registry.Registry_Delete("HKCU", key, name); }
 
-  platform::memory::Virtual_Time Time;
-  platform::memory::Memory_Files Files{Time};
-  platform::memory::Memory_Registry Keys;
-  platform::memory::Memory_Profiles Profiles{Files};
+  memory::Virtual_Time Time;
+  memory::Memory_Files Files{Time};
+  memory::Memory_Registry Keys;
+  memory::Memory_Profiles Profiles{Files};
   settings::Registry Registry{Keys, Profiles, Files};
   Registry_Value Result;
 };

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_files.h"
-#include "platform/memory/memory_profiles.h"
-#include "platform/memory/memory_registry.h"
+#include "memory/memory_files.h"
+#include "memory/memory_profiles.h"
+#include "memory/memory_registry.h"
 
 using platform::Hive;
 
@@ -15,10 +15,10 @@ class Run_At_Startup_Test : public ::testing::Test {
   std::optional<std::string> Of(Hive hive) { return Keys.Find(hive, settings::run_key, "Meridex"); }
   void Put(Hive hive, const std::string& text) { Keys.Put(hive, settings::run_key, "Meridex", text); }
 
-  platform::memory::Virtual_Time Time;
-  platform::memory::Memory_Files Files{Time};
-  platform::memory::Memory_Registry Keys;
-  platform::memory::Memory_Profiles Profiles{Files};
+  memory::Virtual_Time Time;
+  memory::Memory_Files Files{Time};
+  memory::Memory_Registry Keys;
+  memory::Memory_Profiles Profiles{Files};
   settings::Registry Registry{Keys, Profiles, Files};
   settings::Run_At_Startup Run{Registry, Files};
 };

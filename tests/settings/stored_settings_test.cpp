@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_store.h"
+#include "memory/memory_store.h"
 #include "tests/basic/error_of.h"
 
 using settings::Setting_Key;
@@ -21,13 +21,13 @@ class Stored_Settings_Test : public ::testing::Test {
 
   /// The error that loading ends with when a key holds that text and all others are absent.
   static int Error_Of_Text(const Setting_Key& key, const std::string& text) {
-    platform::memory::Memory_Store store;
+    memory::Memory_Store store;
     store.Save("Meridex", key.Section, key.Name, text);
     settings::Stored_Settings stored(store);
     return Error_Of([&] { stored.Load_Settings(); });
   }
 
-  platform::memory::Memory_Store Store;
+  memory::Memory_Store Store;
   settings::Stored_Settings Stored_Settings{Store};
   Settings& Values = Stored_Settings.Values;
 };
@@ -72,7 +72,7 @@ TEST_F(Stored_Settings_Test, Each_default_can_be_saved_and_is_its_own_text) {
 
 TEST_F(Stored_Settings_Test, Each_key_fills_its_own_variable_and_is_saved_from_it) {
   for (const Setting_Key& key : settings::All_Keys()) {
-    platform::memory::Memory_Store from, to;
+    memory::Memory_Store from, to;
     const std::string text = std::visit(Sample{}, key.Variable);
     from.Save("Meridex", key.Section, key.Name, text);
     settings::Stored_Settings loaded(from);

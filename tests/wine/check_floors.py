@@ -6,10 +6,9 @@ import sys
 # From the ground up. Folders of one floor don't know each other.
 FLOORS = [
     ["basic"],
-    ["platform"],
-    ["toolkit"],
-    ["state", "settings", "platform/win32", "platform/memory"],
-    ["events", "packs", "dialogs"],
+    ["platform", "state"],
+    ["toolkit", "settings"],
+    ["win32", "memory", "events", "packs", "dialogs"],
     ["presentation"],
     ["editor", "tooltips"],
     ["calendar"],
@@ -18,16 +17,13 @@ FLOORS = [
     ["main"],
 ]
 # The backends stand beside the house: they know the ground floors, and only main/ knows them.
-BACKENDS = ["platform/win32", "platform/memory"]
+BACKENDS = ["win32", "memory"]
 LEVEL = {folder: level for level, floor in enumerate(FLOORS) for folder in floor}
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 
 
 def folder_of(path):
-    """The folder of the house in which a file such as "platform/win32/pen.h" stands."""
-    for backend in BACKENDS:
-        if path.startswith(backend + "/"):
-            return backend
+    """The folder of the house in which a file such as "win32/pen.h" stands."""
     return path.split("/")[0]
 
 

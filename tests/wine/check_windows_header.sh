@@ -3,8 +3,8 @@
 set -euo pipefail
 found=$(grep -rnE '#[[:space:]]*include[[:space:]]*<(windows|windowsx|commctrl|commdlg|shellapi|shlobj|ole2|olectl|oleauto|objbase)\.h>|#[[:space:]]*(el)?if.*_WIN(32|64)|__MINGW' \
   --include='*.h' --include='*.cpp' src tools tests |
-  grep -vE '^(src/platform/win32/|src/main/main_win32\.cpp|tools/desktop/|tests/(platform/)?win32/|tests/desktop/)' || true)
+  grep -vE '^(src/win32/|src/main/main_win32\.cpp|tools/desktop/|tests/win32/|tests/desktop/)' || true)
 [ -z "$found" ] || {
-  printf 'Belongs under src/platform/win32/:\n%s\n' "$found"
+  printf 'Belongs under src/win32/:\n%s\n' "$found"
   exit 1
 }

@@ -29,7 +29,7 @@ void Play_Choose(World& world, const Words& words) { world.Platform.Menu.Prepare
 
 void Play_Pick(World& world, const Words& words) {
   if (words[0] == "cancel") world.Picks.emplace_back();
-  else world.Picks.emplace_back(platform::memory::Memory_Files::Full_Path(words[0]));
+  else world.Picks.emplace_back(memory::Memory_Files::Full_Path(words[0]));
 }
 
 }  // namespace

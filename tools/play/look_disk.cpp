@@ -10,7 +10,7 @@ namespace play {
 
 namespace {
 
-using platform::memory::Memory_Files;
+using memory::Memory_Files;
 
 void Play_Cat(World& world, const Words& words) {
   const auto bytes = world.Platform.Files.Bytes(Memory_Files::Full_Path(words[0]));

@@ -2,7 +2,7 @@
 #include <array>
 
 #include "commands.h"
-#include "platform/memory/letter_case.h"
+#include "memory/letter_case.h"
 #include "text_form.h"
 
 namespace play {
@@ -49,7 +49,7 @@ void Play_Nothing(World& /*world*/, const Words& /*words*/) {}
 /// The path without the program folder, if it lies in that.
 std::string Relative_Path(World& world, const std::string& path) {
   const std::string folder = world.Platform.Files.Program_Folder() + '\\';
-  const bool within = path.size() > folder.size() && platform::memory::Same_Name(path.substr(0, folder.size()), folder);
+  const bool within = path.size() > folder.size() && memory::Same_Name(path.substr(0, folder.size()), folder);
   return within ? path.substr(folder.size()) : path;
 }
 

@@ -113,7 +113,7 @@ class Gesture {
   World& world_;
   std::vector<Step> steps_;
   std::size_t next_ = 0;
-  std::vector<platform::memory::Virtual_Time::Ticket> tickets_;
+  std::vector<memory::Virtual_Time::Ticket> tickets_;
 };
 
 void Play_Press(World& world, const Words& words) {

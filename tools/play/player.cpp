@@ -70,7 +70,7 @@ void Player::Play_One(const Command& command) {
     throw Scenario_Error(command.Line, why.what());
   } catch (const basic::Run_Error& error) {
     throw Scenario_Error(command.Line, error.what());
-  } catch (const platform::memory::Endless_Wait&) {
+  } catch (const memory::Endless_Wait&) {
     throw Scenario_Error(command.Line, "the program waits for a time that doesn't come");
   }
 }

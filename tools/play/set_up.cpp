@@ -12,7 +12,7 @@ namespace play {
 
 namespace {
 
-using platform::memory::Memory_Files;
+using memory::Memory_Files;
 
 void Play_Now(World& world, const Words& words) { world.Platform.Time.Set_Now(To_Moment(words[0], words[1])); }
 
@@ -40,12 +40,12 @@ void Play_Picture(World& world, const Words& words) {
   if (words[3].size() != 6 || words[3].find_first_not_of("0123456789ABCDEFabcdef") != std::string::npos)
     throw Cannot_Play("no colour as RRGGBB: " + words[3]);
   const auto colour = static_cast<int>(std::strtol(words[3].c_str(), nullptr, 16));
-  const platform::memory::Plain_Picture picture{.Width = To_Whole(words[1]),
-                                                .Height = To_Whole(words[2]),
-                                                .Red = colour >> 16,
-                                                .Green = colour >> 8 & 255,
-                                                .Blue = colour & 255};
-  world.Platform.Files.Put(Memory_Files::Full_Path(words[0]), platform::memory::Jpeg_Of(picture));
+  const memory::Plain_Picture picture{.Width = To_Whole(words[1]),
+                                      .Height = To_Whole(words[2]),
+                                      .Red = colour >> 16,
+                                      .Green = colour >> 8 & 255,
+                                      .Blue = colour & 255};
+  world.Platform.Files.Put(Memory_Files::Full_Path(words[0]), memory::Jpeg_Of(picture));
 }
 
 void Play_Remove(World& world, const Words& words) { world.Platform.Files.Remove(Memory_Files::Full_Path(words[0])); }
@@ -71,7 +71,7 @@ void Play_Deny(World& world, const Words& words) {
 }
 
 void Play_Shell(World& world, const Words& words) {
-  using platform::memory::Shell_Chain;
+  using memory::Shell_Chain;
   constexpr std::array<std::pair<std::string_view, Shell_Chain>, 4> chains{{{"on", Shell_Chain::Icon_List},
                                                                             {"off", Shell_Chain::None},
                                                                             {"progman", Shell_Chain::Progman},

@@ -11,7 +11,7 @@ namespace play {
 namespace {
 
 // Longer than a wait for a time of day can last, if it ends at all.
-constexpr std::int64_t patience = std::int64_t{25} * 3600 * platform::memory::micros_of_a_second;
+constexpr std::int64_t patience = std::int64_t{25} * 3600 * memory::micros_of_a_second;
 
 class Depth {
  public:

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/memory/memory_platform.h"
+#include "memory/memory_platform.h"
 #include "state/calendar_state.h"
 #include "toolkit/form.h"
 
@@ -26,7 +26,7 @@ class World {
   World& operator=(const World&) = delete;
   ~World();
 
-  platform::memory::Memory_Platform Platform;
+  memory::Memory_Platform Platform;
 
   /// The files for the file dialogs to come; nothing for a cancelled one.
   std::deque<std::optional<std::string>> Picks;

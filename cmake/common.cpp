@@ -1,0 +1,1 @@
+// Nothing: the library whose precompiled headers all folders share needs a source.

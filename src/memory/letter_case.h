@@ -1,0 +1,28 @@
+// Upper case in code page 1252: what makes two names of files, keys or windows the same on Windows.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace memory {
+
+constexpr char Fold_Letter(char letter) {
+  const auto code = static_cast<unsigned char>(letter);
+  const bool plain = code >= 'a' && code <= 'z';
+  const bool accented = code >= 0xE0 && code <= 0xFE && code != 0xF7;
+  if (plain || accented) return static_cast<char>(code - 0x20);
+  const bool caron = code == 0x9A || code == 0x9C || code == 0x9E;
+  if (caron) return static_cast<char>(code - 0x10);
+  return code == 0xFF ? static_cast<char>(0x9F) : letter;
+}
+
+inline std::string Folded(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), Fold_Letter);
+  return result;
+}
+
+inline bool Same_Name(std::string_view a, std::string_view b) { return Folded(a) == Folded(b); }
+
+}  // namespace memory

@@ -1,0 +1,84 @@
+// A disk in memory. Names are found without regard to case, slashes and backslashes are alike, and two faults can be
+// set up: a folder in a file's place, and a file that opens but takes no bytes.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "memory/virtual_time.h"
+#include "platform/files.h"
+
+namespace memory {
+
+class Memory_Files : public platform::Files {
+ public:
+  /// Starts with an empty program folder.
+  explicit Memory_Files(const Virtual_Time& time);
+
+  void Read_Whole(const std::string& path, std::string& buffer) override;
+  std::unique_ptr<basic::Output_File> Create(const std::string& path) override;
+  bool File_Exists(const std::string& path) override;
+  bool Folder_Exists(const std::string& path) override;
+  std::vector<std::string> File_Names(const std::string& folder) override;
+  void Delete(const std::string& path) override;
+  std::string Program_Folder() override;
+  std::string Program_Path() override;
+
+  /// The full path of a name in the program folder, with backslashes; a path with a drive stays as it is.
+  [[nodiscard]] static std::string Full_Path(std::string_view name);
+
+  /// Puts a sound file with these bytes there, with the folders above it; takes the place of an empty folder. Throws
+  /// error 75 if a folder with something in it is there.
+  void Put(const std::string& path, std::string_view bytes);
+
+  /// The file's bytes; nothing if no file is there.
+  [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const;
+
+  /// The moment of the file's last writing, or of the folder's making. Throws error 53 if nothing is there.
+  [[nodiscard]] basic::Moment Last_Change(const std::string& path) const;
+
+  /// Makes a folder with those above it. Throws error 75 if a file stands in the way.
+  void Make_Folder(const std::string& path);
+
+  /// Removes a file, or a folder with all in it; does nothing if neither is there.
+  void Remove(const std::string& path);
+
+  /// Puts a folder in the file's place, so that the path can't be opened: error 75.
+  void Block(const std::string& path);
+
+  /// From here on the file, made if it isn't there, opens and is emptied by it, but takes no bytes.
+  void Fill_Up(const std::string& path);
+
+  struct Listed {
+    std::string Name;
+    bool Is_Folder;
+  };
+
+  /// What lies in a folder, in no promised order. Throws error 76 if the folder isn't there.
+  [[nodiscard]] std::vector<Listed> List(const std::string& folder) const;
+
+ private:
+  class Writer;
+  struct Entry {
+    std::string Name;  // as it was first written
+    std::string Bytes;
+    basic::Moment Changed;
+    bool Is_Folder = false;
+    bool Full = false;
+    int Writers = 0;  // open for writing that often
+  };
+
+  [[nodiscard]] const Entry* Find(std::string_view path) const;
+  Entry* Find(std::string_view path);
+  Entry& Make_File(const std::string& path);
+  void Check_Place(const std::string& path) const;
+  void Check_No_Writer(const std::string& path) const;
+
+  const Virtual_Time& time_;
+  std::map<std::string, Entry> entries_;  // by the folded path
+};
+
+}  // namespace memory

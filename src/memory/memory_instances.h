@@ -1,0 +1,46 @@
+// Other instances of the calendar, as far as this one can see them: the titles of their hidden windows, and what was
+// posted to them.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "platform/instances.h"
+
+namespace memory {
+
+class Memory_Instances : public platform::Instances {
+ public:
+  bool Other_Is_Running() override { return !others_.empty(); }
+
+  /// The other instances come before this one's own window.
+  platform::Window_Handle Find_Window(const std::string& title) override;
+
+  /// A close request to this one's own window reaches On_Close_Request at once; another message throws
+  /// std::logic_error. What goes to a window that isn't there is lost.
+  void Post(platform::Window_Handle window, unsigned message) override;
+  void Set_Title(const std::string& title) override { title_ = title; }
+
+  /// Another instance runs from here on, with a hidden window of that title.
+  void Add(const std::string& title) { others_.push_back(title); }
+
+  /// A process of this program begins: its hidden window has the first title, and nobody listens yet.
+  void Enter();
+
+  [[nodiscard]] const std::string& Title() const { return title_; }
+
+  struct Posted {
+    std::string Title;
+    unsigned Message;
+  };
+
+  /// What was posted to other windows since the last call.
+  std::vector<Posted> Take_Posted() { return std::exchange(posted_, {}); }
+
+ private:
+  std::string title_ = "Meridex Loading";
+  std::vector<std::string> others_;
+  std::vector<Posted> posted_;
+};
+
+}  // namespace memory

@@ -1,0 +1,32 @@
+// The three locales of the in-memory platform, in code page 1252: en-GB (the one at first), en-US and de-DE.
+#pragma once
+
+#include <string_view>
+
+#include "platform/locale.h"
+
+namespace memory {
+
+struct Locale_Data;
+
+class Memory_Locale : public platform::Locale {
+ public:
+  Memory_Locale();
+
+  const basic::Date_Words& Words() override;
+  basic::Weekday First_Weekday() override;
+  void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
+  void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
+
+  /// Says whether there is a locale of that name. A running program goes on in the one that it was started in.
+  bool Choose(std::string_view name);
+
+  /// A program starts: it takes the chosen locale.
+  void Enter() { present_ = chosen_; }
+
+ private:
+  const Locale_Data* chosen_;
+  const Locale_Data* present_;
+};
+
+}  // namespace memory

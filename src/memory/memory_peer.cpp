@@ -1,0 +1,58 @@
+#include "memory/memory_peer.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "memory/memory_windows.h"
+#include "memory/round_region.h"
+#include "toolkit/form.h"
+
+namespace memory {
+
+Memory_Peer::Memory_Peer(Memory_Windows& windows, toolkit::Form& form, platform::Window_Handle handle)
+    : windows_(windows), form_(form), handle_(handle) {
+  windows_.Add(*this);
+}
+
+Memory_Peer::~Memory_Peer() { windows_.Remove(*this); }
+
+void Memory_Peer::Show(bool activate) {
+  ++counts_.Shows;
+  windows_.Shown(*this, activate);
+}
+
+void Memory_Peer::Hide() {
+  ++counts_.Hides;
+  windows_.Hidden(*this);
+}
+
+void Memory_Peer::Form_Changed(toolkit::Aspect /*aspect*/) { ++counts_.Form_Changes; }
+
+bool Memory_Peer::Has(const toolkit::Control& control) const {
+  const auto& controls = form_.Controls();
+  return std::find(controls.begin(), controls.end(), &control) != controls.end();
+}
+
+void Memory_Peer::Control_Changed(toolkit::Control& control, toolkit::Aspect /*aspect*/) {
+  if (&control.Window != &form_) throw std::logic_error("a change of a control of another window");
+  ++counts_.Control_Changes;
+}
+
+void Memory_Peer::Set_Region(const toolkit::Region& region) {
+  ++counts_.Regions;
+  region_ = region;
+}
+
+void Memory_Peer::Set_Round_Region(int width, int height, int corner) {
+  ++counts_.Regions;
+  region_ = Round_Region(width, height, corner);
+}
+
+void Memory_Peer::Focus(toolkit::Control& control) {
+  if (!Has(control)) throw std::logic_error("the focus for a control of another window");
+  focused_ = &control;
+}
+
+toolkit::Control* Memory_Peer::Focused() const { return focused_ != nullptr && Has(*focused_) ? focused_ : nullptr; }
+
+}  // namespace memory

@@ -1,0 +1,59 @@
+// A window of the in-memory platform: what a form has told it, kept to be looked at.
+#pragma once
+
+#include <optional>
+
+#include "toolkit/backend.h"
+
+namespace memory {
+
+class Memory_Windows;
+
+/// How often a window was told something.
+struct Peer_Counts {
+  int Shows = 0, Hides = 0, Form_Changes = 0, Control_Changes = 0, Regions = 0;
+};
+
+class Memory_Peer : public toolkit::Form_Peer {
+ public:
+  Memory_Peer(Memory_Windows& windows, toolkit::Form& form, platform::Window_Handle handle);
+  Memory_Peer(const Memory_Peer&) = delete;
+  Memory_Peer& operator=(const Memory_Peer&) = delete;
+  ~Memory_Peer() override;
+
+  void Show(bool activate) override;
+  void Hide() override;
+  void Form_Changed(toolkit::Aspect aspect) override;
+
+  /// Throws std::logic_error for a control of another window.
+  void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override;
+  void Set_Region(const toolkit::Region& region) override;
+  void Set_Round_Region(int width, int height, int corner) override;
+  [[nodiscard]] bool Minimised() const override { return minimised_; }
+
+  /// Throws std::logic_error for a control of another window.
+  void Focus(toolkit::Control& control) override;
+  [[nodiscard]] platform::Window_Handle Handle() const override { return handle_; }
+
+  [[nodiscard]] toolkit::Form& Form() const { return form_; }
+  [[nodiscard]] const std::optional<toolkit::Region>& Region() const { return region_; }
+
+  /// The control that gets the keys, nullptr if none does.
+  [[nodiscard]] toolkit::Control* Focused() const;
+  [[nodiscard]] const Peer_Counts& Counts() const { return counts_; }
+
+  void Set_Minimised(bool minimised) { minimised_ = minimised; }
+
+ private:
+  [[nodiscard]] bool Has(const toolkit::Control& control) const;
+
+  Memory_Windows& windows_;
+  toolkit::Form& form_;
+  const platform::Window_Handle handle_;
+  std::optional<toolkit::Region> region_;
+  toolkit::Control* focused_ = nullptr;
+  bool minimised_ = false;
+  Peer_Counts counts_;
+};
+
+}  // namespace memory

@@ -1,0 +1,39 @@
+// Profile files read and written as the system does it, on whatever disk there is: sections in brackets, entries of a
+// name, "=" and a text, lines that start with ";" for the reader's eye. Names count without regard to case.
+#pragma once
+
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/profile_files.h"
+
+namespace memory {
+
+class Memory_Profiles : public platform::Profile_Files {
+ public:
+  explicit Memory_Profiles(platform::Files& files) : files_(files) {}
+
+  /// Blanks around the text and one pair of quotes, double or single, don't belong to it; blanks at the default's end
+  /// neither.
+  std::string Get_Text(const std::string& section, const std::string& entry, const std::string& default_text,
+                       unsigned room, const std::string& file) override;
+
+  /// The digits at the text's start, behind a sign or none; 0 if it starts otherwise, the default if it is empty.
+  int Get_Number(const std::string& section, const std::string& entry, int default_number,
+                 const std::string& file) override;
+
+  /// An entry that is there keeps its line; a new one goes to the end of its section, a new section to the end of the
+  /// file. An empty text leaves the entry with an empty value.
+  bool Write_Text(const std::string& section, const std::string& entry, const std::string& text,
+                  const std::string& file) override;
+
+ private:
+  using Lines = std::vector<std::string>;
+
+  Lines Read_Lines(const std::string& file);
+  bool Write_Lines(const Lines& lines, const std::string& file);
+
+  platform::Files& files_;
+};
+
+}  // namespace memory

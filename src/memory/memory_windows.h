@@ -1,0 +1,68 @@
+// All windows of the in-memory platform: which are there, in what order they were shown, which lies in front and which
+// is active.
+//
+// When the active window goes, the one that was active before it comes back, as the system gives the activation back to
+// an owner or to the next window; that may be a window of another program.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "memory/memory_loop.h"
+#include "memory/memory_peer.h"
+
+namespace memory {
+
+class Memory_Windows {
+ public:
+  Memory_Windows(Virtual_Time& time, Memory_Loop& loop) : time_(time), loop_(loop) {}
+
+  // From the peers.
+  void Add(Memory_Peer& peer) { loaded_.push_back(&peer); }
+  void Remove(Memory_Peer& peer);
+  void Shown(Memory_Peer& peer, bool activate);
+  void Hidden(Memory_Peer& peer);
+
+  /// The form becomes the active window; nullptr: another program's window does. Both forms concerned are told.
+  void Activate(toolkit::Form* form);
+  [[nodiscard]] toolkit::Form* Active() const;
+
+  /// The newest loaded form of that name, nullptr if there is none.
+  [[nodiscard]] toolkit::Form* Find(std::string_view name) const;
+  [[nodiscard]] toolkit::Form* Find(platform::Window_Handle handle) const;
+
+  /// The window of a loaded form, nullptr of any other.
+  [[nodiscard]] Memory_Peer* Peer_Of(const toolkit::Form& form) const;
+
+  /// The visible forms in the order in which they became so.
+  [[nodiscard]] std::vector<toolkit::Form*> In_Order_Of_Showing() const;
+
+  /// All loaded forms: the visible ones from the front to the back, then the hidden ones.
+  [[nodiscard]] std::vector<toolkit::Form*> From_The_Front() const;
+
+  /// The program is being taken down: nobody is told of what happens to the windows any more.
+  void Silence() { silent_ = true; }
+
+  /// A program begins: no window of it is active.
+  void Begin();
+
+ private:
+  using Peers = std::vector<Memory_Peer*>;
+
+  [[nodiscard]] bool Is_Loaded(const Memory_Peer* peer) const;
+  [[nodiscard]] Memory_Peer* Active_Peer() const { return activations_.empty() ? nullptr : activations_.back(); }
+  void Make_Active(Memory_Peer* peer);
+  void Tell_Activated(Memory_Peer* peer);
+  void Tell_Deactivated(Memory_Peer* peer);
+  void Take_Off(Memory_Peer& peer);
+
+  Virtual_Time& time_;
+  Memory_Loop& loop_;
+  Peers loaded_;       // in the order of loading
+  Peers shown_;        // the visible ones in the order of showing
+  Peers front_;        // the visible ones, the foremost last
+  Peers activations_;  // the visible ones that were active, the active one last; nullptr is another program
+  bool silent_ = false;
+};
+
+}  // namespace memory

@@ -1,0 +1,47 @@
+#include "win32/desktop.h"
+
+namespace win32 {
+
+platform::Pixel_Area Primary_Screen::Bounds() {
+  return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+platform::Pixel_Area Primary_Screen::Work_Area() {
+  RECT area = {};
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+  return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+void Desktop_Picture::Set_Picture(const std::string& path) {
+  std::string copy = path;  // the call takes no constant
+  SystemParametersInfoA(SPI_SETDESKWALLPAPER, 0, copy.data(), SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
+}
+
+platform::Window_Handle Shell_Windows::Find_Top_Window(const std::string& window_class, const std::string& caption) {
+  return To_Handle(FindWindowA(window_class.c_str(), caption.c_str()));
+}
+
+platform::Window_Handle Shell_Windows::Find_Child(platform::Window_Handle parent, const std::string& window_class) {
+  return To_Handle(FindWindowExA(To_Window(parent), nullptr, window_class.c_str(), nullptr));
+}
+
+int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int parameter) {
+  return static_cast<int>(SendMessageA(To_Window(window), message, 0, parameter));
+}
+
+// The window stays a popup: as a child by its style it could never be the active window. For the move alone it is one,
+// since some systems make a popup active that they move.
+void Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
+  const HWND moved = To_Window(window);
+  const LONG style = GetWindowLongA(moved, GWL_STYLE);
+  constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
+  SetWindowLongA(moved, GWL_STYLE, (style & ~popup) | child);
+  SetParent(moved, To_Window(parent));
+  SetWindowLongA(moved, GWL_STYLE, style);
+}
+
+void Shell_Windows::Invalidate(platform::Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }
+
+void Shell_Windows::Update(platform::Window_Handle window) { UpdateWindow(To_Window(window)); }
+
+}  // namespace win32

@@ -1,0 +1,39 @@
+// The screen, the desktop's picture and the windows of its shell.
+#pragma once
+
+#include "platform/desktop_shell.h"
+#include "platform/screen.h"
+#include "platform/wallpaper.h"
+#include "win32/scale.h"
+
+namespace win32 {
+
+class Primary_Screen final : public platform::Screen {
+ public:
+  explicit Primary_Screen(const Scale& scale) : scale_(scale) {}
+
+  platform::Pixel_Area Bounds() override;
+  platform::Pixel_Area Work_Area() override;
+  double Twips_Per_Pixel_X() override { return scale_.X; }
+  double Twips_Per_Pixel_Y() override { return scale_.Y; }
+
+ private:
+  const Scale& scale_;
+};
+
+class Desktop_Picture final : public platform::Wallpaper {
+ public:
+  void Set_Picture(const std::string& path) override;
+};
+
+class Shell_Windows final : public platform::Desktop_Shell {
+ public:
+  platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
+  platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
+  int Send(platform::Window_Handle window, unsigned message, int parameter) override;
+  void Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
+  void Invalidate(platform::Window_Handle window) override;
+  void Update(platform::Window_Handle window) override;
+};
+
+}  // namespace win32

@@ -1,0 +1,118 @@
+#include "win32/disk_files.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+#include "win32/handle.h"
+
+namespace win32 {
+
+namespace {
+
+using basic::Error_Number;
+using basic::Run_Error;
+
+class Disk_Output final : public basic::Output_File {
+ public:
+  explicit Disk_Output(Handle_Owner file) : file_(std::move(file)) {}
+
+  std::size_t Write(std::string_view bytes) override {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+      DWORD written = 0;
+      const auto rest = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, largest_write));
+      const bool whole = WriteFile(file_.Get(), bytes.data() + done, rest, &written, nullptr) != 0;
+      done += written;
+      if (!whole || written == 0) break;
+    }
+    return done;
+  }
+
+  void Cut(std::size_t size) override {
+    SetFilePointer(file_.Get(), static_cast<LONG>(size), nullptr, FILE_BEGIN);
+    SetEndOfFile(file_.Get());
+  }
+
+ private:
+  static constexpr std::size_t largest_write = 0x40000000;
+
+  Handle_Owner file_;
+};
+
+Handle_Owner Open(const std::string& path, DWORD access, DWORD sharing, DWORD how) {
+  Handle_Owner file(Valid_Or_None(CreateFileA(path.c_str(), access, sharing, nullptr, how,
+                                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
+  if (!file) Throw_File_Error();
+  return file;
+}
+
+DWORD Attributes(const std::string& path) { return GetFileAttributesA(path.c_str()); }
+
+}  // namespace
+
+void Throw_File_Error() {
+  switch (GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_INVALID_NAME: throw Run_Error(Error_Number::File_Not_Found);
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_BAD_NETPATH:
+    case ERROR_BAD_PATHNAME: throw Run_Error(Error_Number::Path_Not_Found);
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION: throw Run_Error(Error_Number::Permission_Denied);
+    default: throw Run_Error(Error_Number::Path_File_Access);
+  }
+}
+
+Disk_Files::Disk_Files() {
+  char path[MAX_PATH + 1];
+  path_.assign(path, GetModuleFileNameA(nullptr, path, MAX_PATH));
+  folder_ = path_.substr(0, path_.rfind('\\'));
+}
+
+void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
+  const Handle_Owner file = Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
+  const DWORD size = GetFileSize(file.Get(), nullptr);
+  if (size > static_cast<DWORD>(std::numeric_limits<std::int32_t>::max()))
+    throw Run_Error(Error_Number::Path_File_Access);
+  // Only what the buffer grows by is cleared first: it comes back with the size that it had.
+  buffer.resize(size);
+  DWORD read = 0;
+  if (ReadFile(file.Get(), buffer.data(), size, &read, nullptr) == 0) Throw_File_Error();
+  buffer.resize(read);
+}
+
+std::unique_ptr<basic::Output_File> Disk_Files::Create(const std::string& path) {
+  return std::make_unique<Disk_Output>(Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS));
+}
+
+// The attributes are asked for by the exact path: unlike a search, that takes "*" and "?" for themselves.
+bool Disk_Files::File_Exists(const std::string& path) {
+  const DWORD attributes = Attributes(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool Disk_Files::Folder_Exists(const std::string& path) { return Attributes(path) != INVALID_FILE_ATTRIBUTES; }
+
+std::vector<std::string> Disk_Files::File_Names(const std::string& folder) {
+  WIN32_FIND_DATAA found;
+  const Search_Owner search(Valid_Or_None(FindFirstFileA((folder + "\\*").c_str(), &found)));
+  std::vector<std::string> names;
+  if (!search) {
+    // The root of a drive may be there and empty; any other folder holds itself.
+    if (GetLastError() == ERROR_FILE_NOT_FOUND) return names;
+    throw Run_Error(Error_Number::Path_Not_Found);
+  }
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
+  } while (FindNextFileA(search.Get(), &found) != 0);
+  std::sort(names.begin(), names.end(),
+            [](const std::string& a, const std::string& b) { return _stricmp(a.c_str(), b.c_str()) < 0; });
+  return names;
+}
+
+void Disk_Files::Delete(const std::string& path) {
+  if (DeleteFileA(path.c_str()) == 0) Throw_File_Error();
+}
+
+}  // namespace win32

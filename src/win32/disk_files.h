@@ -1,0 +1,28 @@
+// Files and folders of the disk.
+#pragma once
+
+#include "platform/files.h"
+
+namespace win32 {
+
+class Disk_Files final : public platform::Files {
+ public:
+  Disk_Files();
+
+  void Read_Whole(const std::string& path, std::string& buffer) override;
+  std::unique_ptr<basic::Output_File> Create(const std::string& path) override;
+  bool File_Exists(const std::string& path) override;
+  bool Folder_Exists(const std::string& path) override;
+  std::vector<std::string> File_Names(const std::string& folder) override;
+  void Delete(const std::string& path) override;
+  std::string Program_Folder() override { return folder_; }
+  std::string Program_Path() override { return path_; }
+
+ private:
+  std::string path_, folder_;
+};
+
+/// Throws the error that the last call of the system for a file ended with: 53, 70, 75 or 76.
+[[noreturn]] void Throw_File_Error();
+
+}  // namespace win32

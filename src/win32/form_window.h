@@ -1,0 +1,95 @@
+// One window of the system for one form. It paints the labels, holds the controls that have windows of their own, and
+// decodes what the user does into the form's input functions.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "win32/native_children.h"
+#include "win32/tip_window.h"
+#include "win32/window_context.h"
+
+namespace win32 {
+
+/// The frame of a window of that border.
+struct Frame_Style {
+  DWORD Style, Extended;
+};
+Frame_Style Style_Of(toolkit::Form_Border border);
+
+class Form_Window final : public toolkit::Form_Peer {
+ public:
+  Form_Window(toolkit::Form& form, Window_Context& context);
+  Form_Window(const Form_Window&) = delete;
+  Form_Window& operator=(const Form_Window&) = delete;
+  ~Form_Window() override;
+
+  void Show(bool activate) override;
+  void Hide() override;
+  void Form_Changed(toolkit::Aspect aspect) override;
+  void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override;
+  void Set_Region(const toolkit::Region& region) override;
+  void Set_Round_Region(int width, int height, int corner) override;
+  [[nodiscard]] bool Minimised() const override;
+  void Focus(toolkit::Control& control) override;
+  [[nodiscard]] platform::Window_Handle Handle() const override { return To_Handle(Window()); }
+
+  [[nodiscard]] HWND Window() const { return window_.Get(); }
+  [[nodiscard]] toolkit::Form& Form() const { return form_; }
+
+  /// Brings the window to where the form says, cuts it to its region and marks for painting what has changed.
+  void Settle();
+
+  /// A key on its way to this window or to one in it. Says whether it went another way.
+  bool Take_Key(MSG& message);
+
+ private:
+  static void Register_Class(HINSTANCE instance);
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
+
+  // What a message means; each says whether that was all, or the system has its share still to do. A handler may end
+  // this window: none touches a member behind the call of one.
+  bool Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
+  bool Mouse_Message(UINT message, WPARAM w, LPARAM l);
+  bool Key_Message(UINT message, WPARAM w);
+  bool Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
+  bool Press(toolkit::Mouse_Button button, bool twice, double x, double y);
+  bool Release(toolkit::Mouse_Button button, double x, double y);
+  void Capture_Changed(HWND to);
+  bool Active_Changed(bool active);
+  void Place_Changed(const WINDOWPOS& place);
+  bool Set_Pointer(WPARAM over, LPARAM part) const;
+  void Paint();
+
+  [[nodiscard]] RECT Wanted_Place() const;
+  void Settle_Place();
+  void Settle_Region();
+  void Settle_Marks();
+  void Repaint_All();
+  Painted_Control* Painted(const toolkit::Control& control);
+  void Update_Painted(Painted_Control& painted, bool repaint);
+  void Painted_Changed(Painted_Control& painted, toolkit::Aspect aspect);
+  void Mark(Painted_Control& painted);
+  void Mark(const RECT& place);
+  void Tips_Changed();
+  void Follow_Tip(POINT at);
+
+  toolkit::Form& form_;
+  Window_Context& context_;
+  Window_Owner window_;
+  RECT place_{};  // pixels, in the parent
+  std::vector<Painted_Control> painted_;
+  Native_Children children_;
+  Tip_Window tip_;
+  // What is to be settled. The marks are rectangles in pixels of the client area.
+  bool moved_ = false, cut_ = false, all_marked_ = false;
+  std::vector<RECT> marks_;
+  Region_Owner new_region_;
+  toolkit::Region region_;  // the present one, unless it is round
+  bool round_ = true;       // or there is none yet
+  bool shown_ = false;
+  bool tip_check_posted_ = false;
+  int pressed_ = 0;  // the mouse buttons that went down here, as the toolkit numbers them
+};
+
+}  // namespace win32

@@ -1,0 +1,29 @@
+#include "win32/hidden_window.h"
+
+#include "win32/guard.h"
+
+namespace win32 {
+
+Hidden_Window::Hidden_Window(HINSTANCE instance, Guard& guard, const char* window_class, const char* title)
+    : guard_(guard) {
+  WNDCLASSA description = {};
+  description.lpfnWndProc = Procedure;
+  description.hInstance = instance;
+  description.lpszClassName = window_class;
+  RegisterClassA(&description);
+  window_.Reset(CreateWindowExA(WS_EX_TOOLWINDOW, window_class, title, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance,
+                                nullptr));
+  SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+Hidden_Window::~Hidden_Window() { SetWindowLongPtrA(Window(), GWLP_USERDATA, 0); }
+
+LRESULT CALLBACK Hidden_Window::Procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
+  auto* const self = reinterpret_cast<Hidden_Window*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+  bool taken = false;
+  if (self != nullptr) self->guard_.Run([&] { taken = self->Message(message, w); });
+  // Only its owner destroys it.
+  return taken || message == WM_CLOSE ? 0 : DefWindowProcA(window, message, w, l);
+}
+
+}  // namespace win32

@@ -1,0 +1,40 @@
+#include "win32/instance_window.h"
+
+namespace win32 {
+
+namespace {
+
+/// A name that all processes of this executable have in common.
+std::string Mutex_Name() {
+  char path[MAX_PATH + 1];
+  const std::string text(path, GetModuleFileNameA(nullptr, path, MAX_PATH));
+  std::string name = "Meridex instance " + text.substr(text.rfind('\\') + 1);
+  CharLowerA(name.data());
+  return name;
+}
+
+}  // namespace
+
+Instance_Window::Instance_Window(HINSTANCE instance, Guard& guard)
+    : Hidden_Window(instance, guard, "Meridex_Instance", "Meridex Loading") {
+  mutex_.Reset(CreateMutexA(nullptr, FALSE, Mutex_Name().c_str()));
+  other_is_running_ = GetLastError() == ERROR_ALREADY_EXISTS;
+}
+
+platform::Window_Handle Instance_Window::Find_Window(const std::string& title) {
+  return To_Handle(FindWindowA(nullptr, title.c_str()));
+}
+
+void Instance_Window::Post(platform::Window_Handle window, unsigned message) {
+  PostMessageA(To_Window(window), message, 0, 0);
+}
+
+void Instance_Window::Set_Title(const std::string& title) { SetWindowTextA(Window(), title.c_str()); }
+
+bool Instance_Window::Message(UINT message, WPARAM) {
+  if (message != platform::close_request) return false;
+  if (On_Close_Request) On_Close_Request();
+  return true;
+}
+
+}  // namespace win32

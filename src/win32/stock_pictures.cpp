@@ -1,0 +1,88 @@
+#include "win32/stock_pictures.h"
+
+#include <algorithm>
+#include <span>
+
+#include "win32/resource_numbers.h"
+
+namespace win32 {
+
+namespace {
+
+int Resource_Number(platform::Stock_Picture picture) {
+  switch (picture) {
+    case platform::Stock_Picture::None: break;
+    case platform::Stock_Picture::Program_Icon: return MERIDEX_PROGRAM_ICON;
+    case platform::Stock_Picture::Information_Icon: return MERIDEX_INFORMATION_ICON;
+    case platform::Stock_Picture::Clear: return MERIDEX_CLEAR_BITMAP;
+    case platform::Stock_Picture::File: return MERIDEX_FILE_BITMAP;
+    case platform::Stock_Picture::Settings: return MERIDEX_SETTINGS_BITMAP;
+    case platform::Stock_Picture::Exit: return MERIDEX_EXIT_BITMAP;
+  }
+  return 0;
+}
+
+bool Is_Icon(platform::Stock_Picture picture) {
+  return picture == platform::Stock_Picture::Program_Icon || picture == platform::Stock_Picture::Information_Icon;
+}
+
+/// The colour of the corner is the ground that the picture was drawn on: it becomes the menus' own.
+void Put_On_Menu_Ground(HBITMAP bitmap) {
+  DIBSECTION section = {};
+  if (GetObjectA(bitmap, sizeof section, &section) != sizeof section || section.dsBm.bmBitsPixel != 24) return;
+  const auto height = static_cast<std::size_t>(section.dsBm.bmHeight);
+  const auto pitch = static_cast<std::size_t>(section.dsBm.bmWidthBytes);
+  const std::span bytes(static_cast<BYTE*>(section.dsBm.bmBits), height * pitch);
+  const COLORREF menu = GetSysColor(COLOR_MENU);
+  const std::array<BYTE, 3> ground = {bytes[0], bytes[1], bytes[2]};
+  const std::array<BYTE, 3> wanted = {GetBValue(menu), GetGValue(menu), GetRValue(menu)};
+  for (std::size_t row = 0; row < height; ++row)
+    for (std::size_t x = 0; x < static_cast<std::size_t>(section.dsBm.bmWidth); ++x) {
+      const std::span pixel = bytes.subspan(row * pitch + x * 3, 3);
+      if (std::equal(pixel.begin(), pixel.end(), ground.begin()))
+        std::copy(wanted.begin(), wanted.end(), pixel.begin());
+    }
+}
+
+}  // namespace
+
+HICON Stock_Pictures::Frame_Icon(int width, int height) {
+  return Icon(platform::Stock_Picture::Program_Icon, width, height);
+}
+
+HICON Stock_Pictures::Icon(platform::Stock_Picture picture, int width, int height) {
+  for (const Sized_Icon& icon : icons_)
+    if (icon.Picture == picture && icon.Width == width && icon.Height == height) return icon.Icon.Get();
+  const HANDLE loaded = LoadImageA(instance_, MAKEINTRESOURCEA(Resource_Number(picture)), IMAGE_ICON, width, height, 0);
+  icons_.push_back({picture, width, height, Icon_Owner(static_cast<HICON>(loaded))});
+  return icons_.back().Icon.Get();
+}
+
+void Stock_Pictures::Draw(HDC context, platform::Stock_Picture picture, const RECT& place) {
+  const int width = place.right - place.left, height = place.bottom - place.top;
+  if (Is_Icon(picture)) {
+    DrawIconEx(context, place.left, place.top, Icon(picture, width, height), width, height, 0, nullptr, DI_NORMAL);
+    return;
+  }
+  const HBITMAP bitmap = Menu_Bitmap(picture);
+  BITMAP size = {};
+  if (bitmap == nullptr || GetObjectA(bitmap, sizeof size, &size) == 0) return;
+  const Context_Owner source(CreateCompatibleDC(context));
+  const HGDIOBJ before = SelectObject(source.Get(), bitmap);
+  StretchBlt(context, place.left, place.top, width, height, source.Get(), 0, 0, size.bmWidth, size.bmHeight, SRCCOPY);
+  SelectObject(source.Get(), before);
+}
+
+HBITMAP Stock_Pictures::Menu_Bitmap(platform::Stock_Picture picture) {
+  if (picture == platform::Stock_Picture::None || Is_Icon(picture)) return nullptr;
+  Bitmap_Owner& bitmap = bitmaps_.at(static_cast<std::size_t>(picture));
+  if (!bitmap) {
+    const HANDLE loaded =
+        LoadImageA(instance_, MAKEINTRESOURCEA(Resource_Number(picture)), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+    bitmap.Reset(static_cast<HBITMAP>(loaded));
+    Put_On_Menu_Ground(bitmap.Get());
+  }
+  return bitmap.Get();
+}
+
+}  // namespace win32

@@ -1,0 +1,39 @@
+// The pictures of the program's resources, each loaded when it is first drawn.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "platform/stock_picture.h"
+#include "win32/handle.h"
+
+namespace win32 {
+
+class Stock_Pictures {
+ public:
+  explicit Stock_Pictures(HINSTANCE instance) : instance_(instance) {}
+
+  /// The program's icon in one of its own sizes, for the frame of a window.
+  HICON Frame_Icon(int width, int height);
+
+  /// Draws the picture, stretched to the place; none draws nothing.
+  void Draw(HDC context, platform::Stock_Picture picture, const RECT& place);
+
+  /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.
+  HBITMAP Menu_Bitmap(platform::Stock_Picture picture);
+
+ private:
+  struct Sized_Icon {
+    platform::Stock_Picture Picture;
+    int Width, Height;
+    Icon_Owner Icon;
+  };
+
+  HICON Icon(platform::Stock_Picture picture, int width, int height);
+
+  HINSTANCE instance_;
+  std::vector<Sized_Icon> icons_;
+  std::array<Bitmap_Owner, 7> bitmaps_;  // by the picture's number
+};
+
+}  // namespace win32

@@ -1,0 +1,87 @@
+#include "win32/user_locale.h"
+
+#include "win32/windows_api.h"
+
+namespace win32 {
+
+namespace {
+
+std::string Info(LCTYPE what) {
+  char text[256];
+  const int size = GetLocaleInfoA(LOCALE_USER_DEFAULT, what, text, sizeof text);
+  return size > 0 ? std::string(text, static_cast<std::size_t>(size) - 1) : std::string();
+}
+
+/// Appends what the system makes of a day, by a flag or by a picture; nothing if it can't.
+void Append_By_System(std::string& to, const basic::Civil_Date& date, DWORD flags, const char* picture) {
+  SYSTEMTIME day = {};
+  day.wYear = static_cast<WORD>(date.Year);
+  day.wMonth = static_cast<WORD>(date.Month);
+  day.wDay = static_cast<WORD>(date.Day);
+  char text[256];
+  const int size = GetDateFormatA(LOCALE_USER_DEFAULT, flags, &day, picture, text, sizeof text);
+  if (size > 0) to.append(text, static_cast<std::size_t>(size) - 1);
+}
+
+/// The picture with the year's pieces replaced by the digits of `year`, as text that stands for itself.
+std::string With_Year(std::string_view picture, int year) {
+  std::string result;
+  bool quoted = false;
+  for (std::size_t i = 0; i < picture.size();) {
+    if (picture[i] == '\'') quoted = !quoted;
+    const std::size_t end = picture.find_first_not_of('y', i);
+    const std::size_t run = (end == std::string_view::npos ? picture.size() : end) - i;
+    if (quoted || run == 0) {
+      result += picture[i++];
+      continue;
+    }
+    result += '\'';
+    basic::Append_Number(result, run > 2 ? year : year % 100, run > 2 ? 4 : static_cast<int>(run));
+    result += '\'';
+    i += run;
+  }
+  return result;
+}
+
+void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE picture) {
+  // The system's days begin in 1601. An earlier one is written as the same day of a later cycle of 400 years, of the
+  // same month and weekday, with its own year put in.
+  constexpr int systems_first_year = 1601;
+  basic::Civil_Date date = basic::Civil_From_Serial(day);
+  if (date.Year >= systems_first_year) {
+    Append_By_System(to, date, flags, nullptr);
+    return;
+  }
+  const std::string with_year = With_Year(Info(picture), date.Year);
+  while (date.Year < systems_first_year) date.Year += 400;
+  Append_By_System(to, date, 0, with_year.c_str());
+}
+
+}  // namespace
+
+User_Locale::User_Locale() {
+  // The system's weekdays begin with Monday.
+  for (LCTYPE i = 0; i < 7; ++i) {
+    words_.Weekdays[(i + 1) % 7] = Info(LOCALE_SDAYNAME1 + i);
+    words_.Short_Weekdays[(i + 1) % 7] = Info(LOCALE_SABBREVDAYNAME1 + i);
+  }
+  for (LCTYPE i = 0; i < 12; ++i) words_.Months[i] = Info(LOCALE_SMONTHNAME1 + i);
+  words_.Date_Separator = Info(LOCALE_SDATE);
+  words_.Time_Separator = Info(LOCALE_STIME);
+}
+
+basic::Weekday User_Locale::First_Weekday() {
+  const std::string number = Info(LOCALE_IFIRSTDAYOFWEEK);
+  if (number.size() != 1 || number[0] < '0' || number[0] > '5') return basic::Weekday::Sunday;
+  return static_cast<basic::Weekday>(number[0] - '0' + static_cast<int>(basic::Weekday::Monday));
+}
+
+void User_Locale::Append_Short_Date(std::string& to, basic::Serial_Day day) {
+  Append_Day(to, day, DATE_SHORTDATE, LOCALE_SSHORTDATE);
+}
+
+void User_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
+  Append_Day(to, day, DATE_LONGDATE, LOCALE_SLONGDATE);
+}
+
+}  // namespace win32

@@ -1,0 +1,21 @@
+// The user's locale, with what the user changed of it.
+#pragma once
+
+#include "platform/locale.h"
+
+namespace win32 {
+
+class User_Locale final : public platform::Locale {
+ public:
+  User_Locale();
+
+  const basic::Date_Words& Words() override { return words_; }
+  basic::Weekday First_Weekday() override;
+  void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
+  void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
+
+ private:
+  basic::Date_Words words_;
+};
+
+}  // namespace win32

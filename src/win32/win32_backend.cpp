@@ -1,0 +1,58 @@
+#include "win32/win32_backend.h"
+
+#include <cmath>
+
+#include "win32/form_window.h"
+
+namespace win32 {
+
+std::unique_ptr<toolkit::Form_Peer> Win32_Backend::Make_Peer(toolkit::Form& form) {
+  return std::make_unique<Form_Window>(form, context_);
+}
+
+toolkit::Form* Win32_Backend::Active_Form() {
+  const HWND active = GetActiveWindow();
+  for (const Form_Window* const window : context_.Windows.All())
+    if (window->Window() == active) return &window->Form();
+  return nullptr;
+}
+
+double Win32_Backend::Twips_Per_Pixel(toolkit::Axis axis) {
+  return axis == toolkit::Axis::Across ? context_.Scale.X : context_.Scale.Y;
+}
+
+double Win32_Backend::Frame_Size(toolkit::Form_Border border, toolkit::Axis axis) {
+  if (border == toolkit::Form_Border::None) return 0;
+  RECT frame = {};
+  const Frame_Style style = Style_Of(border);
+  AdjustWindowRectEx(&frame, style.Style, FALSE, style.Extended);
+  return axis == toolkit::Axis::Across ? (frame.right - frame.left) * context_.Scale.X
+                                       : (frame.bottom - frame.top) * context_.Scale.Y;
+}
+
+double Win32_Backend::Screen_Size(toolkit::Axis axis) {
+  return GetSystemMetrics(axis == toolkit::Axis::Across ? SM_CXSCREEN : SM_CYSCREEN) * Twips_Per_Pixel(axis);
+}
+
+std::string Win32_Backend::Font_Given_For(const std::string& name) {
+  toolkit::Font font;
+  font.Name = name;
+  return context_.Fonts.Name_Of(context_.Fonts.Get(font));
+}
+
+double Win32_Backend::Text_Width(const toolkit::Font& font, std::string_view text) {
+  return context_.Fonts.Width(context_.Fonts.Get(font), text) * context_.Scale.X;
+}
+
+double Win32_Backend::Text_Height(const toolkit::Font& font, std::string_view text, double width) {
+  const Scale& scale = context_.Scale;
+  return context_.Fonts.Height(context_.Fonts.Get(font), text, scale.Pixels_X(width)) * scale.Y;
+}
+
+std::size_t Win32_Backend::Longest_Beginning(const toolkit::Font& font, std::string_view text, double limit) {
+  // The widest whole number of pixels that is narrower than the limit.
+  const int pixels = static_cast<int>(std::ceil(limit / context_.Scale.X)) - 1;
+  return context_.Fonts.Longest_Beginning(context_.Fonts.Get(font), text, pixels);
+}
+
+}  // namespace win32

@@ -1,0 +1,20 @@
+// The system's message boxes, over all of the program's windows.
+#pragma once
+
+#include "platform/message_box.h"
+#include "win32/window_context.h"
+
+namespace win32 {
+
+class Win32_Message_Box final : public platform::Message_Box {
+ public:
+  explicit Win32_Message_Box(Window_Context& context) : context_(context) {}
+
+  platform::Box_Answer Show(const std::string& title, const std::string& text, platform::Box_Icon icon,
+                            platform::Box_Buttons buttons) override;
+
+ private:
+  Window_Context& context_;
+};
+
+}  // namespace win32

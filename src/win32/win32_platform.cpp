@@ -1,0 +1,86 @@
+#include "win32/win32_platform.h"
+
+#include <string>
+
+#include "basic/run_error.h"
+#include "win32/desktop.h"
+#include "win32/disk_files.h"
+#include "win32/instance_window.h"
+#include "win32/jpeg_pictures.h"
+#include "win32/local_clock.h"
+#include "win32/message_loop.h"
+#include "win32/registry_services.h"
+#include "win32/system_profiles.h"
+#include "win32/user_locale.h"
+#include "win32/win32_backend.h"
+#include "win32/win32_message_box.h"
+#include "win32/win32_popup_menu.h"
+
+namespace win32 {
+
+struct Win32_Platform::Parts {
+  explicit Parts(HINSTANCE instance) : Context(instance) {}
+
+  Window_Context Context;
+  Instance_Window Instances{Context.Instance, Context.Guard};
+  Win32_Backend Backend{Context};
+  Local_Clock Clock;
+  User_Locale Locale;
+  Disk_Files Files;
+  Message_Loop Loop{Context};
+  Win32_Message_Box Message_Box{Context};
+  Win32_Popup_Menu Popup_Menu{Context};
+  Registry_Store Store;
+  Primary_Screen Screen{Context.Scale};
+  Shell_Windows Shell;
+  System_Registry Registry;
+  System_Profiles Profiles;
+  Desktop_Picture Wallpaper;
+  Jpeg_Pictures Pictures;
+  platform::System System{Clock,  Locale,    Files, Loop,     Message_Box, Popup_Menu, Store,
+                          Screen, Instances, Shell, Registry, Profiles,    Wallpaper,  Pictures};
+};
+
+namespace {
+
+std::string Report_Of(const std::exception_ptr& failure) {
+  try {
+    std::rethrow_exception(failure);
+  } catch (const basic::Run_Error& error) {
+    return "Error " + std::to_string(error.Number()) + ": " + error.what();
+  } catch (const std::bad_alloc&) {
+    return "There is not enough memory.";
+  } catch (const std::exception& error) {
+    return error.what();
+  } catch (...) {
+    return "Unknown error";
+  }
+}
+
+void Report(const std::exception_ptr& failure) {
+  // A box that finds the end of the program in the queue closes at once.
+  MSG message;
+  while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) continue;
+  MessageBoxA(nullptr, Report_Of(failure).c_str(), "Meridex", MB_OK | MB_ICONHAND | MB_SETFOREGROUND | MB_TASKMODAL);
+}
+
+}  // namespace
+
+Win32_Platform::Win32_Platform(void* instance) : parts_(std::make_unique<Parts>(static_cast<HINSTANCE>(instance))) {}
+
+Win32_Platform::~Win32_Platform() = default;
+
+toolkit::Backend& Win32_Platform::Backend() { return parts_->Backend; }
+
+platform::System& Win32_Platform::System() { return parts_->System; }
+
+int Win32_Platform::Run(const std::function<void()>& start) {
+  Guard& guard = parts_->Context.Guard;
+  guard.Run(start);
+  parts_->Loop.Run();
+  if (guard.Failure() == nullptr) return 0;
+  Report(guard.Failure());
+  return 1;
+}
+
+}  // namespace win32

@@ -1,0 +1,32 @@
+// The program on Windows: the toolkit's window system, the services, and the loop that they run in.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/system.h"
+#include "toolkit/backend.h"
+
+namespace win32 {
+
+class Win32_Platform {
+ public:
+  /// `instance` is the HINSTANCE that the process was started with.
+  explicit Win32_Platform(void* instance);
+  Win32_Platform(const Win32_Platform&) = delete;
+  Win32_Platform& operator=(const Win32_Platform&) = delete;
+  ~Win32_Platform();
+
+  [[nodiscard]] toolkit::Backend& Backend();
+  [[nodiscard]] platform::System& System();
+
+  /// Calls `start` and serves messages until the program quits. Gives the exit status: 0, or 1 when an exception ended
+  /// the program, which is reported in a message box.
+  int Run(const std::function<void()>& start);
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace win32

@@ -1,0 +1,44 @@
+#include "win32/win32_popup_menu.h"
+
+#include <cstddef>
+
+namespace win32 {
+
+namespace {
+
+void Insert(HMENU menu, UINT position, const platform::Menu_Item& item) {
+  MENUITEMINFOA record = {};
+  // The size up to the text's length: what came behind it later isn't known to the older systems.
+  record.cbSize = sizeof(void*) == 4 ? 44 : sizeof record;
+  record.fMask = MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_TYPE;
+  record.fType = MFT_STRING;
+  record.fState = item.Grey ? MF_GRAYED : MFS_ENABLED;
+  record.wID = static_cast<UINT>(item.Number);
+  record.dwTypeData = const_cast<char*>(item.Text.c_str());  // read alone
+  record.cch = static_cast<UINT>(item.Text.size());
+  InsertMenuItemA(menu, position, TRUE, &record);
+}
+
+}  // namespace
+
+int Win32_Popup_Menu::Track(platform::Window_Handle owner, const std::vector<platform::Menu_Item>& items) {
+  context_.Guard.Throw_If_Ending();
+  context_.Windows.Settle();
+  const Menu_Owner menu(CreatePopupMenu());
+  UINT position = 0;
+  for (const platform::Menu_Item& item : items) {
+    Insert(menu.Get(), position++, item);
+    if (const HBITMAP picture = context_.Pictures.Menu_Bitmap(item.Picture))
+      SetMenuItemBitmaps(menu.Get(), static_cast<UINT>(item.Number), MF_BYCOMMAND, picture, picture);
+  }
+  // The release of the button that opened the menu belongs to the menu.
+  ReleaseCapture();
+  POINT at = {};
+  GetCursorPos(&at);
+  constexpr UINT flags = TPM_RETURNCMD | TPM_NONOTIFY | TPM_CENTERALIGN | TPM_RIGHTBUTTON;
+  const int chosen = TrackPopupMenu(menu.Get(), flags, at.x, at.y, 0, To_Window(owner), nullptr);
+  context_.Guard.Throw_If_Ending();
+  return chosen;
+}
+
+}  // namespace win32

@@ -1,0 +1,19 @@
+// The system's popup menus.
+#pragma once
+
+#include "platform/popup_menu.h"
+#include "win32/window_context.h"
+
+namespace win32 {
+
+class Win32_Popup_Menu final : public platform::Popup_Menu {
+ public:
+  explicit Win32_Popup_Menu(Window_Context& context) : context_(context) {}
+
+  int Track(platform::Window_Handle owner, const std::vector<platform::Menu_Item>& items) override;
+
+ private:
+  Window_Context& context_;
+};
+
+}  // namespace win32

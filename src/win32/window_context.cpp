@@ -1,0 +1,19 @@
+#include "win32/window_context.h"
+
+#include "win32/form_window.h"
+
+namespace win32 {
+
+void Window_List::Settle() {
+  // By number: settling sends messages, and those may settle in their turn.
+  for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
+}
+
+Form_Window* Window_List::Around(HWND window) const {
+  if (window == nullptr) return nullptr;
+  for (Form_Window* const form : windows_)
+    if (form->Window() == window || IsChild(form->Window(), window) != 0) return form;
+  return nullptr;
+}
+
+}  // namespace win32

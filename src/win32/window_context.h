@@ -1,0 +1,47 @@
+// What the windows of one program share.
+#pragma once
+
+#include <vector>
+
+#include "win32/guard.h"
+#include "win32/painter.h"
+#include "win32/scale.h"
+
+namespace win32 {
+
+class Form_Window;
+
+/// The open windows, in the order in which they were made.
+class Window_List {
+ public:
+  void Add(Form_Window& window) { windows_.push_back(&window); }
+  void Remove(Form_Window& window) { std::erase(windows_, &window); }
+  [[nodiscard]] const std::vector<Form_Window*>& All() const { return windows_; }
+
+  /// Shows what the forms have become since the last time. Comes behind each callback of the system and before each
+  /// wait, so that however many properties change in between, the display is told once.
+  void Settle();
+
+  /// The form's window that is or holds this one; nullptr if it belongs to none.
+  [[nodiscard]] Form_Window* Around(HWND window) const;
+
+ private:
+  std::vector<Form_Window*> windows_;
+};
+
+struct Window_Context {
+  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance) {
+    Guard.Afterwards = [this] { Windows.Settle(); };
+  }
+
+  HINSTANCE Instance;
+  win32::Guard Guard;
+  const win32::Scale Scale = Scale::Of_Screen();
+  win32::Fonts Fonts{Scale};
+  Stock_Pictures Pictures;
+  win32::Painter Painter{Fonts, Pictures};
+  Library_Owner Common_Controls;  ///< loaded with the first tip
+  Window_List Windows;
+};
+
+}  // namespace win32

@@ -1,0 +1,22 @@
+// The system's own header, as the files of this folder take it.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "platform/window_handle.h"
+
+namespace win32 {
+
+inline platform::Window_Handle To_Handle(HWND window) { return reinterpret_cast<platform::Window_Handle>(window); }
+inline HWND To_Window(platform::Window_Handle handle) { return reinterpret_cast<HWND>(handle); }
+
+/// A function of a library that may be missing there; nullptr then.
+template <class Function>
+Function* Find_Function(HMODULE library, const char* name) {
+  if (library == nullptr) return nullptr;
+  return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(GetProcAddress(library, name)));
+}
+
+}  // namespace win32

@@ -1,0 +1,55 @@
+// What the program relies on of the clock, the locale and the loop. The tests run in British English.
+#include "basic/serial_day.h"
+#include "tests/contract/service_world.h"
+
+namespace {
+
+class Clock_And_Locale_Cases : public Service_Cases {
+ protected:
+  platform::Clock& Clock = World->System().Clock;
+  platform::Locale& Locale = World->System().Locale;
+};
+
+constexpr basic::Serial_Day fifth_of_march_2004 = 38051;
+
+std::int64_t Micros_Of(const basic::Moment& moment) { return moment.Day * 86'400'000'000 + moment.Micros; }
+
+}  // namespace
+
+TEST_F(Clock_And_Locale_Cases, The_clock_shows_a_moment_of_this_age) {
+  const basic::Moment now = Clock.Now();
+  EXPECT_GT(now.Day, 36000);
+  EXPECT_LT(now.Day, 90000);
+  EXPECT_GE(now.Micros, 0);
+  EXPECT_LT(now.Micros, 86'400'000'000);
+}
+
+TEST_F(Clock_And_Locale_Cases, A_wait_takes_its_time) {
+  const std::int64_t start = Micros_Of(Clock.Now());
+  const std::int64_t end = start + 50'000;
+  for (std::int64_t now = start; now < end; now = Micros_Of(Clock.Now())) World->System().Loop.Wait_Events(end - now);
+  EXPECT_LT(Micros_Of(Clock.Now()) - start, 5'000'000);
+}
+
+TEST_F(Clock_And_Locale_Cases, All_names_are_there) {
+  const basic::Date_Words& words = Locale.Words();
+  for (const std::string& name : words.Weekdays) EXPECT_FALSE(name.empty());
+  for (const std::string& name : words.Short_Weekdays) EXPECT_FALSE(name.empty());
+  for (const std::string& name : words.Months) EXPECT_FALSE(name.empty());
+  EXPECT_EQ(words.Weekday_Name(basic::Weekday::Friday), "Friday");
+  EXPECT_EQ(words.Short_Weekday_Name(basic::Weekday::Sunday), "Sun");
+  EXPECT_EQ(words.Month_Name(3), "March");
+  EXPECT_EQ(words.Date_Separator, "/");
+  EXPECT_EQ(words.Time_Separator, ":");
+}
+
+TEST_F(Clock_And_Locale_Cases, The_week_starts_on_monday) { EXPECT_EQ(Locale.First_Weekday(), basic::Weekday::Monday); }
+
+TEST_F(Clock_And_Locale_Cases, Days_have_a_short_and_a_long_form) {
+  std::string text = "on ";
+  Locale.Append_Short_Date(text, fifth_of_march_2004);
+  EXPECT_EQ(text, "on 05/03/2004");
+  text = "on ";
+  Locale.Append_Long_Date(text, fifth_of_march_2004);
+  EXPECT_NE(text.find("5 March 2004"), std::string::npos) << text;
+}

@@ -1,0 +1,127 @@
+// What the program relies on of files.
+#include "tests/basic/error_of.h"
+#include "tests/contract/service_world.h"
+
+namespace {
+
+class File_Cases : public Service_Cases {
+ protected:
+  File_Cases() {
+    World->Make_Folder("Case");
+    for (const std::string& name : Files.File_Names(Path("Case"))) Files.Delete(Path("Case\\" + name));
+  }
+
+  std::string In_Case(const std::string& name) { return Path("Case\\" + name); }
+
+  void Write(const std::string& name, std::string_view bytes) {
+    EXPECT_EQ(Files.Create(In_Case(name))->Write(bytes), bytes.size());
+  }
+
+  std::string Read(const std::string& name) {
+    std::string buffer = "what was there before";
+    Files.Read_Whole(In_Case(name), buffer);
+    return buffer;
+  }
+
+  int Error_Of_Reading(const std::string& path) {
+    std::string buffer;
+    return Error_Of([&] { Files.Read_Whole(path, buffer); });
+  }
+
+  int Error_Of_Creating(const std::string& path) {
+    return Error_Of([&] { Files.Create(path); });
+  }
+
+  int Error_Of_Deleting(const std::string& path) {
+    return Error_Of([&] { Files.Delete(path); });
+  }
+
+  platform::Files& Files = World->System().Files;
+};
+
+}  // namespace
+
+TEST_F(File_Cases, What_was_written_is_read_byte_for_byte) {
+  std::string bytes;
+  for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
+  Write("bytes", bytes + "\r\n\x1A\n");
+  EXPECT_EQ(Read("bytes"), bytes + "\r\n\x1A\n");
+}
+
+TEST_F(File_Cases, Creating_empties_a_file) {
+  Write("file", "a longer text");
+  Write("file", "short");
+  EXPECT_EQ(Read("file"), "short");
+}
+
+TEST_F(File_Cases, An_empty_file_is_there_and_empty) {
+  Write("file", "");
+  EXPECT_TRUE(Files.File_Exists(In_Case("file")));
+  EXPECT_EQ(Read("file"), "");
+}
+
+TEST_F(File_Cases, Pieces_are_written_one_behind_the_other_and_can_be_cut_off) {
+  const auto output = Files.Create(In_Case("file"));
+  output->Write("one ");
+  output->Write("two ");
+  output->Cut(5);
+  EXPECT_EQ(Read("file"), "one t");
+}
+
+TEST_F(File_Cases, Names_are_found_in_either_case) {
+  Write("Mixed Case.Dat", "x");
+  EXPECT_TRUE(Files.File_Exists(In_Case("mIXED cASE.dAT")));
+  EXPECT_EQ(Read("MIXED CASE.DAT"), "x");
+}
+
+TEST_F(File_Cases, A_folder_is_no_file_but_a_file_counts_as_a_folder) {
+  Write("file", "x");
+  EXPECT_FALSE(Files.File_Exists(Path("Case")));
+  EXPECT_TRUE(Files.Folder_Exists(Path("Case")));
+  EXPECT_TRUE(Files.Folder_Exists(In_Case("file")));
+  EXPECT_FALSE(Files.Folder_Exists(In_Case("none")));
+  EXPECT_FALSE(Files.File_Exists(In_Case("none")));
+  EXPECT_FALSE(Files.File_Exists(Path("None\\file")));
+}
+
+TEST_F(File_Cases, A_missing_file_is_error_53_and_a_missing_folder_error_76) {
+  EXPECT_EQ(Error_Of_Reading(In_Case("none")), 53);
+  EXPECT_EQ(Error_Of_Deleting(In_Case("none")), 53);
+  EXPECT_EQ(Error_Of_Reading(Path("None\\file")), 76);
+  EXPECT_EQ(Error_Of_Creating(Path("None\\file")), 76);
+  EXPECT_EQ(Error_Of([this] { Files.File_Names(Path("None")); }), 76);
+}
+
+TEST_F(File_Cases, A_folder_in_a_files_place_is_error_75) {
+  EXPECT_EQ(Error_Of_Reading(Path("Case")), 75);
+  EXPECT_EQ(Error_Of_Creating(Path("Case")), 75);
+  EXPECT_EQ(Error_Of_Deleting(Path("Case")), 75);
+}
+
+TEST_F(File_Cases, A_file_that_is_being_written_can_be_read_and_nothing_else) {
+  const auto output = Files.Create(In_Case("file"));
+  output->Write("x");
+  EXPECT_EQ(Read("file"), "x");
+  EXPECT_EQ(Error_Of_Creating(In_Case("file")), 70);
+  EXPECT_EQ(Error_Of_Deleting(In_Case("file")), 70);
+}
+
+TEST_F(File_Cases, A_file_that_was_closed_can_be_deleted) {
+  Write("file", "x");
+  Files.Delete(In_Case("FILE"));
+  EXPECT_FALSE(Files.File_Exists(In_Case("file")));
+}
+
+TEST_F(File_Cases, The_files_of_a_folder_are_listed_without_regard_to_case_and_without_folders) {
+  for (const char* const name : {"b.txt", "C.txt", "a.txt", "A2.txt"}) Write(name, "");
+  World->Make_Folder("Case\\Folder");
+  EXPECT_EQ(Files.File_Names(Path("Case")), (std::vector<std::string>{"a.txt", "A2.txt", "b.txt", "C.txt"}));
+}
+
+TEST_F(File_Cases, The_program_lies_in_its_folder) {
+  const std::string folder = Files.Program_Folder();
+  EXPECT_TRUE(Files.Folder_Exists(folder));
+  EXPECT_NE(folder.back(), '\\');
+  EXPECT_EQ(Files.Program_Path().substr(0, folder.size() + 1), folder + '\\');
+  EXPECT_EQ(Files.Program_Path().substr(Files.Program_Path().size() - 4), ".exe");
+}

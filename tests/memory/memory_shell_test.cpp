@@ -1,0 +1,131 @@
+// The windows of the desktop and of other instances, and the store beside them.
+#include "memory/memory_shell.h"
+
+#include <gtest/gtest.h>
+
+#include "memory/memory_instances.h"
+#include "memory/memory_store.h"
+
+using memory::Memory_Instances;
+using memory::Memory_Shell;
+using memory::Memory_Store;
+using memory::Shell_Chain;
+using platform::Window_Handle;
+
+namespace {
+
+/// How far the desktop's windows are found, from 0 to 3.
+int Length_Of_Chain(Memory_Shell& shell) {
+  const Window_Handle progman = shell.Find_Top_Window("Progman", "Program Manager");
+  const Window_Handle view = shell.Find_Child(progman, "SHELLDLL_DefView");
+  const Window_Handle list = shell.Find_Child(view, "SysListView32");
+  return (progman != 0 ? 1 : 0) + (view != 0 ? 1 : 0) + (list != 0 ? 1 : 0);
+}
+
+Window_Handle List_Of(Memory_Shell& shell) {
+  return shell.Find_Child(shell.Find_Child(shell.Find_Top_Window("Progman", "Program Manager"), "SHELLDLL_DefView"),
+                          "SysListView32");
+}
+
+}  // namespace
+
+TEST(Memory_Shell_Test, The_desktop_exists_as_far_as_it_is_let) {
+  Memory_Shell shell;
+  EXPECT_EQ(Length_Of_Chain(shell), 0);
+  shell.Set_Chain(Shell_Chain::Progman);
+  EXPECT_EQ(Length_Of_Chain(shell), 1);
+  shell.Set_Chain(Shell_Chain::Def_View);
+  EXPECT_EQ(Length_Of_Chain(shell), 2);
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  EXPECT_EQ(Length_Of_Chain(shell), 3);
+}
+
+TEST(Memory_Shell_Test, No_other_window_is_found) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  EXPECT_EQ(shell.Find_Top_Window("Progman", "Other"), 0U);
+  EXPECT_EQ(shell.Find_Child(0, "SHELLDLL_DefView"), 0U);
+  EXPECT_EQ(shell.Find_Child(List_Of(shell), "SysListView32"), 0U);
+}
+
+TEST(Memory_Shell_Test, The_list_of_icons_tells_and_takes_its_colours) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  shell.Set_Icon_Colours(123, 456);
+  const Window_Handle list = List_Of(shell);
+  EXPECT_EQ(shell.Send(list, 4133, 0), 123);
+  EXPECT_EQ(shell.Send(list, 4131, 0), 456);
+  shell.Send(list, 4134, -1);
+  EXPECT_EQ(shell.Icon_Back(), -1);
+  EXPECT_THROW(shell.Send(list, 4135, 0), std::logic_error);
+}
+
+TEST(Memory_Shell_Test, A_repaint_is_an_update_of_what_was_marked) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  const Window_Handle list = List_Of(shell);
+  shell.Update(list);
+  EXPECT_EQ(shell.Take_Repaints(), 0);
+  shell.Invalidate(list);
+  shell.Update(list);
+  shell.Update(list);
+  EXPECT_EQ(shell.Take_Repaints(), 1);
+  EXPECT_EQ(shell.Take_Repaints(), 0);
+}
+
+TEST(Memory_Shell_Test, A_handle_of_a_window_that_has_gone_does_nothing) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  const Window_Handle list = List_Of(shell);
+  shell.Set_Chain(Shell_Chain::None);
+  EXPECT_EQ(shell.Send(list, 4133, 0), 0);
+  shell.Invalidate(list);
+  shell.Update(list);
+  EXPECT_EQ(shell.Take_Repaints(), 0);
+}
+
+TEST(Memory_Shell_Test, Knows_what_was_moved_under_the_desktop) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  EXPECT_FALSE(shell.Under_Progman(7));
+  shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager"));
+  EXPECT_TRUE(shell.Under_Progman(7));
+}
+
+TEST(Memory_Instances_Test, Another_instance_is_found_by_its_title_and_posted_to) {
+  Memory_Instances instances;
+  EXPECT_FALSE(instances.Other_Is_Running());
+  EXPECT_EQ(instances.Find_Window("Meridex"), 0U);
+  instances.Add("Meridex");
+  EXPECT_TRUE(instances.Other_Is_Running());
+  instances.Post(instances.Find_Window("Meridex"), platform::close_request);
+  const auto posted = instances.Take_Posted();
+  ASSERT_EQ(posted.size(), 1U);
+  EXPECT_EQ(posted[0].Title, "Meridex");
+  EXPECT_EQ(posted[0].Message, 16U);
+  EXPECT_TRUE(instances.Take_Posted().empty());
+}
+
+TEST(Memory_Instances_Test, The_own_window_has_its_title_and_takes_a_close_request) {
+  Memory_Instances instances;
+  EXPECT_NE(instances.Find_Window("Meridex Loading"), 0U);
+  instances.Set_Title("Meridex");
+  int asked = 0;
+  instances.On_Close_Request = [&] { ++asked; };
+  instances.Post(instances.Find_Window("Meridex"), platform::close_request);
+  EXPECT_EQ(asked, 1);
+  EXPECT_TRUE(instances.Take_Posted().empty());
+  instances.Enter();
+  EXPECT_EQ(instances.Title(), "Meridex Loading");
+}
+
+TEST(Memory_Store_Test, Values_are_listed_by_section_and_key_in_byte_order) {
+  Memory_Store store;
+  store.Save("Meridex", "Settings", "Style", "1");
+  store.Save("Meridex", "Settings", "Start Day", "2");
+  store.Save("Meridex", "Colours", "Text", "0");
+  store.Save("Other", "Settings", "Style", "9");
+  std::string listed;
+  for (const auto& value : store.Values("Meridex")) listed += value.Section + "/" + value.Key + "=" + value.Text + " ";
+  EXPECT_EQ(listed, "Colours/Text=0 Settings/Start Day=2 Settings/Style=1 ");
+}
