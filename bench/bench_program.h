@@ -27,8 +27,8 @@ class Bench_Program {
   ~Bench_Program();
 
   /// The left button goes up over an arrow of the title row.
-  void Next_Month() { next_->On_Mouse_Up(toolkit::Mouse_Button::Left, 0, 0); }
-  void Previous_Month() { previous_->On_Mouse_Up(toolkit::Mouse_Button::Left, 0, 0); }
+  void Next_Month() { next_->On_Mouse_Up({toolkit::Mouse_Button::Left}); }
+  void Previous_Month() { previous_->On_Mouse_Up({toolkit::Mouse_Button::Left}); }
 
   /// One tick, as the timer's running out calls it. The virtual time stands still in it.
   void Tick() { backend_.Date_Timer->On_Tick(); }

@@ -5,6 +5,7 @@
 namespace calendar {
 
 using toolkit::Mouse_Button;
+using toolkit::Mouse_Event;
 
 namespace {
 
@@ -30,45 +31,45 @@ Box_Mouse::Box_Mouse(presentation::Arrangement& arrangement, presentation::Place
 }
 
 void Box_Mouse::Tie_Box(toolkit::Label& label, basic::Int16 index) {
-  label.On_Mouse_Down = [this, index](Mouse_Button button, double, double) { Box_Press(button, index); };
-  label.On_Mouse_Move = [this](Mouse_Button, double, double) { compact_.Idle_Restart(); };
-  label.On_Mouse_Up = [this](Mouse_Button, double, double) { calendar_.Mouse_Released = true; };
+  label.On_Mouse_Down = [this, index](const Mouse_Event& event) { Box_Press(event.Button, index); };
+  label.On_Mouse_Move = [this](const Mouse_Event&) { compact_.Idle_Restart(); };
+  label.On_Mouse_Up = [this](const Mouse_Event&) { calendar_.Mouse_Released = true; };
   label.On_Double_Click = [this, index] { edit_box_.Open(index); };
 }
 
 void Box_Mouse::Tie_Headers() {
   for (int i = 0; i < presentation::days_of_week; ++i) {
     toolkit::Label& header = arrangement_.Day_Lbl[i];
-    header.On_Mouse_Down = [this, i](Mouse_Button button, double, double) {
-      if (button == Mouse_Button::Right) menus_.Popup_Start_Day(i);
+    header.On_Mouse_Down = [this, i](const Mouse_Event& event) {
+      if (event.Button == Mouse_Button::Right) menus_.Popup_Start_Day(i);
     };
-    header.On_Mouse_Move = [this](Mouse_Button, double, double) { compact_.Idle_Restart(); };
+    header.On_Mouse_Move = [this](const Mouse_Event&) { compact_.Idle_Restart(); };
   }
 }
 
 void Box_Mouse::Tie_Arrow(toolkit::Label& arrow, void (Month_View::*turn)()) {
-  arrow.On_Mouse_Down = [this](Mouse_Button button, double, double) {
-    if (button == Mouse_Button::Right) menus_.Popup_Months();
+  arrow.On_Mouse_Down = [this](const Mouse_Event& event) {
+    if (event.Button == Mouse_Button::Right) menus_.Popup_Months();
   };
-  arrow.On_Mouse_Move = [this](Mouse_Button, double, double) { compact_.Idle_Restart(); };
-  arrow.On_Mouse_Up = [this, turn](Mouse_Button button, double, double) {
-    if (button == Mouse_Button::Left) (view_.*turn)();
+  arrow.On_Mouse_Move = [this](const Mouse_Event&) { compact_.Idle_Restart(); };
+  arrow.On_Mouse_Up = [this, turn](const Mouse_Event& event) {
+    if (event.Button == Mouse_Button::Left) (view_.*turn)();
   };
 }
 
 void Box_Mouse::Tie_Title() {
   toolkit::Label& title = arrangement_.Which_Month_Lbl;
-  title.On_Mouse_Down = [this](Mouse_Button button, double x, double y) {
-    if (button == Mouse_Button::Right) menus_.Popup_Years();
-    else if (button == Mouse_Button::Left) placement_.Start_Drag(x, y);
+  title.On_Mouse_Down = [this](const Mouse_Event& event) {
+    if (event.Button == Mouse_Button::Right) menus_.Popup_Years();
+    else if (event.Button == Mouse_Button::Left) placement_.Start_Drag(event.X, event.Y);
   };
-  title.On_Mouse_Move = [this](Mouse_Button button, double x, double y) {
-    if (button == Mouse_Button::Left) placement_.Drag(x, y);
+  title.On_Mouse_Move = [this](const Mouse_Event& event) {
+    if (event.Button == Mouse_Button::Left) placement_.Drag(event.X, event.Y);
     compact_.Idle_Restart();
     compact_.Wake_Up();
   };
-  title.On_Mouse_Up = [this](Mouse_Button button, double, double) {
-    if (button != Mouse_Button::Right) placement_.End_Drag();
+  title.On_Mouse_Up = [this](const Mouse_Event& event) {
+    if (event.Button != Mouse_Button::Right) placement_.End_Drag();
   };
   title.On_Double_Click = [this] { compact_.Which_Month_Lbl_DblClick(); };
 }

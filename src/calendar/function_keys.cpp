@@ -10,8 +10,6 @@ namespace {
 
 using settings::Settings;
 
-enum Key_Code { key_f1 = 112, key_f2 = 113, key_f3 = 114, key_f4 = 115, key_f5 = 116, key_f9 = 120, key_f12 = 123 };
-
 constexpr const char* style_question =
     "You can't change the box style because Use Theme Style is selected. Do you want to turn off Use Theme Style?";
 
@@ -30,13 +28,13 @@ Function_Keys::Function_Keys(presentation::Arrangement& arrangement, presentatio
 void Function_Keys::Key_Up(int code) {
   compact_.Idle_Restart();
   switch (code) {
-    case key_f1: Show_Todays_Event(); break;
-    case key_f2: view_.Previous_Month(); break;
-    case key_f3: Show_Present_Month(); break;
-    case key_f4: view_.Next_Month(); break;
-    case key_f5: view_.Refresh_Calendar(); break;
-    case key_f9: Change_Box_Style(); break;
-    case key_f12: compact_.Which_Month_Lbl_DblClick(); break;
+    case toolkit::key_f1: Show_Todays_Event(); break;
+    case toolkit::key_f2: view_.Previous_Month(); break;
+    case toolkit::key_f3: Show_Present_Month(); break;
+    case toolkit::key_f4: view_.Next_Month(); break;
+    case toolkit::key_f5: view_.Refresh_Calendar(); break;
+    case toolkit::key_f9: Change_Box_Style(); break;
+    case toolkit::key_f12: compact_.Which_Month_Lbl_DblClick(); break;
     default: break;
   }
 }

@@ -15,7 +15,7 @@ constexpr double line_height = 195;  // twips
 }  // namespace
 
 Memory_Backend::Memory_Backend(Virtual_Time& time, Memory_Loop& loop, platform::Screen& screen)
-    : Windows(time, loop), time_(time), loop_(loop), screen_(screen), last_handle_(before_first_handle) {}
+    : Windows(time, loop, Input), time_(time), loop_(loop), screen_(screen), last_handle_(before_first_handle) {}
 
 std::unique_ptr<toolkit::Form_Peer> Memory_Backend::Make_Peer(toolkit::Form& form) {
   return std::make_unique<Memory_Peer>(Windows, form, ++last_handle_);

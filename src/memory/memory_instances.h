@@ -1,5 +1,5 @@
-// Other instances of the calendar, as far as this one can see them: the titles of their hidden windows, and what was
-// posted to them.
+// Other instances of the calendar and other programs, as far as this one can see them: the titles of their windows, and
+// what was posted to them.
 #pragma once
 
 #include <utility>
@@ -11,9 +11,9 @@ namespace memory {
 
 class Memory_Instances : public platform::Instances {
  public:
-  bool Other_Is_Running() override { return !others_.empty(); }
+  bool Other_Is_Running() override { return other_is_running_; }
 
-  /// The other instances come before this one's own window.
+  /// The other instances and programs come before this one's own window.
   platform::Window_Handle Find_Window(const std::string& title) override;
 
   /// A close request to this one's own window reaches On_Close_Request at once; another message throws
@@ -22,7 +22,13 @@ class Memory_Instances : public platform::Instances {
   void Set_Title(const std::string& title) override { title_ = title; }
 
   /// Another instance runs from here on, with a hidden window of that title.
-  void Add(const std::string& title) { others_.push_back(title); }
+  void Add(const std::string& title) {
+    others_.push_back(title);
+    other_is_running_ = true;
+  }
+
+  /// Another program shows a window of that title; no other instance runs by it.
+  void Add_Foreign(const std::string& title) { others_.push_back(title); }
 
   /// A process of this program begins: its hidden window has the first title, and nobody listens yet.
   void Enter();
@@ -39,7 +45,8 @@ class Memory_Instances : public platform::Instances {
 
  private:
   std::string title_ = "Meridex Loading";
-  std::vector<std::string> others_;
+  std::vector<std::string> others_;  // the titles of windows that aren't this process's
+  bool other_is_running_ = false;
   std::vector<Posted> posted_;
 };
 

@@ -11,10 +11,12 @@ int Memory_Menu::Track(platform::Window_Handle owner, const std::vector<platform
   const toolkit::Form* const window = windows_.Find(owner);
   if (window == nullptr) throw std::logic_error("a menu without an owner");
   shown_.push_back({window->Name, items});
+  const toolkit::Input::Modal menu(input_);
   if (prepared_.empty()) return 0;
-  const int number = prepared_.front();
+  const auto [number, micros] = prepared_.front();
   prepared_.pop_front();
-  const bool choosable = std::any_of(items.begin(), items.end(), [number](const platform::Menu_Item& item) {
+  if (micros > 0) loop_.Serve(micros);
+  const bool choosable = std::any_of(items.begin(), items.end(), [number = number](const platform::Menu_Item& item) {
     return item.Number == number && !item.Grey;
   });
   return choosable ? number : 0;

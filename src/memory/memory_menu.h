@@ -1,4 +1,5 @@
-// Popup menus that are answered by a list made up in advance, and remembered.
+// Popup menus that are answered by a list made up in advance, and remembered. While one is open it has the mouse and the
+// keys, so that no window of the program gets any.
 #pragma once
 
 #include <deque>
@@ -13,13 +14,15 @@ namespace memory {
 
 class Memory_Menu : public platform::Popup_Menu {
  public:
-  explicit Memory_Menu(const Memory_Windows& windows) : windows_(windows) {}
+  Memory_Menu(const Memory_Windows& windows, Memory_Loop& loop, toolkit::Input& input)
+      : windows_(windows), loop_(loop), input_(input) {}
 
   /// Takes the next prepared number; 0 for none, and for one that is grey or isn't in the menu. Throws std::logic_error
   /// if the owner is no window.
   int Track(platform::Window_Handle owner, const std::vector<platform::Menu_Item>& items) override;
 
-  void Prepare(int number) { prepared_.push_back(number); }
+  /// A choice for a menu to come; the menu stays open for `micros` first, with events being served.
+  void Prepare(int number, std::int64_t micros = 0) { prepared_.push_back({number, micros}); }
 
   struct Shown {
     std::string Owner;  ///< the window's name
@@ -30,8 +33,15 @@ class Memory_Menu : public platform::Popup_Menu {
   std::vector<Shown> Take_Shown() { return std::exchange(shown_, {}); }
 
  private:
+  struct Prepared {
+    int number;
+    std::int64_t micros;
+  };
+
   const Memory_Windows& windows_;
-  std::deque<int> prepared_;
+  Memory_Loop& loop_;
+  toolkit::Input& input_;
+  std::deque<Prepared> prepared_;
   std::vector<Shown> shown_;
 };
 

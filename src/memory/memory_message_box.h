@@ -7,12 +7,13 @@
 
 #include "memory/memory_loop.h"
 #include "platform/message_box.h"
+#include "toolkit/input.h"
 
 namespace memory {
 
 class Memory_Message_Box : public platform::Message_Box {
  public:
-  explicit Memory_Message_Box(Memory_Loop& loop) : loop_(loop) {}
+  Memory_Message_Box(Memory_Loop& loop, toolkit::Input& input) : loop_(loop), input_(input) {}
 
   /// Takes the first prepared answer for which the box has a button. Without one a box with only OK gets OK, any other
   /// Cancel if it has it, else No.
@@ -41,6 +42,7 @@ class Memory_Message_Box : public platform::Message_Box {
   Prepared Answer_For(platform::Box_Buttons buttons);
 
   Memory_Loop& loop_;
+  toolkit::Input& input_;
   std::deque<Prepared> prepared_;
   std::vector<Shown> shown_;
 };

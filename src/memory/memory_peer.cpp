@@ -48,11 +48,16 @@ void Memory_Peer::Set_Round_Region(int width, int height, int corner) {
   region_ = Round_Region(width, height, corner);
 }
 
-void Memory_Peer::Focus(toolkit::Control& control) {
-  if (!Has(control)) throw std::logic_error("the focus for a control of another window");
-  focused_ = &control;
-}
+void Memory_Peer::Activate() { windows_.Activate(&form_); }
 
-toolkit::Control* Memory_Peer::Focused() const { return focused_ != nullptr && Has(*focused_) ? focused_ : nullptr; }
+void Memory_Peer::Capture_Mouse() { windows_.Give_Mouse(this); }
+
+void Memory_Peer::Release_Mouse() { windows_.Give_Mouse(nullptr); }
+
+void Memory_Peer::Focus(toolkit::Control* control) {
+  if (control != nullptr && !Has(*control)) throw std::logic_error("the focus for a control of another window");
+  if (windows_.Active() != &form_) throw std::logic_error("the focus for a window that isn't active");
+  focused_ = control;
+}
 
 }  // namespace memory

@@ -23,6 +23,7 @@ class Memory_Peer : public toolkit::Form_Peer {
 
   void Show(bool activate) override;
   void Hide() override;
+  void Activate() override;
   void Form_Changed(toolkit::Aspect aspect) override;
 
   /// Throws std::logic_error for a control of another window.
@@ -31,15 +32,17 @@ class Memory_Peer : public toolkit::Form_Peer {
   void Set_Round_Region(int width, int height, int corner) override;
   [[nodiscard]] bool Minimised() const override { return minimised_; }
 
-  /// Throws std::logic_error for a control of another window.
-  void Focus(toolkit::Control& control) override;
+  /// Throws std::logic_error for a control of another window, and while this one isn't active.
+  void Focus(toolkit::Control* control) override;
+  void Capture_Mouse() override;
+  void Release_Mouse() override;
   [[nodiscard]] platform::Window_Handle Handle() const override { return handle_; }
 
   [[nodiscard]] toolkit::Form& Form() const { return form_; }
   [[nodiscard]] const std::optional<toolkit::Region>& Region() const { return region_; }
 
-  /// The control that gets the keys, nullptr if none does.
-  [[nodiscard]] toolkit::Control* Focused() const;
+  /// The control that was given the keys last, to be compared alone.
+  [[nodiscard]] const toolkit::Control* Focused() const { return focused_; }
   [[nodiscard]] const Peer_Counts& Counts() const { return counts_; }
 
   void Set_Minimised(bool minimised) { minimised_ = minimised; }
@@ -51,7 +54,7 @@ class Memory_Peer : public toolkit::Form_Peer {
   toolkit::Form& form_;
   const platform::Window_Handle handle_;
   std::optional<toolkit::Region> region_;
-  toolkit::Control* focused_ = nullptr;
+  const toolkit::Control* focused_ = nullptr;
   bool minimised_ = false;
   Peer_Counts counts_;
 };

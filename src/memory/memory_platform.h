@@ -15,6 +15,7 @@
 #include "memory/memory_screen.h"
 #include "memory/memory_shell.h"
 #include "memory/memory_store.h"
+#include "memory/memory_user.h"
 #include "memory/memory_wallpaper.h"
 #include "memory/virtual_time.h"
 #include "platform/system.h"
@@ -28,7 +29,6 @@ class Memory_Platform {
   Memory_Locale Locale;
   Memory_Files Files{Time};
   Memory_Loop Loop{Time};
-  Memory_Message_Box Message_Box{Loop};
   Memory_Store Store;
   Memory_Screen Screen;
   Memory_Instances Instances;
@@ -38,7 +38,10 @@ class Memory_Platform {
   Memory_Wallpaper Wallpaper{Registry};
   Memory_Pictures Pictures{Files};
   Memory_Backend Windows_And_Timers{Time, Loop, Screen};
-  Memory_Menu Menu{Windows_And_Timers.Windows};
+  Memory_Message_Box Message_Box{Loop, Windows_And_Timers.Input};
+  Memory_Menu Menu{Windows_And_Timers.Windows, Loop, Windows_And_Timers.Input};
+
+  Memory_User User{Windows_And_Timers.Windows, Windows_And_Timers.Input};
 
   toolkit::Backend& Backend() { return Windows_And_Timers; }
   Memory_Windows& Windows() { return Windows_And_Timers.Windows; }

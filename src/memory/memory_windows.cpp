@@ -34,12 +34,13 @@ toolkit::Form* Memory_Windows::Active() const {
 
 void Memory_Windows::Tell_Activated(Memory_Peer* peer) {
   if (peer == nullptr || silent_ || !Is_Loaded(peer) || peer != Active_Peer()) return;
-  loop_.Dispatch([peer] { peer->Form().Activated(); });
+  loop_.Dispatch([this, peer] { input_.Activity_Came(peer->Form()); });
 }
 
 void Memory_Windows::Tell_Deactivated(Memory_Peer* peer) {
   if (peer == nullptr || silent_ || !Is_Loaded(peer)) return;
-  loop_.Dispatch([peer] { peer->Form().Deactivated(); });
+  input_.Activity_Went(peer->Form());
+  loop_.Dispatch([this] { input_.Tell_Of_Lost_Activity(); });
 }
 
 void Memory_Windows::Make_Active(Memory_Peer* peer) {
@@ -73,6 +74,7 @@ void Memory_Windows::Hidden(Memory_Peer& peer) {
 
 void Memory_Windows::Remove(Memory_Peer& peer) {
   const bool was_active = Active_Peer() == &peer;
+  if (mouse_ == &peer) mouse_ = nullptr;
   Take_Off(peer);
   std::erase(loaded_, &peer);
   Memory_Peer* const next = Active_Peer();

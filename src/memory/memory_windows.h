@@ -15,17 +15,22 @@ namespace memory {
 
 class Memory_Windows {
  public:
-  Memory_Windows(Virtual_Time& time, Memory_Loop& loop) : time_(time), loop_(loop) {}
+  Memory_Windows(Virtual_Time& time, Memory_Loop& loop, toolkit::Input& input)
+      : time_(time), loop_(loop), input_(input) {}
 
   // From the peers.
   void Add(Memory_Peer& peer) { loaded_.push_back(&peer); }
   void Remove(Memory_Peer& peer);
   void Shown(Memory_Peer& peer, bool activate);
   void Hidden(Memory_Peer& peer);
+  void Give_Mouse(const Memory_Peer* peer) { mouse_ = peer; }
 
   /// The form becomes the active window; nullptr: another program's window does. Both forms concerned are told.
   void Activate(toolkit::Form* form);
   [[nodiscard]] toolkit::Form* Active() const;
+
+  /// The window that all moves and releases of the mouse come to; nullptr if each comes to the one under the pointer.
+  [[nodiscard]] const Memory_Peer* Mouse() const { return mouse_; }
 
   /// The newest loaded form of that name, nullptr if there is none.
   [[nodiscard]] toolkit::Form* Find(std::string_view name) const;
@@ -58,10 +63,12 @@ class Memory_Windows {
 
   Virtual_Time& time_;
   Memory_Loop& loop_;
+  toolkit::Input& input_;
   Peers loaded_;       // in the order of loading
   Peers shown_;        // the visible ones in the order of showing
   Peers front_;        // the visible ones, the foremost last
   Peers activations_;  // the visible ones that were active, the active one last; nullptr is another program
+  const Memory_Peer* mouse_ = nullptr;
   bool silent_ = false;
 };
 

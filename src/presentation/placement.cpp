@@ -103,8 +103,10 @@ void Placement::End_Drag() {
 }
 
 void Placement::Keep_Place() {
-  stored_.Set(&Settings::Manual_PosX, Round_To_Even(arrangement_.Main_Frm.Left));
-  stored_.Set(&Settings::Manual_PosY, Round_To_Even(arrangement_.Main_Frm.Top));
+  // Both are checked before either is stored: a place beyond 16 bits leaves the settings as they were.
+  const basic::Int16 left = Round_To_Even(arrangement_.Main_Frm.Left), top = Round_To_Even(arrangement_.Main_Frm.Top);
+  stored_.Set(&Settings::Manual_PosX, left);
+  stored_.Set(&Settings::Manual_PosY, top);
 }
 
 /// A drag that changed one coordinate alone doesn't count.

@@ -1,7 +1,8 @@
 // The seam between the toolkit and a window system: what it is asked for, and in what order.
 //
-// A backend draws, measures, asks and reports. It reads what it needs from the windows and controls themselves, and
-// reports the user's input by their On_ and User_ functions and by the input functions of Form. It owns no decision.
+// A backend draws, measures, asks and reports. It reads what it needs from the windows and controls themselves, reports the
+// user's input to Input, and what the system's own text boxes and lists have done by the controls' User_ functions. It
+// decides nothing.
 #pragma once
 
 #include <cstddef>
@@ -11,6 +12,7 @@
 
 #include "platform/window_handle.h"
 #include "toolkit/geometry.h"
+#include "toolkit/input.h"
 #include "toolkit/property.h"
 #include "toolkit/region.h"
 
@@ -31,6 +33,9 @@ class Form_Peer {
   virtual void Show(bool activate) = 0;
   virtual void Hide() = 0;
 
+  /// Makes the window active. The system answers with Input::Activity_Went and Activity_Came, before this returns.
+  virtual void Activate() = 0;
+
   /// A property of the form or of one of its controls has changed. Repainting may wait for the next idle moment.
   virtual void Form_Changed(Aspect aspect) = 0;
   virtual void Control_Changed(Control& control, Aspect aspect) = 0;
@@ -43,7 +48,14 @@ class Form_Peer {
   virtual void Set_Round_Region(int width, int height, int corner) = 0;
 
   [[nodiscard]] virtual bool Minimised() const = 0;
-  virtual void Focus(Control& control) = 0;
+
+  /// Gives the keys to a control of the window that is active, nullptr: to the window itself.
+  virtual void Focus(Control* control) = 0;
+
+  /// From here on all moves and releases of the mouse come to this window, wherever the pointer is, until it is released.
+  virtual void Capture_Mouse() = 0;
+  virtual void Release_Mouse() = 0;
+
   [[nodiscard]] virtual platform::Window_Handle Handle() const = 0;
 };
 
@@ -56,7 +68,12 @@ struct Font {
 
 class Backend {
  public:
+  Backend() = default;
+  Backend(const Backend&) = delete;
+  Backend& operator=(const Backend&) = delete;
   virtual ~Backend() = default;
+
+  toolkit::Input Input{*this};
 
   virtual std::unique_ptr<Form_Peer> Make_Peer(Form& form) = 0;
 

@@ -12,10 +12,19 @@ class Check_Box : public Control, public Font_Properties {
   Property<std::string> Caption{*this, Aspect::Caption};
   Property<int> Value{*this, Aspect::Value};  ///< 1 when ticked, else 0
 
-  /// The user's click turns the tick over; a disabled or hidden box takes none.
-  void User_Click();
+  Property<bool> Held{*this, Aspect::Held};  ///< drawn as pressed down
+
+  /// Turns the tick over; a disabled or hidden box takes no click.
+  void User_Click() override;
 
   void Changed(Aspect aspect) override;
+
+  [[nodiscard]] bool Takes_Focus() const override { return true; }
+  [[nodiscard]] bool Double_Clicks() const override { return false; }
+  bool Key_Down(const Key& key) override;
+  void Key_Up(const Key& key) override;
+  void Show_Held(bool held) override { Held = held; }
+  [[nodiscard]] const std::string* Caption_With_Accelerator() const override { return &Caption(); }
 };
 
 }  // namespace toolkit

@@ -13,8 +13,17 @@ class Command_Button : public Control, public Font_Properties {
   Property<bool> Default{*this, Aspect::Default_Button};  ///< the Enter key presses it
   Property<bool> Cancel{*this, Aspect::Default_Button};   ///< the Escape key presses it
 
-  /// The user's click, or the key that stands for it; a disabled or hidden button takes none.
-  void User_Click() const;
+  Property<bool> Held{*this, Aspect::Held};  ///< drawn as pressed down
+
+  /// A disabled or hidden button takes no click.
+  void User_Click() override;
+
+  [[nodiscard]] bool Takes_Focus() const override { return true; }
+  [[nodiscard]] bool Double_Clicks() const override { return false; }
+  bool Key_Down(const Key& key) override;
+  void Key_Up(const Key& key) override;
+  void Show_Held(bool held) override { Held = held; }
+  [[nodiscard]] const std::string* Caption_With_Accelerator() const override { return &Caption(); }
 };
 
 }  // namespace toolkit

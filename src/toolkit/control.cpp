@@ -32,6 +32,10 @@ void Control::Place(const Bounds& twips) {
   Changed(Aspect::Bounds);
 }
 
+void Control::User_Click() {
+  if (On_Click) On_Click();
+}
+
 void Control::Changed(Aspect aspect) { Window.Control_Changed(*this, aspect); }
 
 }  // namespace toolkit

@@ -6,11 +6,19 @@
 
 #include "toolkit/colour.h"
 #include "toolkit/geometry.h"
+#include "toolkit/keys.h"
 #include "toolkit/property.h"
 
 namespace toolkit {
 
 enum class Mouse_Button { None = 0, Left = 1, Right = 2, Middle = 4 };
+
+/// What the pointer does: the button (of a move the one that is held), the place in twips, and whether Shift is held.
+struct Mouse_Event {
+  Mouse_Button Button = Mouse_Button::None;
+  double X = 0, Y = 0;
+  bool Shift = false;
+};
 
 class Control;
 class Form;
@@ -54,12 +62,37 @@ class Control : public Property_Owner {
   [[nodiscard]] const Bounds& In_Twips() const { return bounds_; }
   void Place(const Bounds& twips);
 
-  /// The mouse: x and y in twips within the control.
-  using Mouse_Handler = std::function<void(Mouse_Button button, double x, double y)>;
+  /// The mouse, with the place within the control.
+  using Mouse_Handler = std::function<void(const Mouse_Event& event)>;
   Mouse_Handler On_Mouse_Down, On_Mouse_Move, On_Mouse_Up;
   std::function<void()> On_Click, On_Double_Click;
 
   void Changed(Aspect aspect) override;
+
+  [[nodiscard]] bool Can_Have_Focus() const { return Takes_Focus() && Visible && Enabled; }
+
+  // How the input treats a control of its kind.
+
+  [[nodiscard]] virtual bool Takes_Focus() const { return false; }
+
+  /// Whether the second press of a double-click is one, and not merely another press.
+  [[nodiscard]] virtual bool Double_Clicks() const { return true; }
+
+  /// The user's click.
+  virtual void User_Click();
+
+  /// A key while the control has the focus. Returns true if it is used up.
+  virtual bool Key_Down(const Key& /*key*/) { return false; }
+  virtual void Key_Up(const Key& /*key*/) {}
+
+  /// The left button, or the space key, is held on it, and lifting it now would click.
+  virtual void Show_Held(bool /*held*/) {}
+
+  /// The Tab key has given it the focus.
+  virtual void Focused_By_Key() {}
+
+  /// The caption in which "&" marks an accelerator; nullptr if it has none.
+  [[nodiscard]] virtual const std::string* Caption_With_Accelerator() const { return nullptr; }
 
  private:
   friend class Length;

@@ -7,13 +7,16 @@
 
 namespace toolkit {
 
-Form::Form(Backend& backend, std::string name, Form_Border border)
-    : Font_Properties(static_cast<Property_Owner&>(*this)), Name(std::move(name)), Border(border), backend_(backend) {}
+Form::Form(Backend& backend, std::string name, Form_Border border, Form* owner)
+    : Font_Properties(static_cast<Property_Owner&>(*this)), Name(std::move(name)), Border(border), Owner(owner),
+      backend_(backend) {}
 
-Form::~Form() = default;
+Form::~Form() { backend_.Input.Remove(*this); }
 
 void Form::Load() {
   if (peer_ != nullptr) return;
+  focus_ = nullptr;
+  backend_.Input.Add(*this);
   peer_ = backend_.Make_Peer(*this);
   if (On_Load) On_Load();
 }
@@ -23,6 +26,7 @@ void Form::Show(bool activate) {
   if (peer_ == nullptr) return;
   visible_ = true;
   peer_->Show(activate);
+  backend_.Input.Tell_Of_Lost_Activity();
 }
 
 void Form::Hide() {
@@ -35,9 +39,10 @@ void Form::Unload() {
   if (peer_ == nullptr || unloading_) return;
   unloading_ = true;
   if (On_Unload) On_Unload();
+  if (Owner != nullptr && Owner->Visible() && backend_.Active_Form() == this) Owner->Activate();
   unloading_ = false;
   visible_ = false;
-  captured_ = nullptr;
+  backend_.Input.Remove(*this);
   peer_.reset();
 }
 
@@ -77,7 +82,9 @@ void Form::Set_Round_Region(int width, int height, int corner) {
 bool Form::Minimised() const { return peer_ != nullptr && peer_->Minimised(); }
 
 void Form::Set_Focus(Control& control) {
-  if (peer_ != nullptr) peer_->Focus(control);
+  if (peer_ == nullptr) return;
+  backend_.Input.Move_Focus(*this, &control);
+  if (visible_) Activate();
 }
 
 platform::Window_Handle Form::Handle() const { return peer_ != nullptr ? peer_->Handle() : 0; }
@@ -94,75 +101,52 @@ double Form::Twips_Per_Unit(Axis axis) const {
   return Scale == Scale_Unit::Pixels ? backend_.Twips_Per_Pixel(axis) : 1;
 }
 
-Control* Form::Control_At(double x, double y) const {
-  const auto hit = std::find_if(controls_.rbegin(), controls_.rend(), [=](const Control* control) {
-    return control->Visible && control->In_Twips().Contains(x, y);
-  });
-  return hit == controls_.rend() ? nullptr : *hit;
+void Form::Activate() {
+  if (peer_ != nullptr) peer_->Activate();
 }
 
-void Form::Mouse_Down(Mouse_Button button, double x, double y) {
-  captured_ = Control_At(x, y);
-  clicking_ = true;
-  if (captured_ == nullptr) return;
-  const Bounds& place = captured_->In_Twips();
-  if (captured_->Enabled && captured_->On_Mouse_Down) captured_->On_Mouse_Down(button, x - place.Left, y - place.Top);
+void Form::Capture_Mouse() {
+  if (peer_ != nullptr) peer_->Capture_Mouse();
 }
 
-void Form::Mouse_Move(Mouse_Button button, double x, double y) {
-  Control* const target = captured_ != nullptr ? captured_ : Control_At(x, y);
-  if (target == nullptr || !target->Enabled || !target->On_Mouse_Move) return;
-  target->On_Mouse_Move(button, x - target->In_Twips().Left, y - target->In_Twips().Top);
+void Form::Release_Mouse() {
+  if (peer_ != nullptr) peer_->Release_Mouse();
 }
 
-void Form::Mouse_Up(Mouse_Button button, double x, double y) {
-  Control* const target = std::exchange(captured_, nullptr);
-  const bool click = std::exchange(clicking_, false);
-  if (target == nullptr) {
-    if (click && On_Click) On_Click();
-    return;
-  }
-  if (!target->Enabled) return;
-  const Bounds place = target->In_Twips();
-  if (target->On_Mouse_Up) target->On_Mouse_Up(button, x - place.Left, y - place.Top);
-  if (click && button == Mouse_Button::Left && place.Contains(x, y) && target->On_Click) target->On_Click();
+Control* Form::Focused() const { return focus_ != nullptr && focus_->Can_Have_Focus() ? focus_ : nullptr; }
+
+void Form::Keep_Focus(Control* control) {
+  if (focus_ == control) return;
+  Control* const before = std::exchange(focus_, control);
+  if (before != nullptr) before->Show_Held(false);
+  // A button with the focus takes the Enter key from the default one, and the look that goes with it.
+  Enter_Button_Changed(before);
+  Enter_Button_Changed(focus_);
+  Enter_Button_Changed(Button_Marked(&Command_Button::Default));
 }
 
-void Form::Double_Click(Mouse_Button button, double x, double y) {
-  // Only the left button knows a double-click.
-  if (button != Mouse_Button::Left) {
-    Mouse_Down(button, x, y);
-    return;
-  }
-  captured_ = Control_At(x, y);
-  if (captured_ != nullptr && captured_->Enabled && captured_->On_Double_Click) captured_->On_Double_Click();
+void Form::Enter_Button_Changed(Control* button) {
+  if (dynamic_cast<Command_Button*>(button) != nullptr) Control_Changed(*button, Aspect::Default_Button);
 }
 
-void Form::Key_Up(int code) const {
-  if (On_Key_Up) On_Key_Up(code);
+void Form::Show_Focus() {
+  if (peer_ != nullptr) peer_->Focus(Focused());
 }
 
-bool Form::Press_Button(Property<bool> Command_Button::*kind) {
+Command_Button* Form::Button_Marked(Property<bool> Command_Button::*mark) const {
   for (Control* const control : controls_) {
     auto* const button = dynamic_cast<Command_Button*>(control);
-    if (button == nullptr || !(button->*kind)()) continue;
-    button->User_Click();
-    return true;
+    if (button != nullptr && (button->*mark)()) return button;
   }
-  return false;
+  return nullptr;
 }
 
-bool Form::Enter_Pressed() { return Press_Button(&Command_Button::Default); }
-
-bool Form::Escape_Pressed() { return Press_Button(&Command_Button::Cancel); }
-
-void Form::Activated() const {
-  if (On_Activate) On_Activate();
+Command_Button* Form::Enter_Button() const {
+  auto* const focused = dynamic_cast<Command_Button*>(Focused());
+  return focused != nullptr ? focused : Button_Marked(&Command_Button::Default);
 }
 
-void Form::Deactivated() const {
-  if (On_Deactivate) On_Deactivate();
-}
+Command_Button* Form::Escape_Button() const { return Button_Marked(&Command_Button::Cancel); }
 
 void Form::Close_Requested() {
   if (On_Close) On_Close();
@@ -175,14 +159,17 @@ void Form::Changed(Aspect aspect) {
 }
 
 void Form::Control_Changed(Control& control, Aspect aspect) {
-  if (peer_ != nullptr) peer_->Control_Changed(control, aspect);
+  if (peer_ == nullptr) return;
+  peer_->Control_Changed(control, aspect);
+  if (&control == focus_ && !control.Can_Have_Focus()) backend_.Input.Focus_Refused(*this);
 }
 
 void Form::Add(Control& control) { controls_.push_back(&control); }
 
 void Form::Remove(Control& control) {
   std::erase(controls_, &control);
-  if (captured_ == &control) captured_ = nullptr;
+  if (focus_ == &control) focus_ = nullptr;
+  backend_.Input.Remove(control);
 }
 
 }  // namespace toolkit

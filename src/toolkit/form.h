@@ -1,4 +1,4 @@
-// A window: its controls in their order, its place in twips, and the road of the mouse and the keys to them.
+// A window: its controls in their order, its place in twips, and which of them has the keys.
 #pragma once
 
 #include <memory>
@@ -13,13 +13,15 @@ class Command_Button;
 
 class Form : public Property_Owner, public Font_Properties {
  public:
-  Form(Backend& backend, std::string name, Form_Border border = Form_Border::None);
+  /// An owner's window stays behind this one, and becomes active again when this one is unloaded while it is active.
+  Form(Backend& backend, std::string name, Form_Border border = Form_Border::None, Form* owner = nullptr);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
   ~Form();
 
   const std::string Name;
   const Form_Border Border;
+  Form* const Owner;
 
   Property<std::string> Caption{*this, Aspect::Caption};
   /// The outer place and size on the screen, always in twips.
@@ -62,6 +64,8 @@ class Form : public Property_Owner, public Font_Properties {
   /// Cuts the window to a rectangle with rounded corners, in pixels.
   void Set_Round_Region(int width, int height, int corner);
   [[nodiscard]] bool Minimised() const;
+
+  /// Gives the keys to one of its controls. A window that is visible becomes active by it.
   void Set_Focus(Control& control);
   [[nodiscard]] platform::Window_Handle Handle() const;
 
@@ -73,23 +77,28 @@ class Form : public Property_Owner, public Font_Properties {
   [[nodiscard]] Backend& System() const { return backend_; }
   [[nodiscard]] double Twips_Per_Unit(Axis axis) const;
 
-  /// The topmost visible control at a place of the client area, in twips; nullptr if there is none.
-  [[nodiscard]] Control* Control_At(double x, double y) const;
+  // For the input.
 
-  /// Input, from the backend: x and y in twips within the client area. The control that got the press gets the moves
-  /// and the release that follow it.
-  void Mouse_Down(Mouse_Button button, double x, double y);
-  void Mouse_Move(Mouse_Button button, double x, double y);
-  void Mouse_Up(Mouse_Button button, double x, double y);
-  void Double_Click(Mouse_Button button, double x, double y);
-  /// The mouse went to another window before the release: a menu or a box came up. No release will follow.
-  void Mouse_Lost() { captured_ = nullptr; }
-  void Key_Up(int code) const;
-  /// The keys of a dialog: say whether there was a default (cancel) button to press.
-  bool Enter_Pressed();
-  bool Escape_Pressed();
-  void Activated() const;
-  void Deactivated() const;
+  /// Makes it the active window, if it is there.
+  void Activate();
+  void Capture_Mouse();
+  void Release_Mouse();
+
+  /// Whether the user can reach the window: it is enabled, and no message box is open.
+  [[nodiscard]] bool Accepts_Input() const { return Enabled && !backend_.Input.Modal_Open(); }
+  void Input_Allowed_Changed() { Changed(Aspect::Enabled); }
+
+  /// The control that gets the keys, nullptr if none does at this moment; and the one that had them last.
+  [[nodiscard]] Control* Focused() const;
+  [[nodiscard]] const Control* Last_Focus() const { return focus_; }
+  void Keep_Focus(Control* control);
+  void Show_Focus();
+
+  /// The button that the Enter key presses: the one that has the focus, else the default one; nullptr if there is none.
+  [[nodiscard]] Command_Button* Enter_Button() const;
+  /// The button that the Escape key presses.
+  [[nodiscard]] Command_Button* Escape_Button() const;
+  [[nodiscard]] bool Unloading() const { return unloading_; }
 
   /// The close box: On_Close if it is set, otherwise the window unloads.
   void Close_Requested();
@@ -101,13 +110,13 @@ class Form : public Property_Owner, public Font_Properties {
 
  private:
   [[nodiscard]] Font Own_Font() const;
-  bool Press_Button(Property<bool> Command_Button::*kind);
+  [[nodiscard]] Command_Button* Button_Marked(Property<bool> Command_Button::*mark) const;
+  void Enter_Button_Changed(Control* button);
 
   Backend& backend_;
   std::vector<Control*> controls_;
   std::unique_ptr<Form_Peer> peer_;
-  Control* captured_ = nullptr;
-  bool clicking_ = false;  // the next release is a click; that of a double-click isn't
+  Control* focus_ = nullptr;
   bool visible_ = false;
   bool unloading_ = false;
 };

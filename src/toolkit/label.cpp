@@ -17,11 +17,25 @@ void Label::Changed(Aspect aspect) {
   if (new_size || aspect == Aspect::Caption || aspect == Aspect::Appearance) Size_To_Text();
 }
 
+const std::string* Label::Caption_With_Accelerator() const { return Mnemonics ? &Caption() : nullptr; }
+
+/// The caption without its marks: of "&&" one "&" is drawn, and of an "&" before another character none.
+std::string Label::Shown_Text() const {
+  const std::string& caption = Caption;
+  if (!Mnemonics) return caption;
+  std::string shown;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    shown += caption[i];
+  }
+  return shown;
+}
+
 void Label::Size_To_Text() {
   sized_for_width_ = In_Twips().Width;
   const Font font{FontName, FontSize, FontBold, FontItalic, FontUnderline};
   Bounds sized = In_Twips();
-  sized.Height = Window.System().Text_Height(font, Caption(), sized.Width);
+  sized.Height = Window.System().Text_Height(font, Shown_Text(), sized.Width);
   sized_height_ = sized.Height;
   Place(sized);
 }

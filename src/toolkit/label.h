@@ -35,8 +35,11 @@ class Label : public Control, public Font_Properties {
 
   void Changed(Aspect aspect) override;
 
+  [[nodiscard]] const std::string* Caption_With_Accelerator() const override;
+
  private:
   void Size_To_Text();
+  [[nodiscard]] std::string Shown_Text() const;
 
   double sized_for_width_ = 0, sized_height_ = 0;  // twips
 };

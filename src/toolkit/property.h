@@ -17,6 +17,7 @@ enum class Aspect {
   Tool_Tip,
   Selection,
   Default_Button,
+  Held,
   Pointer,
 };
 

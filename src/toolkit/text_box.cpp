@@ -34,6 +34,12 @@ void Text_Box::Changed(Aspect aspect) {
   if (aspect == Aspect::Caption && On_Change) On_Change();
 }
 
+void Text_Box::Focused_By_Key() {
+  SelStart.Keep(0);
+  SelLength.Keep(static_cast<int>(Text().size()));
+  Control::Changed(Aspect::Selection);
+}
+
 void Text_Box::Keep_Selection_Inside() {
   const int size = static_cast<int>(Text().size());
   SelStart.Keep(std::clamp(SelStart(), 0, size));

@@ -25,6 +25,11 @@ class Text_Box : public Control, public Font_Properties {
 
   void Changed(Aspect aspect) override;
 
+  [[nodiscard]] bool Takes_Focus() const override { return true; }
+
+  /// Selects the whole text, as in every dialog.
+  void Focused_By_Key() override;
+
  private:
   void Keep_Selection_Inside();
 };

@@ -22,9 +22,9 @@ bool Tahoma_Exists(toolkit::Backend& backend) { return backend.Font_Given_For("T
 
 Frm_Balloon::Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Arrangement& arrangement,
                          state::Calendar_State& calendar, const Balloon_Calls& calls)
-    : Window(backend, "frmBalloon"), lblTitle(Window, "lblTitle"), imgDisplayIcon(Window, "imgDisplayIcon"),
-      imgIconXP(Window, "imgIconXP", 1), lblText(Window, "lblText"), backend_(backend), screen_(screen),
-      arrangement_(arrangement), calendar_(calendar), calls_(calls),
+    : Window(backend, "frmBalloon", toolkit::Form_Border::None, &arrangement.Main_Frm), lblTitle(Window, "lblTitle"),
+      imgDisplayIcon(Window, "imgDisplayIcon"), imgIconXP(Window, "imgIconXP", 1), lblText(Window, "lblText"),
+      backend_(backend), screen_(screen), arrangement_(arrangement), calendar_(calendar), calls_(calls),
       close_timer_(backend, "Close_Timer", close_interval) {
   Make_Controls();
   Tie_Events();

@@ -1,4 +1,7 @@
 // What the system tells a window, decoded into the input functions of its form.
+#include <algorithm>
+
+#include "toolkit/input.h"
 #include "win32/form_window.h"
 
 namespace win32 {
@@ -9,8 +12,6 @@ constexpr UINT check_tip = WM_APP;  // tips or places have changed under a point
 constexpr UINT lost_activity = WM_APP + 1;
 
 using toolkit::Mouse_Button;
-
-int Bit(Mouse_Button button) { return static_cast<int>(button); }
 
 Mouse_Button Held_Button(WPARAM keys) {
   if ((keys & MK_LBUTTON) != 0) return Mouse_Button::Left;
@@ -38,13 +39,9 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
   switch (message) {
     case WM_PAINT: Paint(); return true;
     case WM_ERASEBKGND: result = 1; return true;
-    case WM_KEYUP:
-    case WM_SYSKEYUP:
-    case WM_SYSKEYDOWN: return Key_Message(message, w);
     case WM_COMMAND:
     case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORBTN:
-    case DM_GETDEFID: return Child_Message(message, w, l, result);
+    case WM_CTLCOLORBTN: return Child_Message(message, w, l, result);
     case WM_SETCURSOR: return Set_Pointer(w, l);
     case WM_CAPTURECHANGED: Capture_Changed(reinterpret_cast<HWND>(l)); return true;
     case WM_ACTIVATE: return Active_Changed(LOWORD(w) != WA_INACTIVE);
@@ -59,88 +56,81 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
       else tip_.Remove();
       return true;
     }
-    case lost_activity: form_.Deactivated(); return true;
+    case lost_activity: form_.System().Input.Tell_Of_Lost_Activity(); return true;
     default: return false;
   }
 }
 
 bool Form_Window::Mouse_Message(UINT message, WPARAM w, LPARAM l) {
   const POINT at = Point_Of(l);
+  POINT on_screen = at;
+  ClientToScreen(Window(), &on_screen);
+  const bool moved = on_screen.x != context_.Pointer.x || on_screen.y != context_.Pointer.y;
+  context_.Pointer = on_screen;
   if (message == WM_MOUSEMOVE) Follow_Tip(at);
   tip_.Relay(Window(), message, w, l);
-  const double x = at.x * context_.Scale.X, y = at.y * context_.Scale.Y;
+  toolkit::Control* const over = Control_At(form_, context_.Scale, at);
+  toolkit::Input& input = form_.System().Input;
+  toolkit::Mouse_Event event{Mouse_Button::Left, at.x * context_.Scale.X, at.y * context_.Scale.Y, (w & MK_SHIFT) != 0};
+  if (message == WM_RBUTTONDOWN || message == WM_RBUTTONUP || message == WM_RBUTTONDBLCLK)
+    event.Button = Mouse_Button::Right;
+  if (message == WM_MBUTTONDOWN || message == WM_MBUTTONUP || message == WM_MBUTTONDBLCLK)
+    event.Button = Mouse_Button::Middle;
   switch (message) {
-    case WM_MOUSEMOVE: form_.Mouse_Move(Held_Button(w), x, y); return true;
+    case WM_MOUSEMOVE:
+      event.Button = Held_Button(w);
+      if (moved) input.Move(form_, over, event);
+      return true;
     case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK: return Press(Mouse_Button::Left, message == WM_LBUTTONDBLCLK, x, y);
     case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK: return Press(Mouse_Button::Right, message == WM_RBUTTONDBLCLK, x, y);
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONDBLCLK: return Press(Mouse_Button::Middle, message == WM_MBUTTONDBLCLK, x, y);
-    case WM_LBUTTONUP: return Release(Mouse_Button::Left, x, y);
-    case WM_RBUTTONUP: return Release(Mouse_Button::Right, x, y);
-    case WM_MBUTTONUP: return Release(Mouse_Button::Middle, x, y);
+    case WM_MBUTTONDOWN: input.Press(form_, over, event); return true;
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDBLCLK: input.Press_Twice(form_, over, event); return true;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP: input.Release(form_, over, event); return true;
     default: return false;
   }
 }
 
-bool Form_Window::Press(Mouse_Button button, bool twice, double x, double y) {
-  pressed_ |= Bit(button);
-  SetCapture(Window());
-  // Below another program's window a press makes that one active, unless it is told otherwise.
-  if (GetActiveWindow() != Window()) SetActiveWindow(Window());
-  if (children_.Empty() && GetFocus() != Window()) SetFocus(Window());
-  if (twice) form_.Double_Click(button, x, y);
-  else form_.Mouse_Down(button, x, y);
-  return true;
-}
-
-bool Form_Window::Release(Mouse_Button button, double x, double y) {
-  // A press that was made elsewhere, or that a menu took, isn't released here.
-  if ((pressed_ & Bit(button)) == 0) return true;
-  pressed_ &= ~Bit(button);
-  if (pressed_ == 0) ReleaseCapture();
-  form_.Mouse_Up(button, x, y);
-  return true;
-}
-
 void Form_Window::Capture_Changed(HWND to) {
-  if (pressed_ == 0 || to == Window()) return;
-  pressed_ = 0;
-  form_.Mouse_Lost();
-}
-
-bool Form_Window::Key_Message(UINT message, WPARAM w) {
-  if (message != WM_KEYUP && w != VK_F10) return false;
-  // F10 is a key like the others: the system would look for a menu bar.
-  if (message != WM_SYSKEYDOWN) form_.Key_Up(static_cast<int>(w));
-  return true;
+  toolkit::Input& input = form_.System().Input;
+  if (to != Window() && input.Mouse_Window() == &form_) input.Mouse_Lost();
 }
 
 bool Form_Window::Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
-  if (message == WM_COMMAND) {
-    children_.Command(reinterpret_cast<HWND>(l), HIWORD(w));
+  if (message != WM_COMMAND) {
+    result = Ground(reinterpret_cast<HDC>(w));
     return true;
   }
-  if (message == DM_GETDEFID) {
-    result = children_.Default_Id();
-    return true;
-  }
-  result = children_.Ground(reinterpret_cast<HDC>(w), To_Colour(form_.BackColor));
+  const auto sender = std::find_if(natives_.begin(), natives_.end(),
+                                   [=](const auto& native) { return native->Window() == reinterpret_cast<HWND>(l); });
+  if (sender != natives_.end()) (*sender)->Command(HIWORD(w));
   return true;
 }
 
-bool Form_Window::Active_Changed(bool active) {
-  if (!active) {
-    children_.Remember_Focus(Window());
-    // The handler may unload the window, which must not go while the system is changing the active one.
-    PostMessageA(Window(), lost_activity, 0, 0);
-    return false;
+/// The brush behind a native control, which shows its form's ground.
+LRESULT Form_Window::Ground(HDC context) {
+  const COLORREF colour = To_Colour(form_.BackColor);
+  if (!ground_ || colour != ground_colour_) {
+    ground_.Reset(CreateSolidBrush(colour));
+    ground_colour_ = colour;
   }
-  const bool placed = children_.Restore_Focus();
-  if (!placed) SetFocus(Window());
-  form_.Activated();
-  return true;
+  SetBkColor(context, colour);
+  return reinterpret_cast<LRESULT>(ground_.Get());
+}
+
+bool Form_Window::Active_Changed(bool active) {
+  toolkit::Input& input = form_.System().Input;
+  if (active) {
+    input.Activity_Came(form_);
+    return true;
+  }
+  input.Activity_Went(form_);
+  // The form may unload by it, which must not happen while the system is changing the active window.
+  PostMessageA(Window(), lost_activity, 0, 0);
+  return false;
 }
 
 /// A place that the user gave the window is the form's; one that the form gave it is kept to the fraction of a pixel.
@@ -165,24 +155,28 @@ void Form_Window::Tips_Changed() {
 }
 
 void Form_Window::Follow_Tip(POINT at) {
-  const toolkit::Control* const control =
-      form_.Control_At((at.x + 0.5) * context_.Scale.X, (at.y + 0.5) * context_.Scale.Y);
+  const toolkit::Control* const control = Control_At(form_, context_.Scale, at);
   if (control == nullptr || control->ToolTipText().empty()) tip_.Remove();
   else tip_.Watch(Window(), context_.Scale.Pixels(control->In_Twips()), control->ToolTipText());
 }
 
-bool Form_Window::Take_Key(MSG& message) {
-  if (children_.Empty()) return false;
-  if (message.message == WM_KEYDOWN) {
-    const HWND focus = GetFocus();
-    switch (message.wParam) {
-      case VK_RETURN: return children_.Press_Button(focus) || form_.Enter_Pressed();
-      case VK_ESCAPE: return form_.Escape_Pressed();
-      case VK_TAB: return children_.Next(Window(), GetKeyState(VK_SHIFT) < 0);
-      default: break;
-    }
+bool Form_Window::Take_Key(const MSG& message) {
+  toolkit::Input& input = form_.System().Input;
+  const int code = static_cast<int>(message.wParam);
+  const toolkit::Key key{code, GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0, GetKeyState(VK_MENU) < 0};
+  // F10 is a key like the others: the system would look for a menu bar.
+  switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      // The system hides the marks of focus and accelerators until the keys are used.
+      if (code == VK_TAB)
+        SendMessageA(Window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+      return input.Key_Down(form_, key) || code == VK_F10;
+    case WM_SYSCHAR: return input.Accelerator(form_, static_cast<char>(code));
+    case WM_KEYUP:
+    case WM_SYSKEYUP: input.Key_Up(form_, key); return code == VK_F10;
+    default: return false;
   }
-  return IsDialogMessageA(Window(), &message) != 0;
 }
 
 }  // namespace win32

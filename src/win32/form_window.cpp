@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "toolkit/input.h"
+
 namespace win32 {
 
 namespace {
@@ -27,6 +29,16 @@ HRGN Make_Region(const std::vector<toolkit::Pixel_Rect>& rects) {
 /// A window without a frame has none: nobody sees it, and other instances look for this one by its title alone.
 const char* Title_Of(const toolkit::Form& form) {
   return form.Border == toolkit::Form_Border::None ? "" : form.Caption().c_str();
+}
+
+/// The window that this one stays in front of. The shell's window, to which the calendar belongs as a part of the desktop,
+/// isn't burdened with windows of ours.
+HWND Owner_Of(const toolkit::Form& form) {
+  if (form.Owner == nullptr || !form.Owner->Loaded()) return nullptr;
+  const HWND owner = To_Window(form.Owner->Handle());
+  const auto ancestor = Find_Function<HWND WINAPI(HWND, UINT)>(GetModuleHandleA("user32.dll"), "GetAncestor");
+  const bool embedded = ancestor != nullptr && ancestor(owner, GA_PARENT) != GetDesktopWindow();
+  return embedded ? nullptr : owner;
 }
 
 /// The painting of what of a window is marked.
@@ -54,6 +66,15 @@ Frame_Style Style_Of(toolkit::Form_Border border) {
   return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
 }
 
+toolkit::Control* Control_At(const toolkit::Form& form, const Scale& scale, POINT pixel) {
+  const auto& controls = form.Controls();
+  const auto hit = std::find_if(controls.rbegin(), controls.rend(), [&](const toolkit::Control* control) {
+    const RECT place = scale.Pixels(control->In_Twips());
+    return control->Visible && PtInRect(&place, pixel) != 0;
+  });
+  return hit == controls.rend() ? nullptr : *hit;
+}
+
 void Form_Window::Register_Class(HINSTANCE instance) {
   WNDCLASSA description = {};
   if (GetClassInfoA(instance, class_name, &description) != 0) return;
@@ -66,12 +87,11 @@ void Form_Window::Register_Class(HINSTANCE instance) {
 }
 
 Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
-    : form_(form), context_(context), place_(Wanted_Place()), children_(context.Fonts, context.Scale),
-      tip_(context.Common_Controls) {
+    : form_(form), context_(context), place_(Wanted_Place()), tip_(context.Common_Controls) {
   Register_Class(context.Instance);
   const Frame_Style frame = Style_Of(form.Border);
   window_.Reset(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
-                                place_.right - place_.left, place_.bottom - place_.top, nullptr, nullptr,
+                                place_.right - place_.left, place_.bottom - place_.top, Owner_Of(form), nullptr,
                                 context.Instance, nullptr));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (form.Border == toolkit::Form_Border::Fixed_Dialog) {
@@ -81,21 +101,24 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
       SendMessageA(Window(), WM_SETICON, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(icon));
     }
   }
-  if (!form.Enabled) EnableWindow(Window(), FALSE);
-  for (toolkit::Control* const control : form.Controls())
-    if (!children_.Add(Window(), *control)) Painted(*control);
+  if (!form.Accepts_Input()) EnableWindow(Window(), FALSE);
+  for (toolkit::Control* const control : form.Controls()) {
+    if (auto native = Make_Native_Control(Window(), *control, context)) natives_.push_back(std::move(native));
+    else Painted(*control);
+  }
   context.Windows.Add(*this);
 }
 
 Form_Window::~Form_Window() {
   context_.Windows.Remove(*this);
-  // The window hears no more of what is done to it, and the handlers of the form with it.
+  // Detach first: destroying the window must not call back into a form that is going away.
   SetWindowLongPtrA(Window(), GWLP_USERDATA, 0);
 }
 
 void Form_Window::Show(bool activate) {
   shown_ = true;
   Settle();
+  context_.Note_Pointer(form_.System().Input);
   constexpr UINT stay = SWP_NOMOVE | SWP_NOSIZE;
   SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, stay | SWP_SHOWWINDOW | (activate ? 0 : SWP_NOACTIVATE));
   if (!activate) return;
@@ -105,18 +128,33 @@ void Form_Window::Show(bool activate) {
 
 void Form_Window::Hide() {
   shown_ = false;
+  context_.Note_Pointer(form_.System().Input);
   ShowWindow(Window(), SW_HIDE);
+}
+
+// Below another program's window a press makes that one active, and gives it the keys, unless it is told otherwise.
+void Form_Window::Activate() {
+  if (GetActiveWindow() != Window()) SetActiveWindow(Window());
+  const HWND focus = GetFocus();
+  if (focus != Window() && (focus == nullptr || IsChild(Window(), focus) == 0)) Focus(form_.Focused());
 }
 
 bool Form_Window::Minimised() const { return IsIconic(Window()) != 0; }
 
-void Form_Window::Focus(toolkit::Control& control) { children_.Focus(control); }
+void Form_Window::Focus(toolkit::Control* control) {
+  const Native_Control* const native = control != nullptr ? Native(*control) : nullptr;
+  SetFocus(native != nullptr ? native->Window() : Window());
+}
+
+void Form_Window::Release_Mouse() {
+  if (GetCapture() == Window()) ReleaseCapture();
+}
 
 void Form_Window::Form_Changed(toolkit::Aspect aspect) {
   using enum toolkit::Aspect;
   if (aspect == Bounds) moved_ = true;
   if (aspect == Caption) SetWindowTextA(Window(), Title_Of(form_));
-  if (aspect == Enabled) EnableWindow(Window(), form_.Enabled);
+  if (aspect == Enabled) EnableWindow(Window(), form_.Accepts_Input());
   if (aspect == Appearance) Repaint_All();
   POINT at;
   if (aspect == Pointer && GetCursorPos(&at) != 0 && (GetCapture() == Window() || WindowFromPoint(at) == Window()))
@@ -158,11 +196,13 @@ void Form_Window::Settle_Place() {
   // An outline follows the size as a whole.
   if (!same_size && form_.Outline_Corner != 0) Repaint_All();
   place_ = wanted;
+  context_.Note_Pointer(form_.System().Input);
   SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
 void Form_Window::Settle_Region() {
+  context_.Note_Pointer(form_.System().Input);
   // From here on the region is the system's.
   SetWindowRgn(Window(), new_region_.Take(), TRUE);
   Repaint_All();
@@ -201,9 +241,15 @@ Painted_Control* Form_Window::Painted(const toolkit::Control& control) {
   return &painted;
 }
 
+Native_Control* Form_Window::Native(const toolkit::Control& control) const {
+  const auto found = std::find_if(natives_.begin(), natives_.end(),
+                                  [&](const auto& native) { return &native->Control() == &control; });
+  return found == natives_.end() ? nullptr : found->get();
+}
+
 void Form_Window::Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) {
-  if (children_.Changed(control, aspect)) return;
-  if (Painted_Control* const painted = Painted(control)) Painted_Changed(*painted, aspect);
+  if (Native_Control* const native = Native(control)) native->Changed(aspect);
+  else if (Painted_Control* const painted = Painted(control)) Painted_Changed(*painted, aspect);
 }
 
 void Form_Window::Painted_Changed(Painted_Control& painted, toolkit::Aspect aspect) {

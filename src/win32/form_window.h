@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "win32/native_children.h"
+#include "toolkit/form.h"
+#include "win32/native_control.h"
 #include "win32/tip_window.h"
-#include "win32/window_context.h"
 
 namespace win32 {
 
@@ -16,6 +16,9 @@ struct Frame_Style {
   DWORD Style, Extended;
 };
 Frame_Style Style_Of(toolkit::Form_Border border);
+
+/// The topmost visible control of the form at a pixel of its client area: the one that is painted there.
+toolkit::Control* Control_At(const toolkit::Form& form, const Scale& scale, POINT pixel);
 
 class Form_Window final : public toolkit::Form_Peer {
  public:
@@ -26,12 +29,15 @@ class Form_Window final : public toolkit::Form_Peer {
 
   void Show(bool activate) override;
   void Hide() override;
+  void Activate() override;
   void Form_Changed(toolkit::Aspect aspect) override;
   void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override;
   void Set_Region(const toolkit::Region& region) override;
   void Set_Round_Region(int width, int height, int corner) override;
   [[nodiscard]] bool Minimised() const override;
-  void Focus(toolkit::Control& control) override;
+  void Focus(toolkit::Control* control) override;
+  void Capture_Mouse() override { SetCapture(Window()); }
+  void Release_Mouse() override;
   [[nodiscard]] platform::Window_Handle Handle() const override { return To_Handle(Window()); }
 
   [[nodiscard]] HWND Window() const { return window_.Get(); }
@@ -40,21 +46,19 @@ class Form_Window final : public toolkit::Form_Peer {
   /// Brings the window to where the form says, cuts it to its region and marks for painting what has changed.
   void Settle();
 
-  /// A key on its way to this window or to one in it. Says whether it went another way.
-  bool Take_Key(MSG& message);
+  /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this window:
+  /// touch no member after calling one.**
+  bool Take_Key(const MSG& message);
 
  private:
   static void Register_Class(HINSTANCE instance);
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
 
-  // What a message means; each says whether that was all, or the system has its share still to do. A handler may end
-  // this window: none touches a member behind the call of one.
+  // What a message means. Each returns true if the message is handled. **A handler may destroy this window: touch no member
+  // after calling one.**
   bool Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
   bool Mouse_Message(UINT message, WPARAM w, LPARAM l);
-  bool Key_Message(UINT message, WPARAM w);
   bool Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
-  bool Press(toolkit::Mouse_Button button, bool twice, double x, double y);
-  bool Release(toolkit::Mouse_Button button, double x, double y);
   void Capture_Changed(HWND to);
   bool Active_Changed(bool active);
   void Place_Changed(const WINDOWPOS& place);
@@ -71,6 +75,8 @@ class Form_Window final : public toolkit::Form_Peer {
   void Painted_Changed(Painted_Control& painted, toolkit::Aspect aspect);
   void Mark(Painted_Control& painted);
   void Mark(const RECT& place);
+  [[nodiscard]] Native_Control* Native(const toolkit::Control& control) const;
+  LRESULT Ground(HDC context);
   void Tips_Changed();
   void Follow_Tip(POINT at);
 
@@ -79,7 +85,9 @@ class Form_Window final : public toolkit::Form_Peer {
   Window_Owner window_;
   RECT place_{};  // pixels, in the parent
   std::vector<Painted_Control> painted_;
-  Native_Children children_;
+  std::vector<std::unique_ptr<Native_Control>> natives_;
+  Brush_Owner ground_;  // behind the native controls
+  COLORREF ground_colour_ = 0;
   Tip_Window tip_;
   // What is to be settled. The marks are rectangles in pixels of the client area.
   bool moved_ = false, cut_ = false, all_marked_ = false;
@@ -89,7 +97,6 @@ class Form_Window final : public toolkit::Form_Peer {
   bool round_ = true;       // or there is none yet
   bool shown_ = false;
   bool tip_check_posted_ = false;
-  int pressed_ = 0;  // the mouse buttons that went down here, as the toolkit numbers them
 };
 
 }  // namespace win32

@@ -35,39 +35,24 @@ platform::Box_Answer Answer_Of(int result) {
   }
 }
 
-/// Keeps the other windows of the program from the user while a box is open: the system sees to the owner alone.
-class Others_Disabled {
- public:
-  Others_Disabled(const Window_List& windows, HWND owner) {
-    for (const Form_Window* const window : windows.All())
-      if (window->Window() != owner && EnableWindow(window->Window(), FALSE) == 0)
-        disabled_.push_back(window->Window());
-  }
-  Others_Disabled(const Others_Disabled&) = delete;
-  Others_Disabled& operator=(const Others_Disabled&) = delete;
-  ~Others_Disabled() {
-    for (const HWND window : disabled_) EnableWindow(window, TRUE);
-  }
-
- private:
-  std::vector<HWND> disabled_;
-};
-
 }  // namespace
 
 platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std::string& text, platform::Box_Icon icon,
                                              platform::Box_Buttons buttons) {
   context_.Guard.Throw_If_Ending();
   context_.Windows.Settle();
-  ReleaseCapture();
   const HWND owner = GetActiveWindow();
+  toolkit::Form* const active = backend_.Active_Form();
   int result = 0;
   {
-    const Others_Disabled others(context_.Windows, owner);
+    // The system itself disables the owner, and enables it before it hands the activity back.
+    const toolkit::Input::Modal modal(backend_.Input, active);
     result = MessageBoxA(owner, text.c_str(), title.c_str(),
                          Flag_Of(icon) | Flag_Of(buttons) | MB_SETFOREGROUND | MB_TASKMODAL);
   }
   context_.Guard.Throw_If_Ending();
+  // To a window that was disabled meanwhile it hands nothing back.
+  if (backend_.Input.Is_There(active) && active->Visible()) active->Activate();
   return Answer_Of(result);
 }
 

@@ -28,8 +28,8 @@ struct Win32_Platform::Parts {
   User_Locale Locale;
   Disk_Files Files;
   Message_Loop Loop{Context};
-  Win32_Message_Box Message_Box{Context};
-  Win32_Popup_Menu Popup_Menu{Context};
+  Win32_Message_Box Message_Box{Context, Backend};
+  Win32_Popup_Menu Popup_Menu{Context, Backend.Input};
   Registry_Store Store;
   Primary_Screen Screen{Context.Scale};
   Shell_Windows Shell;

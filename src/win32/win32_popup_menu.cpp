@@ -32,7 +32,7 @@ int Win32_Popup_Menu::Track(platform::Window_Handle owner, const std::vector<pla
       SetMenuItemBitmaps(menu.Get(), static_cast<UINT>(item.Number), MF_BYCOMMAND, picture, picture);
   }
   // The release of the button that opened the menu belongs to the menu.
-  ReleaseCapture();
+  input_.Take_Mouse();
   POINT at = {};
   GetCursorPos(&at);
   constexpr UINT flags = TPM_RETURNCMD | TPM_NONOTIFY | TPM_CENTERALIGN | TPM_RIGHTBUTTON;

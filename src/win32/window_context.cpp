@@ -1,5 +1,6 @@
 #include "win32/window_context.h"
 
+#include "toolkit/input.h"
 #include "win32/form_window.h"
 
 namespace win32 {
@@ -14,6 +15,10 @@ Form_Window* Window_List::Around(HWND window) const {
   for (Form_Window* const form : windows_)
     if (form->Window() == window || IsChild(form->Window(), window) != 0) return form;
   return nullptr;
+}
+
+void Window_Context::Note_Pointer(const toolkit::Input& input) {
+  if (input.Mouse_Window() == nullptr) GetCursorPos(&Pointer);
 }
 
 }  // namespace win32

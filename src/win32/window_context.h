@@ -7,6 +7,10 @@
 #include "win32/painter.h"
 #include "win32/scale.h"
 
+namespace toolkit {
+class Input;
+}
+
 namespace win32 {
 
 class Form_Window;
@@ -42,6 +46,13 @@ struct Window_Context {
   win32::Painter Painter{Fonts, Pictures};
   Library_Owner Common_Controls;  ///< loaded with the first tip
   Window_List Windows;
+
+  /// Where the pointer was last seen, in pixels of the screen. The system reports a move whenever windows change under a
+  /// pointer at rest: what comes from the same place moved nothing.
+  POINT Pointer{};
+
+  /// Before a window changes under the pointer. While a control has the mouse its moves all count.
+  void Note_Pointer(const toolkit::Input& input);
 };
 
 }  // namespace win32

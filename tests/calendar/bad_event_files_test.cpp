@@ -27,7 +27,7 @@ class Bad_Event_Files : public ::testing::Test, public Program_World {
   }
 
   std::string Press(int key) {
-    Platform.Loop.Dispatch([&] { Window("Main_Frm")->Key_Up(key); });
+    Platform.Loop.Dispatch([&] { Platform.Backend().Input.Key_Up(*Window("Main_Frm"), {key}); });
     return Messages();
   }
 };

@@ -96,7 +96,7 @@ TEST_F(Edit_Frm_Test, Each_way_of_closing_tells_of_activity_once) {
   Editor.Ok_Btn.User_Click();
   EXPECT_EQ(Idle_Restarts, 3);
   Editor.Window.Show();
-  Editor.Window.Escape_Pressed();
+  Editor.Window.System().Input.Key_Down(Editor.Window, {toolkit::key_escape});
   EXPECT_EQ(Idle_Restarts, 4);
   Editor.Window.Unload();
   EXPECT_EQ(Idle_Restarts, 4);

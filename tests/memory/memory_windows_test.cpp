@@ -3,6 +3,7 @@
 
 #include "memory/memory_platform.h"
 #include "toolkit/form.h"
+#include "toolkit/text_box.h"
 
 using memory::Memory_Platform;
 using toolkit::Form;
@@ -154,20 +155,22 @@ TEST_F(Memory_Windows_Test, A_window_remembers_what_it_was_told) {
   EXPECT_FALSE(peer.Region());
   Main.Set_Region(toolkit::Region({{0, 0, 5, 5}}));
   EXPECT_EQ(peer.Region()->Rects().size(), 1U);
-  toolkit::Label label(Main, "Label");
+  toolkit::Text_Box label(Main, "Label");
   EXPECT_EQ(peer.Focused(), nullptr);
   Main.Set_Focus(label);
+  EXPECT_EQ(peer.Focused(), nullptr) << "not before it is active";
+  Main.Show();
   EXPECT_EQ(peer.Focused(), &label);
   const int changes = peer.Counts().Control_Changes;
-  label.Caption = "x";
-  label.Caption = "x";
+  label.Text = "x";
+  label.Text = "x";
   EXPECT_EQ(peer.Counts().Control_Changes, changes + 1);
   peer.Set_Minimised(true);
   EXPECT_TRUE(Main.Minimised());
 }
 
 TEST_F(Memory_Windows_Test, The_focus_for_a_control_of_another_window_is_a_fault) {
-  Main.Load();
-  toolkit::Label label(Editor, "Label");
-  EXPECT_THROW(Main.Set_Focus(label), std::logic_error);
+  Main.Show();
+  toolkit::Text_Box box(Editor, "Text");
+  EXPECT_THROW(Main.Set_Focus(box), std::logic_error);
 }

@@ -3,11 +3,13 @@
 
 #include <string>
 
+#include "memory/memory_backend.h"
 #include "memory/memory_clock.h"
 #include "memory/memory_files.h"
 #include "memory/memory_message_box.h"
 #include "memory/memory_pictures.h"
 #include "memory/memory_registry.h"
+#include "memory/memory_screen.h"
 #include "memory/memory_store.h"
 #include "memory/memory_wallpaper.h"
 #include "packs/wallpaper_stuff.h"
@@ -38,7 +40,9 @@ struct Pack_World {
   memory::Memory_Clock Clock{Time};
   memory::Memory_Files Files{Time};
   memory::Memory_Loop Loop{Time};
-  memory::Memory_Message_Box Message_Box{Loop};
+  memory::Memory_Screen Screen;
+  memory::Memory_Backend Backend{Time, Loop, Screen};
+  memory::Memory_Message_Box Message_Box{Loop, Backend.Input};
   memory::Memory_Store Store;
   memory::Memory_Registry Registry;
   memory::Memory_Wallpaper Wallpaper{Registry};

@@ -38,9 +38,10 @@ TEST(Player_Test, An_unknown_command_or_a_wrong_number_of_words_stops_all_before
 
 TEST(Player_Test, What_makes_no_sense_stops_at_its_line) {
   for (const char* const line :
-       {"now 2004-02-30 00:00:00", "locale fr-FR", "wait x", "key F13", "key Tab", "press Box_Lbl(0) up", "deny HKCU 1",
-        "reg HKXX a b", "state Nothing", "show Main_Frm.Nothing", "show Main_Frm.Text", "show Box_Lbl(0).Text",
-        "answer Perhaps", "answer OK before 1", "choose x", "type Box_Lbl(0) x", "press Box_Lbl(0) left 5", "shell x"})
+       {"now 2004-02-30 00:00:00", "locale fr-FR", "wait x", "key F13", "key Ctrl+Nothing", "choose 1 before 2",
+        "press Box_Lbl(0) up", "deny HKCU 1", "reg HKXX a b", "state Nothing", "show Main_Frm.Nothing",
+        "show Main_Frm.Text", "show Box_Lbl(0).Text", "answer Perhaps", "answer OK before 1", "choose x",
+        "type Box_Lbl(0) x", "press Box_Lbl(0) left 5", "shell x"})
     EXPECT_EQ(Line_Of_Error("start\n" + std::string(line)), 2) << line;
 }
 

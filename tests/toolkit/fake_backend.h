@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "toolkit/backend.h"
@@ -24,6 +25,7 @@ inline std::string In_Words(toolkit::Aspect aspect) {
     case toolkit::Aspect::Tool_Tip: return "tool tip";
     case toolkit::Aspect::Selection: return "selection";
     case toolkit::Aspect::Default_Button: return "default button";
+    case toolkit::Aspect::Held: return "held";
     case toolkit::Aspect::Pointer: return "pointer";
   }
   return "?";
@@ -46,7 +48,7 @@ class Fake_Backend : public toolkit::Backend {
 
   std::unique_ptr<toolkit::Form_Peer> Make_Peer(toolkit::Form& form) override {
     Told.push_back("make " + form.Name);
-    return std::make_unique<Peer>(*this);
+    return std::make_unique<Peer>(*this, form);
   }
   void Start_Timer(toolkit::Timer& timer) override { Told.push_back("start " + timer.Name); }
   void Stop_Timer(toolkit::Timer& timer) override { Told.push_back("stop " + timer.Name); }
@@ -78,14 +80,22 @@ class Fake_Backend : public toolkit::Backend {
  private:
   class Peer : public toolkit::Form_Peer {
    public:
-    explicit Peer(Fake_Backend& backend) : backend_(backend) { ++backend_.Windows; }
+    Peer(Fake_Backend& backend, toolkit::Form& form) : backend_(backend), form_(form) { ++backend_.Windows; }
     ~Peer() override {
       --backend_.Windows;
+      if (backend_.Active == &form_) backend_.Active = nullptr;
       backend_.Told.emplace_back("remove");
     }
 
     void Show(bool activate) override { backend_.Told.emplace_back(activate ? "show active" : "show"); }
     void Hide() override { backend_.Told.emplace_back("hide"); }
+    void Activate() override {
+      toolkit::Form* const before = std::exchange(backend_.Active, &form_);
+      if (before == &form_) return;
+      backend_.Told.push_back("activate " + form_.Name);
+      if (before != nullptr) backend_.Input.Activity_Went(*before);
+      backend_.Input.Activity_Came(form_);
+    }
     void Form_Changed(toolkit::Aspect aspect) override { backend_.Told.push_back("form " + In_Words(aspect)); }
     void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override {
       backend_.Told.push_back(control.Name + ' ' + In_Words(aspect));
@@ -98,11 +108,16 @@ class Fake_Backend : public toolkit::Backend {
                               std::to_string(corner));
     }
     [[nodiscard]] bool Minimised() const override { return backend_.Minimised; }
-    void Focus(toolkit::Control& control) override { backend_.Told.push_back("focus " + control.Name); }
+    void Focus(toolkit::Control* control) override {
+      backend_.Told.push_back("focus " + (control != nullptr ? control->Name : "window"));
+    }
+    void Capture_Mouse() override { backend_.Told.emplace_back("capture"); }
+    void Release_Mouse() override { backend_.Told.emplace_back("release"); }
     [[nodiscard]] platform::Window_Handle Handle() const override { return 4711; }
 
    private:
     Fake_Backend& backend_;
+    toolkit::Form& form_;
   };
 };
 

@@ -4,10 +4,10 @@
 
 #include "tests/toolkit/fake_backend.h"
 #include "toolkit/command_button.h"
+#include "toolkit/text_box.h"
 
 using toolkit::Form;
 using toolkit::Form_Border;
-using toolkit::Label;
 using toolkit::Region;
 using toolkit::Scale_Unit;
 
@@ -248,12 +248,10 @@ TEST(Form, Stands_in_the_middle_of_the_screen_when_told_to) {
   EXPECT_EQ(form.Window.Top(), 4000.0);
 }
 
-TEST(Form, Passes_its_region_and_the_focus_to_a_window_that_is_there) {
+TEST(Form, Passes_its_region_to_a_window_that_is_there) {
   Loaded_Form form;
-  Label label(form.Window, "A_Lbl");
   form.Window.Set_Region(Region({{0, 0, 1, 1}, {2, 0, 3, 1}}));
-  form.Window.Set_Focus(label);
-  EXPECT_EQ(form.Backend.Take(), (Words{"region of 2", "focus A_Lbl"}));
+  EXPECT_EQ(form.Backend.Take(), (Words{"region of 2"}));
   form.Window.Set_Round_Region(30, 20, 5);
   EXPECT_EQ(form.Backend.Take(), Words{"round region 30 20 5"});
   EXPECT_EQ(form.Window.Handle(), 4711U);
@@ -264,11 +262,11 @@ TEST(Form, Passes_its_region_and_the_focus_to_a_window_that_is_there) {
 TEST(Form, Bears_all_requests_without_a_window) {
   Fake_Backend backend;
   Form form(backend, "Edit_Frm");
-  Label label(form, "A_Lbl");
+  toolkit::Text_Box box(form, "A_Txt");
   backend.Minimised = true;
   form.Set_Region(Region());
   form.Set_Round_Region(30, 20, 5);
-  form.Set_Focus(label);
+  form.Set_Focus(box);
   EXPECT_FALSE(form.Minimised());
   EXPECT_EQ(form.Handle(), 0U);
   EXPECT_EQ(backend.Take(), Words{});
@@ -287,12 +285,16 @@ TEST(Form, Measures_texts_in_its_own_font) {
 
 TEST(Form, Reports_that_it_became_active_or_inactive) {
   Loaded_Form form;
-  form.Window.Activated();
-  form.Window.Deactivated();
+  toolkit::Input& input = form.Backend.Input;
+  input.Activity_Came(form.Window);
+  input.Activity_Went(form.Window);
+  input.Tell_Of_Lost_Activity();
   Words heard;
   form.Window.On_Activate = [&] { heard.emplace_back("active"); };
   form.Window.On_Deactivate = [&] { heard.emplace_back("inactive"); };
-  form.Window.Activated();
-  form.Window.Deactivated();
+  input.Activity_Came(form.Window);
+  input.Activity_Went(form.Window);
+  EXPECT_EQ(heard, Words{"active"});
+  input.Tell_Of_Lost_Activity();
   EXPECT_EQ(heard, (Words{"active", "inactive"}));
 }

@@ -25,7 +25,10 @@ void Play_Answer(World& world, const Words& words) {
   world.Platform.Message_Box.Prepare(answer, words.size() == 3 ? To_Micros(words[2]) : 0);
 }
 
-void Play_Choose(World& world, const Words& words) { world.Platform.Menu.Prepare(To_Whole(words[0])); }
+void Play_Choose(World& world, const Words& words) {
+  if (words.size() > 1 && (words.size() != 3 || words[1] != "after")) throw Cannot_Play("choose wants N [after S]");
+  world.Platform.Menu.Prepare(To_Whole(words[0]), words.size() == 3 ? To_Micros(words[2]) : 0);
+}
 
 void Play_Pick(World& world, const Words& words) {
   if (words[0] == "cancel") world.Picks.emplace_back();
@@ -36,7 +39,7 @@ void Play_Pick(World& world, const Words& words) {
 
 std::span<const Entry> Answer_Commands() {
   static constexpr std::array<Entry, 3> entries{
-      {{"answer", 1, 3, Play_Answer}, {"choose", 1, 1, Play_Choose}, {"pick", 1, 1, Play_Pick}}};
+      {{"answer", 1, 3, Play_Answer}, {"choose", 1, 3, Play_Choose}, {"pick", 1, 1, Play_Pick}}};
   return entries;
 }
 

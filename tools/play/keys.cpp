@@ -12,50 +12,73 @@ namespace play {
 
 namespace {
 
-constexpr int enter = 13;
-constexpr int escape = 27;
-constexpr int before_f1 = 111;
+using memory::Typed_Key;
 
-/// A key by its virtual key code, and the text that it types, if any.
-struct Key {
-  int code;
-  std::string_view typed;
+struct Named_Key {
+  std::string_view name;
+  Typed_Key key;
 };
 
-Key Key_Of(const std::string& name) {
-  if (name == "Enter") return {enter, "\r\n"};
-  if (name == "Escape") return {escape, {}};
-  if (name.size() == 1) return {static_cast<unsigned char>(basic::Upper_Case(name).front()), name};
-  if (name.starts_with('F')) {
-    const int number = To_Whole(std::string_view(name).substr(1));
-    if (number >= 1 && number <= 12) return {before_f1 + number, {}};
+constexpr std::array<Named_Key, 12> named_keys{{{"Enter", {{toolkit::key_enter}, "\r\n"}},
+                                                {"Escape", {{toolkit::key_escape}, {}}},
+                                                {"Space", {{toolkit::key_space}, " "}},
+                                                {"Tab", {{toolkit::key_tab}, {}}},
+                                                {"Up", {{toolkit::key_up}, {}}},
+                                                {"Down", {{toolkit::key_down}, {}}},
+                                                {"Left", {{toolkit::key_left}, {}}},
+                                                {"Right", {{toolkit::key_right}, {}}},
+                                                {"Home", {{toolkit::key_home}, {}}},
+                                                {"End", {{toolkit::key_end}, {}}},
+                                                {"PageUp", {{toolkit::key_page_up}, {}}},
+                                                {"PageDown", {{toolkit::key_page_down}, {}}}}};
+
+bool Is_Letter_Or_Digit(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z'); }
+
+/// A key without what is held beside it. `name` outlives the key.
+Typed_Key Plain_Key(std::string_view name) {
+  for (const Named_Key& named : named_keys)
+    if (name == named.name) return named.key;
+  if (name.size() == 1) {
+    const char capital = basic::Upper_Case(name).front();
+    // Which key a sign is on depends on the keyboard; the program asks for none of them.
+    return {{Is_Letter_Or_Digit(capital) ? capital : 0}, name};
   }
-  throw Cannot_Play("no such key: " + name);
+  if (name.starts_with('F')) {
+    const int number = To_Whole(name.substr(1));
+    if (number >= 1 && number <= 12) return {{toolkit::key_f1 + number - 1}, {}};
+  }
+  throw Cannot_Play("no such key: " + std::string(name));
 }
 
-/// The text box of the window that has the focus and can take what is typed.
-toolkit::Text_Box* Focused_Text_Box(World& world, const toolkit::Form& window) {
-  const auto* const peer = world.Platform.Windows().Peer_Of(window);
-  auto* const box = peer == nullptr ? nullptr : dynamic_cast<toolkit::Text_Box*>(peer->Focused());
-  return box != nullptr && box->Visible && box->Enabled ? box : nullptr;
+bool Take_Off(std::string_view& name, std::string_view prefix) {
+  if (!name.starts_with(prefix) || name.size() == prefix.size()) return false;
+  name.remove_prefix(prefix.size());
+  return true;
 }
 
-void Press_Key(World& world, const Target& target, const Key& key) {
-  toolkit::Form& window = *target.Window;
-  if (key.code == enter && window.Enter_Pressed()) return;
-  if (key.code == escape && window.Escape_Pressed()) return;
-  if (!key.typed.empty())
-    if (toolkit::Text_Box* const box = Focused_Text_Box(world, window)) box->User_Character(key.typed);
-  if (world.Is_There(&window, nullptr)) window.Key_Up(key.code);
+Typed_Key Key_Of(std::string_view name) {
+  toolkit::Key held;
+  for (bool any = true; any;) {
+    const bool shift = Take_Off(name, "Shift+"), ctrl = Take_Off(name, "Ctrl+"), alt = Take_Off(name, "Alt+");
+    held.Shift |= shift;
+    held.Ctrl |= ctrl;
+    held.Alt |= alt;
+    any = shift || ctrl || alt;
+  }
+  Typed_Key key = Plain_Key(name);
+  held.Code = key.Key.Code;
+  key.Key = held;
+  return key;
 }
 
 void Play_Key(World& world, const Words& words) {
-  const Key key = Key_Of(words[0]);
+  const Typed_Key key = Key_Of(words[0]);
   const toolkit::Form* const active = world.Platform.Windows().Active();
   const auto target = Reach(world, active == nullptr ? "Main_Frm" : active->Name);
   if (!target) return;
   world.Run([&] {
-    if (Bring_Up(world, *target)) Press_Key(world, *target, key);
+    if (active == nullptr) world.Platform.Windows().Activate(target->Window);
+    if (Can_Be_Reached(world, *target)) world.Platform.User.Press_Key(*target->Window, key);
   });
 }
 
@@ -64,13 +87,7 @@ void Play_Type(World& world, const Words& words) {
   if (!target) return;
   auto* const box = dynamic_cast<toolkit::Text_Box*>(target->Control);
   if (box == nullptr) throw Cannot_Play("no text box: " + words[0]);
-  world.Run([&] {
-    if (!Bring_Up(world, *target)) return;
-    target->Window->Set_Focus(*box);
-    box->SelStart.Keep(static_cast<int>(words[1].size()));
-    box->SelLength.Keep(0);
-    box->User_Text(words[1]);
-  });
+  world.Run([&] { world.Platform.User.Type(*box, words[1]); });
 }
 
 void Play_Select(World& world, const Words& words) {

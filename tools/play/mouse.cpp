@@ -7,20 +7,15 @@
 #include "commands.h"
 #include "target.h"
 #include "text_form.h"
-#include "toolkit/check_box.h"
-#include "toolkit/command_button.h"
-#include "toolkit/image.h"
 
 namespace play {
 
 namespace {
 
 using toolkit::Mouse_Button;
+using toolkit::Mouse_Event;
 
-struct Mouse_Event {
-  Mouse_Button button = Mouse_Button::Left;
-  double x = 0, y = 0;  // twips within the control
-};
+constexpr Mouse_Event left_click{Mouse_Button::Left};
 
 std::optional<Mouse_Button> Button_Of(const std::string& word) {
   constexpr std::array<std::pair<std::string_view, Mouse_Button>, 3> names{
@@ -39,49 +34,22 @@ Mouse_Event Event_Of(const Words& words) {
   return {*button, To_Number(words[2]), To_Number(words[3])};
 }
 
-bool Takes_Focus(toolkit::Control& control) {
-  return dynamic_cast<toolkit::Label*>(&control) == nullptr && dynamic_cast<toolkit::Image*>(&control) == nullptr;
-}
-
-/// What a click does to a control of its kind.
-void Click_On(const Target& target) {
-  if (target.Control == nullptr) {
-    if (target.Window->On_Click) target.Window->On_Click();
-  } else if (auto* const box = dynamic_cast<toolkit::Check_Box*>(target.Control)) {
-    box->User_Click();
-  } else if (auto* const button = dynamic_cast<toolkit::Command_Button*>(target.Control)) {
-    button->User_Click();
-  } else if (target.Control->On_Click) {
-    target.Control->On_Click();
-  }
-}
-
-void Press(World& world, const Target& target, const Mouse_Event& event) {
-  if (!Bring_Up(world, target)) return;
-  world.Pressed = target.Control;
-  if (target.Control == nullptr) return;
-  if (Takes_Focus(*target.Control)) target.Window->Set_Focus(*target.Control);
-  if (target.Control->On_Mouse_Down) target.Control->On_Mouse_Down(event.button, event.x, event.y);
+void Press(World& world, const Target& target, const Mouse_Event& event, bool twice = false) {
+  if (!Can_Be_Reached(world, target)) return;
+  auto& user = world.Platform.User;
+  if (twice) user.Press_Twice(*target.Window, target.Control, event);
+  else user.Press(*target.Window, target.Control, event);
 }
 
 void Release(World& world, const Target& target, const Mouse_Event& event) {
-  const bool was_pressed = std::exchange(world.Pressed, nullptr) == target.Control;
-  if (!Can_Be_Reached(world, target)) return;
-  bool inside = true;
-  if (target.Control != nullptr) {
-    const toolkit::Bounds& place = target.Control->In_Twips();
-    inside = toolkit::Bounds{0, 0, place.Width, place.Height}.Contains(event.x, event.y);
-    if (target.Control->On_Mouse_Up) target.Control->On_Mouse_Up(event.button, event.x, event.y);
-  }
-  const bool clicked = was_pressed && inside && event.button == Mouse_Button::Left;
-  if (clicked && Can_Be_Reached(world, target)) Click_On(target);
+  if (world.Is_There(target.Window, target.Control)) world.Platform.User.Release(*target.Window, target.Control, event);
 }
 
-void Double(World& world, const Target& target) {
-  if (!Can_Be_Reached(world, target) || target.Control == nullptr) return;
-  // The release that follows is no second click.
-  world.Pressed = nullptr;
-  if (target.Control->On_Double_Click) target.Control->On_Double_Click();
+/// The place of a move or a release. A control that has the mouse sees it also over what can't be reached.
+std::optional<Target> Find_Place(const World& world, const std::string& name) {
+  if (world.Platform.Windows().Mouse() != nullptr)
+    if (auto target = Find_Target(world, name)) return target;
+  return Reach(world, name);
 }
 
 /// A row of events that happen one right after the other.
@@ -123,7 +91,7 @@ void Play_Press(World& world, const Words& words) {
 
 void Play_Release(World& world, const Words& words) {
   const Mouse_Event event = Event_Of(words);
-  if (const auto target = Reach(world, words[0])) world.Run([&] { Release(world, *target, event); });
+  if (const auto target = Find_Place(world, words[0])) world.Run([&] { Release(world, *target, event); });
 }
 
 void Play_Hold(World& world, const Words& words) {
@@ -142,37 +110,39 @@ void Play_Hold(World& world, const Words& words) {
 
 void Play_Move(World& world, const Words& words) {
   Words rest(words.begin() + 1, words.end());
-  Mouse_Event event{Mouse_Button::None, 0, 0};
-  if (!rest.empty() && rest.back() == "shift") rest.pop_back();
+  Mouse_Event event;
+  if (!rest.empty() && rest.back() == "shift") {
+    event.Shift = true;
+    rest.pop_back();
+  }
   if (!rest.empty()) {
     if (const auto button = Button_Of(rest.front())) {
-      event.button = *button;
+      event.Button = *button;
       rest.erase(rest.begin());
     }
   }
   if (!rest.empty() && rest.size() != 2) throw Cannot_Play("move wants CONTROL [BUTTON] [X Y] [shift]");
   if (!rest.empty()) {
-    event.x = To_Number(rest[0]);
-    event.y = To_Number(rest[1]);
+    event.X = To_Number(rest[0]);
+    event.Y = To_Number(rest[1]);
   }
-  const auto target = Reach(world, words[0]);
-  if (!target || target->Control == nullptr) return;
-  world.Run([&] {
-    if (target->Control->On_Mouse_Move) target->Control->On_Mouse_Move(event.button, event.x, event.y);
-  });
+  const auto target = Find_Place(world, words[0]);
+  if (target) world.Run([&] { world.Platform.User.Move(*target->Window, target->Control, event); });
 }
 
 void Play_Click(World& world, const Words& words) {
   const auto target = Reach(world, words[0]);
   if (!target) return;
-  Gesture(world, {[&] { Press(world, *target, {}); }, [&] { Release(world, *target, {}); }}).Play();
+  Gesture(world, {[&] { Press(world, *target, left_click); }, [&] { Release(world, *target, left_click); }}).Play();
 }
 
 void Play_Double_Click(World& world, const Words& words) {
   const auto target = Reach(world, words[0]);
   if (!target) return;
-  const auto release = [&] { Release(world, *target, {}); };
-  Gesture(world, {[&] { Press(world, *target, {}); }, release, [&] { Double(world, *target); }, release}).Play();
+  const auto release = [&] { Release(world, *target, left_click); };
+  Gesture(world, {[&] { Press(world, *target, left_click); }, release, [&] { Press(world, *target, left_click, true); },
+                  release})
+      .Play();
 }
 
 }  // namespace

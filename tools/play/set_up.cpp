@@ -87,12 +87,14 @@ void Play_Icons(World& world, const Words& words) {
 
 void Play_Instance(World& world, const Words& words) { world.Platform.Instances.Add(words[0]); }
 
+void Play_Window(World& world, const Words& words) { world.Platform.Instances.Add_Foreign(words[0]); }
+
 void Play_Start(World& world, const Words& /*words*/) { world.Start(); }
 
 }  // namespace
 
 std::span<const Entry> World_Commands() {
-  static constexpr std::array<Entry, 18> entries{{{"now", 2, 2, Play_Now},
+  static constexpr std::array<Entry, 19> entries{{{"now", 2, 2, Play_Now},
                                                   {"locale", 1, 1, Play_Locale},
                                                   {"screen", 2, 2, Play_Screen},
                                                   {"workarea", 4, 4, Play_Work_Area},
@@ -109,6 +111,7 @@ std::span<const Entry> World_Commands() {
                                                   {"shell", 1, 1, Play_Shell},
                                                   {"icons", 2, 2, Play_Icons},
                                                   {"instance", 1, 1, Play_Instance},
+                                                  {"window", 1, 1, Play_Window},
                                                   {"start", 0, 0, Play_Start}}};
   return entries;
 }

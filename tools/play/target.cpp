@@ -55,7 +55,7 @@ std::optional<Target> Find_Target(const World& world, const std::string& name) {
 
 bool Can_Be_Reached(const World& world, const Target& target) {
   if (!world.Is_There(target.Window, target.Control)) return false;
-  if (!target.Window->Visible() || !target.Window->Enabled) return false;
+  if (!target.Window->Visible() || !target.Window->Accepts_Input()) return false;
   return target.Control == nullptr || (target.Control->Visible && target.Control->Enabled);
 }
 
@@ -64,12 +64,6 @@ std::optional<Target> Reach(const World& world, const std::string& name) {
   if (target && Can_Be_Reached(world, *target)) return target;
   world.Print("refused " + name);
   return std::nullopt;
-}
-
-bool Bring_Up(World& world, const Target& target) {
-  if (!Can_Be_Reached(world, target)) return false;
-  world.Platform.Windows().Activate(target.Window);
-  return Can_Be_Reached(world, target);
 }
 
 }  // namespace play

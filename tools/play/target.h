@@ -25,7 +25,4 @@ bool Can_Be_Reached(const World& world, const Target& target);
 /// The same as Find_Target for a user's action: prints that it is refused if the target can't be reached.
 std::optional<Target> Reach(const World& world, const std::string& name);
 
-/// The user turns to the target's window. Says whether the target can still be reached then.
-bool Bring_Up(World& world, const Target& target);
-
 }  // namespace play

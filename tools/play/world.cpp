@@ -71,10 +71,9 @@ void World::Run(const std::function<void()>& act) {
   Settle();
 }
 
-/// The program has come to rest. If it is told to quit or has lost its main window, it is over.
+/// The program has come to rest. If it is told to quit, it is over.
 void World::Settle() {
-  const bool headless = program_ != nullptr && Find_Window("Main_Frm") == nullptr;
-  if (!Platform.Loop.Quitting() && !headless) return;
+  if (!Platform.Loop.Quitting()) return;
   const std::optional<int> failure = Platform.Loop.Failure();
   Take_Down();
   Platform.Loop.Reset();
@@ -96,11 +95,7 @@ void World::Wait(std::int64_t micros) {
 }
 
 bool World::Is_There(const toolkit::Form* window, const toolkit::Control* control) const {
-  const auto windows = Platform.Windows().From_The_Front();
-  if (std::find(windows.begin(), windows.end(), window) == windows.end()) return false;
-  if (control == nullptr) return true;
-  const auto& controls = window->Controls();
-  return std::find(controls.begin(), controls.end(), control) != controls.end();
+  return Platform.Windows_And_Timers.Input.Is_There(window, control);
 }
 
 }  // namespace play

@@ -31,9 +31,6 @@ class World {
   /// The files for the file dialogs to come; nothing for a cancelled one.
   std::deque<std::optional<std::string>> Picks;
 
-  /// The control that a mouse button was last pressed on and not released since, to be compared alone.
-  const toolkit::Control* Pressed = nullptr;
-
   void Print(const std::string& line) const { print_(line); }
 
   /// Starts the program, in place of one that runs. Within a handler of the program that one is unwound first.

@@ -1,0 +1,45 @@
+// The user's hands on the in-memory window system: the pointer and the keys, reported as a window system reports them. Where
+// the system has controls of its own that work by themselves, such as the text box, it does what they would do.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "memory/memory_windows.h"
+#include "toolkit/input.h"
+#include "toolkit/text_box.h"
+
+namespace memory {
+
+/// A key with the text that it types, if any: "\r\n" for Enter, " " for the space key.
+struct Typed_Key {
+  toolkit::Key Key;
+  std::string_view Text;
+};
+
+class Memory_User {
+ public:
+  Memory_User(Memory_Windows& windows, toolkit::Input& input) : windows_(windows), input_(input) {}
+
+  /// The pointer over a control of a window (nullptr: over its ground), at a place in twips from the control's top left, of
+  /// the ground from the window's. A press is meant for the control, wherever the place lies.
+  void Press(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
+  void Press_Twice(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
+  void Move(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
+  void Release(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
+
+  /// A key is pressed in a window and released in the one that is active then. Throws std::logic_error for a key that the
+  /// in-memory text box doesn't know.
+  void Press_Key(toolkit::Form& window, const Typed_Key& key);
+
+  /// The user replaces the whole text of a box.
+  void Type(toolkit::Text_Box& box, const std::string& text);
+
+ private:
+  void Key_In_Text_Box(toolkit::Text_Box& box, const Typed_Key& key);
+
+  Memory_Windows& windows_;
+  toolkit::Input& input_;
+};
+
+}  // namespace memory

@@ -1,0 +1,170 @@
+#include "toolkit/input.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/form.h"
+
+namespace toolkit {
+
+namespace {
+
+int Bit(Mouse_Button button) { return static_cast<int>(button); }
+
+/// The same place as seen from a control's top left.
+Mouse_Event Within(const Control& control, Mouse_Event event) {
+  event.X -= control.In_Twips().Left;
+  event.Y -= control.In_Twips().Top;
+  return event;
+}
+
+}  // namespace
+
+void Input::Press(Form& form, Control* over, const Mouse_Event& event) { Begin_Press(form, over, event, false); }
+
+void Input::Press_Twice(Form& form, Control* over, const Mouse_Event& event) {
+  const bool double_click = event.Button == Mouse_Button::Left && (over == nullptr || over->Double_Clicks());
+  Begin_Press(form, over, event, double_click);
+}
+
+void Input::Begin_Press(Form& form, Control* over, const Mouse_Event& event, bool twice) {
+  const bool joins = held_ != 0 && (held_ & Bit(event.Button)) == 0 && pressed_window_ == &form;
+  if (joins) {
+    over = pressed_;
+  } else {
+    if (!Bring_Up(form, over)) return;
+    if (over != nullptr && over->Takes_Focus() && event.Button == Mouse_Button::Left) Move_Focus(form, over);
+    if (!Is_There(&form, over)) return;
+  }
+  Hold(form, over, event.Button, twice);
+  if (over == nullptr || !over->Enabled) return;
+  if (twice) {
+    if (over->On_Double_Click) over->On_Double_Click();
+  } else if (over->On_Mouse_Down) {
+    over->On_Mouse_Down(Within(*over, event));
+  }
+}
+
+/// Makes the window active. Returns whether the user can still reach it and the control after that.
+bool Input::Bring_Up(Form& form, const Control* over) {
+  form.Activate();
+  Tell_Of_Lost_Activity();
+  return Is_There(&form, over) && form.Accepts_Input();
+}
+
+void Input::Hold(Form& form, Control* over, Mouse_Button button, bool twice) {
+  const bool joins = pressed_window_ == &form && pressed_ == over && (held_ & Bit(button)) == 0;
+  if (!joins) Drop_Press();
+  pressed_window_ = &form;
+  pressed_ = over;
+  held_ |= Bit(button);
+  form.Capture_Mouse();
+  if (button != Mouse_Button::Left) return;
+  may_click_ = !twice;
+  if (over != nullptr && over->Enabled) over->Show_Held(true);
+}
+
+void Input::Move(Form& form, Control* over, const Mouse_Event& event) {
+  Control* target = over;
+  if (held_ != 0) {
+    target = pressed_;
+    if (target != nullptr && may_click_ && (held_ & Bit(Mouse_Button::Left)) != 0) target->Show_Held(over == target);
+  } else if (!form.Accepts_Input()) {
+    return;
+  }
+  if (target != nullptr && target->Enabled && target->On_Mouse_Move) target->On_Mouse_Move(Within(*target, event));
+}
+
+void Input::Release(Form& form, Control* over, const Mouse_Event& event) {
+  if (pressed_window_ != &form || (held_ & Bit(event.Button)) == 0) return;
+  Control* const target = pressed_;
+  held_ &= ~Bit(event.Button);
+  const bool click = event.Button == Mouse_Button::Left && std::exchange(may_click_, false) && over == target;
+  if (target != nullptr && event.Button == Mouse_Button::Left) target->Show_Held(false);
+  if (held_ == 0) {
+    Drop_Press();
+    form.Release_Mouse();
+  }
+  if (target == nullptr) {
+    if (click && form.On_Click) form.On_Click();
+    return;
+  }
+  if (!target->Enabled) return;
+  if (target->On_Mouse_Up) target->On_Mouse_Up(Within(*target, event));
+  if (click && Is_There(&form, target)) target->User_Click();
+}
+
+void Input::Drop_Press() {
+  if (pressed_ != nullptr && Is_There(pressed_window_, pressed_)) pressed_->Show_Held(false);
+  pressed_window_ = nullptr;
+  pressed_ = nullptr;
+  held_ = 0;
+  may_click_ = false;
+}
+
+void Input::Mouse_Lost() { Drop_Press(); }
+
+void Input::Take_Mouse() {
+  Form* const form = Mouse_Window();
+  Drop_Press();
+  if (form != nullptr) form->Release_Mouse();
+}
+
+void Input::Activity_Came(Form& form) {
+  std::erase(went_, &form);
+  if (form.Focused() == nullptr) Focus_Refused(form);
+  else Move_Focus(form, form.Focused());
+  if (Is_There(&form) && form.On_Activate) form.On_Activate();
+}
+
+void Input::Activity_Went(Form& form) {
+  if (Is_There(&form) && !form.Unloading()) went_.push_back(&form);
+}
+
+void Input::Tell_Of_Lost_Activity() {
+  while (!went_.empty()) {
+    const Form& form = *went_.front();
+    went_.erase(went_.begin());
+    if (form.On_Deactivate) form.On_Deactivate();
+  }
+}
+
+void Input::Remove(Form& form) {
+  std::erase(forms_, &form);
+  std::erase(went_, &form);
+  if (pressed_window_ == &form) Drop_Press();
+}
+
+void Input::Remove(const Control& control) {
+  if (pressed_ != &control) return;
+  // The press goes on without it: what is left of it reaches nothing.
+  pressed_ = nullptr;
+  may_click_ = false;
+}
+
+bool Input::Is_There(const Form* form) const { return std::find(forms_.begin(), forms_.end(), form) != forms_.end(); }
+
+bool Input::Is_There(const Form* form, const Control* control) const {
+  if (!Is_There(form)) return false;
+  if (control == nullptr) return true;
+  const auto& controls = form->Controls();
+  return std::find(controls.begin(), controls.end(), control) != controls.end();
+}
+
+Input::Modal::Modal(Input& input, const Form* owner) : input_(input) {
+  input_.Take_Mouse();
+  ++input_.modals_;
+  Tell_Windows(owner);
+}
+
+Input::Modal::~Modal() {
+  --input_.modals_;
+  Tell_Windows(nullptr);
+}
+
+void Input::Modal::Tell_Windows(const Form* but) const {
+  for (Form* const form : input_.forms_)
+    if (form != but) form->Input_Allowed_Changed();
+}
+
+}  // namespace toolkit

@@ -1,0 +1,563 @@
+// The one road of input: what a press, a release, a key and a change of activity mean to windows and controls.
+#include "toolkit/input.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/toolkit/fake_backend.h"
+#include "toolkit/check_box.h"
+#include "toolkit/command_button.h"
+#include "toolkit/text_box.h"
+
+using toolkit::Check_Box;
+using toolkit::Command_Button;
+using toolkit::Form;
+using toolkit::Input;
+using toolkit::Label;
+using toolkit::Mouse_Button;
+using toolkit::Mouse_Event;
+using toolkit::Text_Box;
+
+namespace {
+
+constexpr Mouse_Event Left(double x, double y) { return {Mouse_Button::Left, x, y}; }
+constexpr Mouse_Event Right(double x, double y) { return {Mouse_Button::Right, x, y}; }
+constexpr Mouse_Event Middle(double x, double y) { return {Mouse_Button::Middle, x, y}; }
+
+std::string In_Words(const char* what, const toolkit::Control& control, const Mouse_Event& event) {
+  return control.Name + ' ' + what + ' ' + std::to_string(static_cast<int>(event.Button)) + " at " +
+         std::to_string(static_cast<int>(event.X)) + ' ' + std::to_string(static_cast<int>(event.Y));
+}
+
+class Input_Test : public ::testing::Test, public Loaded_Form {
+ protected:
+  Input_Test() {
+    A.Place({100, 100, 200, 200});
+    B.Place({400, 400, 200, 200});
+    Listen(A);
+    Listen(B);
+    Window.On_Click = [this] { Heard.emplace_back("window click"); };
+    Window.Show(false);
+    Window.Activate();
+    Backend.Take();
+  }
+
+  void Listen(toolkit::Control& control) {
+    control.On_Mouse_Down = [&](const Mouse_Event& e) { Heard.push_back(In_Words("down", control, e)); };
+    control.On_Mouse_Move = [&](const Mouse_Event& e) { Heard.push_back(In_Words("move", control, e)); };
+    control.On_Mouse_Up = [&](const Mouse_Event& e) { Heard.push_back(In_Words("up", control, e)); };
+    control.On_Click = [&] { Heard.push_back(control.Name + " click"); };
+    control.On_Double_Click = [&] { Heard.push_back(control.Name + " double click"); };
+  }
+
+  void Press(toolkit::Control* over, const Mouse_Event& event) { In.Press(Window, over, event); }
+  void Press_Twice(toolkit::Control* over, const Mouse_Event& event) { In.Press_Twice(Window, over, event); }
+  void Move(toolkit::Control* over, const Mouse_Event& event) { In.Move(Window, over, event); }
+  void Release(toolkit::Control* over, const Mouse_Event& event) { In.Release(Window, over, event); }
+  bool Key_Down(int code) { return In.Key_Down(Window, {code}); }
+  void Press_Key(int code) {
+    Key_Down(code);
+    In.Key_Up(Window, {code});
+  }
+
+  Words Take() {
+    Words taken;
+    taken.swap(Heard);
+    return taken;
+  }
+
+  Words Heard;
+  Input& In = Backend.Input;
+  Label A{Window, "A"}, B{Window, "B"};
+};
+
+}  // namespace
+
+TEST_F(Input_Test, A_press_goes_to_the_control_under_it_in_twips_within_it) {
+  Press(&A, Left(110, 120));
+  Press(&B, Left(450, 460));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "B down 1 at 50 60"}));
+}
+
+TEST_F(Input_Test, A_press_may_lie_beside_its_control_by_the_rounding_of_a_pixel) {
+  Press(&A, Left(97, 120));
+  EXPECT_EQ(Take(), Words{"A down 1 at -3 20"});
+}
+
+TEST_F(Input_Test, A_move_without_a_press_goes_to_the_control_under_it_with_the_button_reported) {
+  Move(&A, Left(110, 120));
+  Move(&B, {Mouse_Button::None, 450, 460});
+  Move(nullptr, {Mouse_Button::None, 50, 50});
+  EXPECT_EQ(Take(), (Words{"A move 1 at 10 20", "B move 0 at 50 60"}));
+}
+
+TEST_F(Input_Test, The_pressed_control_gets_the_moves_and_the_release_wherever_they_are) {
+  Press(&A, Left(110, 120));
+  EXPECT_EQ(Backend.Take(), Words{"capture"});
+  Move(&B, Left(450, 450));
+  Move(nullptr, Left(0, 0));
+  Release(&B, Left(450, 450));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "A move 1 at 350 350", "A move 1 at -100 -100", "A up 1 at 350 350"}));
+  EXPECT_EQ(Backend.Take(), Words{"release"});
+  Move(&B, {Mouse_Button::None, 450, 450});
+  EXPECT_EQ(Take(), Words{"B move 0 at 50 50"}) << "the release let the mouse go";
+}
+
+TEST_F(Input_Test, A_second_button_goes_to_the_pressed_control_and_the_mouse_stays_until_the_last_is_up) {
+  Press(&A, Left(110, 120));
+  Press(&B, Right(450, 450));
+  Release(&B, Left(450, 450));
+  EXPECT_EQ(In.Mouse_Window(), &Window);
+  Move(&B, Right(450, 450));
+  Release(&B, Right(450, 450));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "A down 2 at 350 350", "A up 1 at 350 350", "A move 2 at 350 350",
+                           "A up 2 at 350 350"}));
+  EXPECT_EQ(In.Mouse_Window(), nullptr);
+}
+
+TEST_F(Input_Test, The_same_button_again_begins_anew) {
+  Press(&A, Left(110, 120));
+  Press(&B, Left(450, 450));
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "B down 1 at 50 50", "B up 1 at -290 -280"}));
+}
+
+TEST_F(Input_Test, A_release_without_a_press_reaches_nothing) {
+  Release(&A, Left(110, 120));
+  Press(&A, Left(110, 120));
+  Release(&A, Right(110, 120));
+  Release(&A, Left(110, 120));
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "A up 1 at 10 20", "A click"}));
+}
+
+TEST_F(Input_Test, A_left_release_over_the_pressed_control_clicks_it_after_the_release) {
+  Press(&A, Left(110, 120));
+  Release(&A, Left(130, 140));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "A up 1 at 30 40", "A click"}));
+}
+
+TEST_F(Input_Test, A_press_on_one_control_and_a_release_on_another_is_no_click) {
+  Press(&A, Left(110, 120));
+  Release(&B, Left(450, 450));
+  Press(nullptr, Left(0, 0));
+  Release(&A, Left(110, 120));
+  Press(&A, Left(110, 120));
+  Release(nullptr, Left(0, 0));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "A up 1 at 350 350", "A down 1 at 10 20", "A up 1 at -100 -100"}));
+}
+
+TEST_F(Input_Test, Only_the_left_button_clicks_on_controls_and_on_the_bare_ground) {
+  for (const auto& event : {Right(110, 120), Middle(110, 120)}) {
+    Press(&A, event);
+    Release(&A, event);
+    Press(nullptr, event);
+    Release(nullptr, event);
+    const std::string number = std::to_string(static_cast<int>(event.Button));
+    EXPECT_EQ(Take(), (Words{"A down " + number + " at 10 20", "A up " + number + " at 10 20"}));
+  }
+  Press(nullptr, Left(0, 0));
+  Release(nullptr, Left(0, 0));
+  EXPECT_EQ(Take(), Words{"window click"});
+}
+
+TEST_F(Input_Test, A_disabled_control_takes_the_mouse_and_does_nothing_with_it) {
+  A.Enabled = false;
+  Press(&A, Left(110, 120));
+  Move(&A, Left(110, 120));
+  Release(&A, Left(110, 120));
+  Press_Twice(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Input_Test, A_control_disabled_by_its_own_press_gets_no_release) {
+  A.On_Mouse_Down = [this](const Mouse_Event&) { A.Enabled = false; };
+  Press(&A, Left(110, 120));
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Input_Test, A_left_double_click_goes_to_the_control_under_it_and_its_release_is_no_click) {
+  Press_Twice(&B, Left(450, 450));
+  Release(&B, Left(450, 450));
+  Press_Twice(nullptr, Left(50, 50));
+  Release(nullptr, Left(50, 50));
+  EXPECT_EQ(Take(), (Words{"B double click", "B up 1 at 50 50"}));
+}
+
+TEST_F(Input_Test, The_release_of_a_double_click_goes_to_the_same_control) {
+  Press_Twice(&A, Left(110, 120));
+  Release(&B, Left(450, 450));
+  EXPECT_EQ(Take(), (Words{"A double click", "A up 1 at 350 350"}));
+}
+
+TEST_F(Input_Test, A_double_click_of_another_button_is_a_press) {
+  Press_Twice(&A, Right(110, 120));
+  EXPECT_EQ(Take(), Words{"A down 2 at 10 20"});
+}
+
+TEST_F(Input_Test, A_lost_mouse_ends_the_press_without_a_release) {
+  Press(&A, Left(110, 120));
+  In.Mouse_Lost();
+  Move(&B, {Mouse_Button::None, 450, 450});
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "B move 0 at 50 50"}));
+}
+
+TEST_F(Input_Test, A_control_that_goes_while_it_has_the_mouse_hears_no_more) {
+  {
+    Label passing(Window, "Passing");
+    Press(&passing, Left(510, 510));
+  }
+  Move(&A, Left(110, 120));
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{});
+  Move(&A, {Mouse_Button::None, 110, 120});
+  EXPECT_EQ(Take(), Words{"A move 0 at 10 20"});
+}
+
+TEST_F(Input_Test, An_unload_by_the_press_lets_the_mouse_go) {
+  A.On_Mouse_Down = [this](const Mouse_Event&) { Window.Unload(); };
+  Press(&A, Left(110, 120));
+  EXPECT_EQ(In.Mouse_Window(), nullptr);
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Input_Test, A_release_that_unloads_the_window_clicks_nothing) {
+  A.On_Mouse_Up = [this](const Mouse_Event&) { Window.Unload(); };
+  Press(&A, Left(110, 120));
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{"A down 1 at 10 20"});
+}
+
+TEST_F(Input_Test, A_press_makes_its_window_active_before_anything_else) {
+  Form other(Backend, "Tip");
+  other.Show(false);
+  other.Activate();
+  Backend.Take();
+  other.On_Deactivate = [&] {
+    Heard.emplace_back("tip lost it");
+    other.Unload();
+  };
+  Press(&A, Left(110, 120));
+  EXPECT_EQ(Backend.Active, &Window);
+  EXPECT_EQ(Take(), (Words{"tip lost it", "A down 1 at 10 20"}));
+}
+
+TEST_F(Input_Test, A_press_goes_nowhere_if_its_window_goes_while_it_becomes_active) {
+  Form other(Backend, "Tip");
+  other.Show(false);
+  other.Activate();
+  other.On_Deactivate = [&] { Window.Unload(); };
+  Press(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{});
+  EXPECT_EQ(In.Mouse_Window(), nullptr);
+}
+
+TEST_F(Input_Test, A_window_that_went_is_not_told_that_it_lost_the_activity) {
+  Form other(Backend, "Tip");
+  other.Show(false);
+  other.Activate();
+  other.On_Deactivate = [&] { Heard.emplace_back("tip lost it"); };
+  In.Activity_Went(other);
+  other.Unload();
+  In.Tell_Of_Lost_Activity();
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Input_Test, An_owner_becomes_active_when_its_active_window_unloads) {
+  Form owned(Backend, "frmBalloon", toolkit::Form_Border::None, &Window);
+  Form third(Backend, "Edit_Frm");
+  third.Show(false);
+  third.Activate();
+  owned.Show(false);
+  owned.Activate();
+  owned.On_Deactivate = [&] { Heard.emplace_back("told on its way"); };
+  owned.Unload();
+  In.Tell_Of_Lost_Activity();
+  EXPECT_EQ(Backend.Active, &Window);
+  EXPECT_EQ(Take(), Words{});
+  third.Activate();
+  owned.Show(false);
+  owned.Unload();
+  EXPECT_EQ(Backend.Active, &third) << "it wasn't active when it went";
+}
+
+TEST_F(Input_Test, While_a_box_is_open_no_window_takes_input) {
+  Form disabled(Backend, "Edit_Frm");
+  disabled.Enabled = false;
+  disabled.Load();
+  Backend.Take();
+  {
+    const Input::Modal outer(In);
+    EXPECT_EQ(Backend.Take(), (Words{"form enabled", "form enabled"}));
+    const Input::Modal inner(In);
+    Press(&A, Left(110, 120));
+    Move(&A, Left(110, 120));
+    EXPECT_FALSE(Key_Down(toolkit::key_escape));
+    In.Key_Up(Window, {toolkit::key_f5});
+    EXPECT_FALSE(Window.Accepts_Input());
+    Form late(Backend, "frmBalloon");
+    late.Load();
+    EXPECT_FALSE(late.Accepts_Input());
+  }
+  EXPECT_EQ(Take(), Words{});
+  EXPECT_TRUE(Window.Accepts_Input());
+  EXPECT_FALSE(disabled.Accepts_Input());
+}
+
+TEST_F(Input_Test, The_owner_of_a_box_is_left_to_the_system_until_the_box_is_gone) {
+  Form other(Backend, "Edit_Frm");
+  other.Load();
+  Backend.Take();
+  {
+    const Input::Modal modal(In, &Window);
+    EXPECT_EQ(Backend.Take(), Words{"form enabled"});
+    EXPECT_FALSE(Window.Accepts_Input());
+  }
+  EXPECT_EQ(Backend.Take(), (Words{"form enabled", "form enabled"}));
+}
+
+TEST_F(Input_Test, A_box_takes_the_mouse) {
+  Press(&A, Left(110, 120));
+  Backend.Take();
+  { const Input::Modal modal(In); }
+  EXPECT_EQ(Backend.Take().front(), "release");
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{"A down 1 at 10 20"});
+}
+
+TEST_F(Input_Test, The_window_hears_of_a_released_key_by_its_code) {
+  In.Key_Up(Window, {toolkit::key_f1});
+  int heard = 0;
+  Window.On_Key_Up = [&](int code) { heard = code; };
+  In.Key_Up(Window, {toolkit::key_f9, true, true, true});
+  EXPECT_EQ(heard, 120);
+}
+
+TEST_F(Input_Test, Keys_mean_nothing_to_a_window_without_controls_that_take_them) {
+  for (const int code : {toolkit::key_tab, toolkit::key_enter, toolkit::key_escape, toolkit::key_space})
+    EXPECT_FALSE(Key_Down(code));
+  EXPECT_FALSE(In.Accelerator(Window, 'a'));
+  EXPECT_EQ(Window.Focused(), nullptr);
+}
+
+namespace {
+
+class Dialog_Test : public Input_Test {
+ protected:
+  Dialog_Test() {
+    Head.Caption = "&Head";
+    Every.Caption = "Every &year";
+    Ok.Caption = "&OK && more";
+    Close.Caption = "Close && go";
+    Ok.On_Click = [this] { Heard.emplace_back("ok"); };
+    Close.On_Click = [this] { Heard.emplace_back("close"); };
+    Every.On_Click = [this] { Heard.emplace_back("every " + std::to_string(Every.Value())); };
+    Text.Text = "abc";
+    In.Activity_Came(Window);
+    Backend.Take();
+  }
+
+  std::string Focus() { return Window.Focused() == nullptr ? "none" : Window.Focused()->Name; }
+
+  Label Head{Window, "Head_Lbl"};
+  Text_Box Text{Window, "Text_Txt"};
+  Check_Box Every{Window, "Every_Chk"};
+  Command_Button Ok{Window, "Ok_Btn"}, Close{Window, "Close_Btn"};
+};
+
+}  // namespace
+
+TEST_F(Dialog_Test, The_first_control_that_takes_the_focus_has_it_at_the_beginning) { EXPECT_EQ(Focus(), "Text_Txt"); }
+
+TEST_F(Dialog_Test, The_focus_comes_back_with_the_activity) {
+  Window.Set_Focus(Ok);
+  Form other(Backend, "Tip");
+  other.Show(false);
+  other.Activate();
+  Backend.Take();
+  Window.Activate();
+  EXPECT_EQ(Backend.Take(), (Words{"activate Main_Frm", "focus Ok_Btn"}));
+}
+
+TEST_F(Dialog_Test, To_focus_a_control_of_a_visible_window_makes_it_active) {
+  Form other(Backend, "Tip");
+  other.Show(false);
+  other.Activate();
+  Window.Set_Focus(Every);
+  EXPECT_EQ(Backend.Active, &Window);
+  EXPECT_EQ(Focus(), "Every_Chk");
+  other.Activate();
+  Window.Hide();
+  Window.Set_Focus(Ok);
+  EXPECT_EQ(Backend.Active, &other) << "a hidden one only keeps it for later";
+  EXPECT_EQ(Focus(), "Ok_Btn");
+}
+
+TEST_F(Dialog_Test, Tab_goes_round_the_controls_that_can_have_the_focus) {
+  Ok.Enabled = false;
+  Words way;
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_TRUE(Key_Down(toolkit::key_tab));
+    way.push_back(Focus());
+  }
+  EXPECT_EQ(way, (Words{"Every_Chk", "Close_Btn", "Text_Txt", "Every_Chk"}));
+  In.Key_Down(Window, {toolkit::key_tab, true});
+  In.Key_Down(Window, {toolkit::key_tab, true});
+  EXPECT_EQ(Focus(), "Close_Btn");
+  EXPECT_FALSE(In.Key_Down(Window, {toolkit::key_tab, false, false, true})) << "Alt+Tab is the system's";
+  EXPECT_FALSE(In.Key_Down(Window, {toolkit::key_tab, false, true, false}));
+}
+
+TEST_F(Dialog_Test, Tab_selects_the_whole_text_of_a_box_and_a_press_does_not) {
+  Text.SelStart = 1;
+  In.Key_Down(Window, {toolkit::key_tab});
+  In.Key_Down(Window, {toolkit::key_tab, true});
+  EXPECT_EQ(Text.SelStart(), 0);
+  EXPECT_EQ(Text.SelLength(), 3);
+  Text.SelLength = 1;
+  Window.Set_Focus(Ok);
+  Press(&Text, Left(0, 0));
+  EXPECT_EQ(Focus(), "Text_Txt");
+  EXPECT_EQ(Text.SelLength(), 1);
+}
+
+TEST_F(Dialog_Test, Enter_presses_the_button_that_has_the_focus_else_the_default_one) {
+  EXPECT_FALSE(Key_Down(toolkit::key_enter));
+  Ok.Default = true;
+  EXPECT_TRUE(Key_Down(toolkit::key_enter));
+  Window.Set_Focus(Close);
+  EXPECT_TRUE(Key_Down(toolkit::key_enter));
+  Window.Set_Focus(Every);
+  EXPECT_TRUE(Key_Down(toolkit::key_enter));
+  EXPECT_EQ(Take(), (Words{"ok", "close", "ok"}));
+}
+
+TEST_F(Dialog_Test, The_look_of_the_default_button_follows_the_focus) {
+  Ok.Default = true;
+  Backend.Take();
+  Window.Set_Focus(Close);
+  EXPECT_EQ(Backend.Take(), (Words{"Close_Btn default button", "Ok_Btn default button", "focus Close_Btn"}));
+  EXPECT_EQ(Window.Enter_Button(), &Close);
+}
+
+TEST_F(Dialog_Test, Escape_presses_the_cancel_button_whatever_has_the_focus) {
+  EXPECT_FALSE(Key_Down(toolkit::key_escape));
+  Close.Cancel = true;
+  Window.Set_Focus(Ok);
+  EXPECT_TRUE(Key_Down(toolkit::key_escape));
+  EXPECT_EQ(Take(), Words{"close"});
+}
+
+TEST_F(Dialog_Test, A_disabled_or_hidden_default_button_uses_the_key_up_all_the_same) {
+  Ok.Default = true;
+  Ok.Enabled = false;
+  EXPECT_TRUE(Key_Down(toolkit::key_enter));
+  Ok.Enabled = true;
+  Ok.Visible = false;
+  EXPECT_TRUE(Key_Down(toolkit::key_enter));
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Dialog_Test, Bears_a_button_that_unloads_its_window) {
+  Close.Cancel = true;
+  Close.On_Click = [this] { Window.Unload(); };
+  EXPECT_TRUE(Key_Down(toolkit::key_escape));
+  EXPECT_FALSE(Window.Loaded());
+}
+
+TEST_F(Dialog_Test, Space_clicks_a_button_and_turns_a_check_box_over_when_it_goes_up) {
+  Window.Set_Focus(Ok);
+  EXPECT_TRUE(Key_Down(toolkit::key_space));
+  EXPECT_TRUE(Ok.Held());
+  EXPECT_EQ(Take(), Words{});
+  In.Key_Up(Window, {toolkit::key_space});
+  EXPECT_FALSE(Ok.Held());
+  Window.Set_Focus(Every);
+  Press_Key(toolkit::key_space);
+  Press_Key(toolkit::key_space);
+  EXPECT_EQ(Take(), (Words{"ok", "every 1", "every 0"}));
+  Window.Set_Focus(Text);
+  EXPECT_FALSE(Key_Down(toolkit::key_space)) << "a text box types it";
+}
+
+TEST_F(Dialog_Test, Space_clicks_nothing_if_the_focus_moves_on_before_it_goes_up) {
+  Window.Set_Focus(Ok);
+  Key_Down(toolkit::key_space);
+  Key_Down(toolkit::key_tab);
+  In.Key_Up(Window, {toolkit::key_space});
+  EXPECT_FALSE(Ok.Held());
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Dialog_Test, A_left_press_gives_the_focus_and_holds_a_button_while_it_is_over_it) {
+  Press(&Ok, Left(0, 0));
+  EXPECT_EQ(Focus(), "Ok_Btn");
+  EXPECT_TRUE(Ok.Held());
+  Move(&Close, Left(0, 0));
+  EXPECT_FALSE(Ok.Held());
+  Move(&Ok, Left(0, 0));
+  EXPECT_TRUE(Ok.Held());
+  Release(&Ok, Left(0, 0));
+  EXPECT_FALSE(Ok.Held());
+  EXPECT_EQ(Take(), Words{"ok"});
+  Press(&Close, Right(0, 0));
+  EXPECT_EQ(Focus(), "Ok_Btn");
+  EXPECT_FALSE(Close.Held());
+  Release(&Close, Right(0, 0));
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Dialog_Test, A_button_lets_go_when_a_box_takes_the_mouse) {
+  Press(&Ok, Left(0, 0));
+  In.Take_Mouse();
+  EXPECT_FALSE(Ok.Held());
+}
+
+TEST_F(Dialog_Test, The_second_press_of_a_double_click_presses_a_button_again) {
+  Press(&Every, Left(0, 0));
+  Release(&Every, Left(0, 0));
+  Press_Twice(&Every, Left(0, 0));
+  Release(&Every, Left(0, 0));
+  EXPECT_EQ(Take(), (Words{"every 1", "every 0"}));
+}
+
+TEST_F(Dialog_Test, An_accelerator_focuses_and_clicks_its_control_in_either_case) {
+  EXPECT_TRUE(In.Accelerator(Window, 'o'));
+  EXPECT_EQ(Focus(), "Ok_Btn");
+  EXPECT_TRUE(In.Accelerator(Window, 'Y'));
+  EXPECT_EQ(Focus(), "Every_Chk");
+  EXPECT_EQ(Take(), (Words{"ok", "every 1"}));
+  for (const char c : {'&', ' ', 'm', 'g', 'c'}) EXPECT_FALSE(In.Accelerator(Window, c)) << c;
+  Ok.Enabled = false;
+  EXPECT_FALSE(In.Accelerator(Window, 'o'));
+}
+
+TEST_F(Dialog_Test, A_labels_accelerator_leads_to_the_control_after_it) {
+  Window.Set_Focus(Ok);
+  EXPECT_TRUE(In.Accelerator(Window, 'h'));
+  EXPECT_EQ(Focus(), "Text_Txt");
+  Head.Mnemonics = false;
+  EXPECT_FALSE(In.Accelerator(Window, 'h'));
+}
+
+TEST_F(Dialog_Test, The_focus_moves_on_from_a_control_that_can_have_it_no_more) {
+  Window.Set_Focus(Ok);
+  Ok.Enabled = false;
+  EXPECT_EQ(Focus(), "Close_Btn");
+  Close.Visible = false;
+  EXPECT_EQ(Focus(), "Text_Txt");
+  Text.Enabled = false;
+  EXPECT_EQ(Focus(), "Every_Chk");
+  Every.Enabled = false;
+  EXPECT_EQ(Focus(), "none");
+}
+
+TEST_F(Dialog_Test, What_the_system_focuses_by_itself_has_the_focus) {
+  Backend.Take();
+  In.Focus_Came(Close);
+  EXPECT_EQ(Focus(), "Close_Btn");
+  In.Focus_Came(Close);
+  EXPECT_EQ(Backend.Take(), (Words{"Close_Btn default button", "focus Close_Btn"}));
+}
