@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "platform/system.h"
+#include "tests/contract/user.h"
 #include "toolkit/backend.h"
 
 class Service_World {
@@ -13,6 +14,10 @@ class Service_World {
   virtual ~Service_World() = default;
   virtual platform::System& System() = 0;
   virtual toolkit::Backend& Backend() = 0;
+  virtual User& The_User() = 0;
+
+  /// Runs what the program does, as the platform's loop runs it.
+  virtual void Run(const std::function<void()>& work) = 0;
 
   /// Makes a folder in the program folder.
   virtual void Make_Folder(const std::string& name) = 0;

@@ -1,21 +1,148 @@
-// The system's own services for the cases.
+// The system's own services for the cases, and a user with a real mouse and real keys.
+#include <windows.h>
+
 #include <filesystem>
+#include <vector>
 
 #include "tests/contract/service_world.h"
 #include "win32/win32_platform.h"
 
 namespace {
 
+using platform::Box_Answer;
+using toolkit::Control;
+using toolkit::Form;
+using toolkit::Mouse_Button;
+
+constexpr UINT while_open = 500;  // milliseconds
+
+/// What is to be done when a box or a menu has been open for a while. The system serves one at a time.
+std::function<void()> due;
+
+void CALLBACK Do_What_Is_Due(HWND, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(nullptr, timer);
+  const std::function<void()> work = std::exchange(due, nullptr);
+  if (work) work();
+}
+
+BOOL CALLBACK Find_Box(HWND window, LPARAM found) {
+  char window_class[32] = "";
+  GetClassNameA(window, window_class, sizeof window_class);
+  if (std::string(window_class) != "#32770" || IsWindowVisible(window) == 0) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+class System_User : public User {
+ public:
+  explicit System_User(win32::Win32_Platform& platform) : platform_(platform) {}
+
+  void Press(Form& window, Control* control, Mouse_Button button) override {
+    Point_At(window, control);
+    mouse_event(Flag(button, true), 0, 0, 0, 0);
+    Wait(50);
+  }
+  void Move(Form& window, Control* control) override { Point_At(window, control); }
+  void Release(Form& window, Control* control, Mouse_Button button) override {
+    Point_At(window, control);
+    mouse_event(Flag(button, false), 0, 0, 0, 0);
+    Wait(50);
+  }
+  void Press_Key(Pressed_Key key) override {
+    switch (key) {
+      case Pressed_Key::Tab: return Key(VK_TAB);
+      case Pressed_Key::Enter: return Key(VK_RETURN);
+      case Pressed_Key::Escape: return Key(VK_ESCAPE);
+      case Pressed_Key::Space: return Key(VK_SPACE);
+      case Pressed_Key::F9: return Key(VK_F9);
+      case Pressed_Key::Alt_O:
+        keybd_event(VK_MENU, 0x38, 0, 0);
+        Key('O');
+        keybd_event(VK_MENU, 0x38, KEYEVENTF_KEYUP, 0);
+        Wait(50);
+    }
+  }
+  void Type(char letter) override { Key(static_cast<BYTE>(letter - 'a' + 'A')); }
+
+  void Answer(Box_Answer answer, std::function<void()> meanwhile) override {
+    Later([=, meanwhile = std::move(meanwhile)] {
+      meanwhile();
+      HWND box = nullptr;
+      EnumThreadWindows(GetCurrentThreadId(), Find_Box, reinterpret_cast<LPARAM>(&box));
+      PostMessageA(box, WM_COMMAND, Id_Of(answer), 0);
+    });
+  }
+  void Choose(int place, int, std::function<void()> meanwhile) override {
+    Later([=, meanwhile = std::move(meanwhile)] {
+      meanwhile();
+      const HWND any = GetActiveWindow();
+      for (int i = 0; i < place; ++i) PostMessageA(any, WM_KEYDOWN, VK_DOWN, 0);
+      PostMessageA(any, WM_KEYDOWN, place == 0 ? VK_ESCAPE : VK_RETURN, 0);
+    });
+  }
+  void Wait(std::int64_t milliseconds) override {
+    const DWORD start = GetTickCount();
+    for (DWORD gone = 0; gone < milliseconds; gone = GetTickCount() - start)
+      platform_.System().Loop.Wait_Events((milliseconds - gone) * 1000);
+  }
+
+ private:
+  static DWORD Flag(Mouse_Button button, bool down) {
+    if (button == Mouse_Button::Left) return down ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP;
+    if (button == Mouse_Button::Right) return down ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_RIGHTUP;
+    return down ? MOUSEEVENTF_MIDDLEDOWN : MOUSEEVENTF_MIDDLEUP;
+  }
+  static WPARAM Id_Of(Box_Answer answer) {
+    switch (answer) {
+      case Box_Answer::Yes: return IDYES;
+      case Box_Answer::No: return IDNO;
+      case Box_Answer::Cancel: return IDCANCEL;
+      default: return IDOK;
+    }
+  }
+  void Key(BYTE code) {
+    const auto scan = static_cast<BYTE>(MapVirtualKeyA(code, 0));
+    keybd_event(code, scan, 0, 0);
+    keybd_event(code, scan, KEYEVENTF_KEYUP, 0);
+    Wait(50);
+  }
+  void Point_At(Form& window, Control* control) {
+    toolkit::Bounds place{window.Width - 30, window.Height - 30, 0, 0};
+    if (control != nullptr) place = control->In_Twips();
+    POINT at = {
+        static_cast<LONG>((place.Left + place.Width / 2) / platform_.Backend().Twips_Per_Pixel(toolkit::Axis::Across)),
+        static_cast<LONG>((place.Top + place.Height / 2) / platform_.Backend().Twips_Per_Pixel(toolkit::Axis::Down))};
+    ClientToScreen(reinterpret_cast<HWND>(window.Handle()), &at);
+    // The display's own echo of an earlier move may come late, and puts the pointer back.
+    for (int tries = 0, there = 0; tries < 50 && there < 2; ++tries) {
+      POINT now = {};
+      GetCursorPos(&now);
+      there = now.x == at.x && now.y == at.y ? there + 1 : 0;
+      if (there == 0) SetCursorPos(at.x, at.y);
+      Wait(30);
+    }
+  }
+  static void Later(std::function<void()> work) {
+    due = std::move(work);
+    SetTimer(nullptr, 0, while_open, Do_What_Is_Due);
+  }
+
+  win32::Win32_Platform& platform_;
+};
+
 class System_World : public Service_World {
  public:
   platform::System& System() override { return platform_.System(); }
   toolkit::Backend& Backend() override { return platform_.Backend(); }
+  User& The_User() override { return user_; }
+  void Run(const std::function<void()>& work) override { work(); }
   void Make_Folder(const std::string& name) override {
     std::filesystem::create_directories(System().Files.Program_Folder() + '\\' + name);
   }
 
  private:
   win32::Win32_Platform platform_{nullptr};
+  System_User user_{platform_};
 };
 
 }  // namespace

@@ -1,0 +1,37 @@
+// The user of the windows in the contract cases: real input on Windows, the in-memory window system's hands natively.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "platform/message_box.h"
+#include "toolkit/form.h"
+
+enum class Pressed_Key { Tab, Enter, Escape, Space, F9, Alt_O };
+
+class User {
+ public:
+  virtual ~User() = default;
+
+  // The pointer goes to the middle of a control (nullptr: to the window's ground at its lower right corner) first.
+
+  virtual void Press(toolkit::Form& window, toolkit::Control* control, toolkit::Mouse_Button button) = 0;
+  virtual void Move(toolkit::Form& window, toolkit::Control* control) = 0;
+  virtual void Release(toolkit::Form& window, toolkit::Control* control, toolkit::Mouse_Button button) = 0;
+  virtual void Press_Key(Pressed_Key key) = 0;
+  virtual void Type(char letter) = 0;
+
+  void Click(toolkit::Form& window, toolkit::Control* control) {
+    Press(window, control, toolkit::Mouse_Button::Left);
+    Release(window, control, toolkit::Mouse_Button::Left);
+  }
+
+  /// Answers the next message box when it has been open for a while, after `meanwhile`.
+  virtual void Answer(platform::Box_Answer answer, std::function<void()> meanwhile) = 0;
+
+  /// Chooses the item at a place of the next menu (from 1 on; 0: none) when it has been open for a while.
+  virtual void Choose(int place, int number, std::function<void()> meanwhile) = 0;
+
+  /// Lets events be served for that long.
+  virtual void Wait(std::int64_t milliseconds) = 0;
+};
