@@ -37,6 +37,7 @@ void Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_
   constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
   SetWindowLongA(moved, GWL_STYLE, (style & ~popup) | child);
   SetParent(moved, To_Window(parent));
+  context_.Embedded = true;
   SetWindowLongA(moved, GWL_STYLE, style);
 }
 

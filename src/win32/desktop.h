@@ -4,7 +4,7 @@
 #include "platform/desktop_shell.h"
 #include "platform/screen.h"
 #include "platform/wallpaper.h"
-#include "win32/scale.h"
+#include "win32/window_context.h"
 
 namespace win32 {
 
@@ -28,12 +28,17 @@ class Desktop_Picture final : public platform::Wallpaper {
 
 class Shell_Windows final : public platform::Desktop_Shell {
  public:
+  explicit Shell_Windows(Window_Context& context) : context_(context) {}
+
   platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
   platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
   int Send(platform::Window_Handle window, unsigned message, int parameter) override;
   void Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
   void Update(platform::Window_Handle window) override;
+
+ private:
+  Window_Context& context_;
 };
 
 }  // namespace win32

@@ -124,9 +124,11 @@ LRESULT Form_Window::Ground(HDC context) {
 bool Form_Window::Active_Changed(bool active) {
   toolkit::Input& input = form_.System().Input;
   if (active) {
+    context_.Active = this;
     input.Activity_Came(form_);
     return true;
   }
+  if (context_.Active == this) context_.Active = nullptr;
   input.Activity_Went(form_);
   // The form may unload by it, which must not happen while the system is changing the active window.
   PostMessageA(Window(), lost_activity, 0, 0);

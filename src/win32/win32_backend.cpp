@@ -10,7 +10,9 @@ std::unique_ptr<toolkit::Form_Peer> Win32_Backend::Make_Peer(toolkit::Form& form
   return std::make_unique<Form_Window>(form, context_);
 }
 
+// Asked ten times a second: as long as messages tell every change, the system needn't be.
 toolkit::Form* Win32_Backend::Active_Form() {
+  if (!context_.Embedded) return context_.Active != nullptr ? &context_.Active->Form() : nullptr;
   const HWND active = GetActiveWindow();
   for (const Form_Window* const window : context_.Windows.All())
     if (window->Window() == active) return &window->Form();

@@ -32,7 +32,7 @@ struct Win32_Platform::Parts {
   Win32_Popup_Menu Popup_Menu{Context, Backend.Input};
   Registry_Store Store;
   Primary_Screen Screen{Context.Scale};
-  Shell_Windows Shell;
+  Shell_Windows Shell{Context};
   System_Registry Registry;
   System_Profiles Profiles;
   Desktop_Picture Wallpaper;

@@ -47,6 +47,12 @@ struct Window_Context {
   Library_Owner Common_Controls;  ///< loaded with the first tip
   Window_List Windows;
 
+  /// The active window as the system's messages have told, nullptr if it is none of ours.
+  Form_Window* Active = nullptr;
+  /// A window of ours belongs to another program's window. The two programs share one state of input then, and the messages
+  /// don't tell all of its changes.
+  bool Embedded = false;
+
   /// Where the pointer was last seen, in pixels of the screen. The system reports a move whenever windows change under a
   /// pointer at rest: what comes from the same place moved nothing.
   POINT Pointer{};

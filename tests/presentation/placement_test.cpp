@@ -176,6 +176,22 @@ TEST_F(Placement_Test, RePosition_follows_one_changed_value_a_call) {
   EXPECT_EQ(Made.Main_Frm.Left(), -1) << "all four values are known by now";
 }
 
+TEST_F(Placement_Test, RePosition_looks_at_height_width_top_and_left_in_this_order) {
+  constexpr int beyond = 40000;
+  struct Case {
+    platform::Pixel_Area area;
+    int fails_at;
+  };
+  for (const Case& test : {Case{{10, 20, 1000, beyond}, 1}, Case{{10, 20, beyond, 900}, 2},
+                           Case{{10, beyond, 1000, 900}, 3}, Case{{beyond, 20, 1000, 900}, 4}}) {
+    Work_Area(0, 0, 1280, 1024);
+    Place.Set_Repos();
+    Screen.Area = test.area;
+    for (int call = 1; call < test.fails_at; ++call) Place.RePosition();
+    EXPECT_EQ(Error_Of([&] { Place.RePosition(); }), 6) << test.fails_at;
+  }
+}
+
 TEST_F(Placement_Test, RePosition_places_first_and_fails_at_what_does_not_fit_then) {
   Stored.Values.Alignment = 6;
   Place.Set_Repos();

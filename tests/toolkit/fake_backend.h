@@ -38,6 +38,7 @@ class Fake_Backend : public toolkit::Backend {
   int Heights_Measured = 0;
   bool Minimised = false;  ///< what each window says
   toolkit::Form* Active = nullptr;
+  toolkit::Region Last_Region;
 
   /// What was told since the last call.
   Words Take() {
@@ -101,6 +102,7 @@ class Fake_Backend : public toolkit::Backend {
       backend_.Told.push_back(control.Name + ' ' + In_Words(aspect));
     }
     void Set_Region(const toolkit::Region& region) override {
+      backend_.Last_Region = region;
       backend_.Told.push_back("region of " + std::to_string(region.Rects().size()));
     }
     void Set_Round_Region(int width, int height, int corner) override {
