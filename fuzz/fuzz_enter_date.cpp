@@ -14,7 +14,6 @@
 #include "fuzz/expected_number.h"
 #include "memory/memory_platform.h"
 #include "tests/basic/read_by_the_letter.h"
-#include "tooltips/clear_tooltips.h"
 
 namespace {
 
@@ -78,14 +77,7 @@ std::string Undoubled(const std::string& text) {
   return result;
 }
 
-class Editor : public events::Editor_Input {
- public:
-  [[nodiscard]] std::string Message_Text() const override { return "Tom & Jane"; }
-  [[nodiscard]] bool Every_Year() const override { return Ticked; }
-  void Tick_Every_Year() override { Ticked = true; }
-
-  bool Ticked = false;
-};
+constexpr const char* typed = "Tom && Jane";
 
 /// A calendar window with the month on view, one for all inputs.
 class Calendar {
@@ -106,38 +98,34 @@ class Calendar {
   template <class Work>
   void With_Event_File(Work&& work) {
     basic::File_Channel channel(platform_.Files);
-    editor_.Ticked = false;
-    events::Event_File file(platform_.Files, channel, platform_.Message_Box, state_, editor_);
-    file.Clear_Tooltips = [this] { tooltips::Clear_Tooltips(arrangement_); };
-    file.Enter_Date = [this](std::string_view line) { grid_.Enter_Date(line); };
-    work(file, editor_);
+    events::Event_File file(platform_.Files, channel, platform_.Message_Box, state_);
+    work(file);
   }
 
   void Draw(int style) {
     settings_.Values.Style = style;
     state_.Alerted_Today = false;
     grid_.Setup_Boxes(month, year);
-    alerts_.Take_Present_Day();
-    With_Event_File([](events::Event_File& file, Editor&) { file.Load_Dates(); });
+    grid_.Begin_Reading();
+    With_Event_File([this](events::Event_File& file) {
+      file.Load_Dates([this](std::string_view line) { grid_.Enter_Date(line); });
+    });
   }
 
   auto Shown() { return platform_.Message_Box.Take_Shown(); }
-  [[nodiscard]] const std::string& Tip(int box) const { return arrangement_.Box_Lbl[box].ToolTipText; }
-  [[nodiscard]] const std::string& Caption(int box) const { return arrangement_.Box_Caption_Lbl[box].Caption; }
+  [[nodiscard]] const std::string& Tip(int box) const { return main_frm_.Box_Lbl[box].ToolTipText; }
+  [[nodiscard]] const std::string& Caption(int box) const { return main_frm_.Box_Caption_Lbl[box].Caption; }
 
  private:
   memory::Memory_Platform platform_;
   const std::string path_ = memory::Memory_Files::Full_Path("calendar.dat");
   settings::Stored_Settings settings_{platform_.Store};
   state::Calendar_State state_;
-  Editor editor_;
-  presentation::Arrangement arrangement_{platform_.Backend()};
-  presentation::Placement placement_{arrangement_, platform_.Screen, platform_.Message_Box, settings_, state_};
-  presentation::Caption_Fitting fitting_{arrangement_, settings_.Values, state_};
-  calendar::Alerts alerts_{platform_.Clock,       platform_.Locale, platform_.Message_Box,
-                           arrangement_.Main_Frm, settings_.Values, state_};
-  calendar::Month_Grid grid_{arrangement_,    placement_,       fitting_,         alerts_,
-                             platform_.Clock, platform_.Locale, settings_.Values, state_};
+  presentation::Main_Frm main_frm_{platform_.Backend()};
+  presentation::Placement placement_{main_frm_, platform_.Screen, platform_.Message_Box, settings_, state_};
+  calendar::Dates dates_{platform_.Clock, platform_.Locale};
+  calendar::Alerts alerts_{dates_, platform_.Message_Box, main_frm_.Window, settings_.Values, state_};
+  calendar::Month_Grid grid_{main_frm_, placement_, alerts_, dates_, settings_.Values, state_};
 };
 
 /// What the drawing of the records comes to.
@@ -186,9 +174,10 @@ void Expect_Message(Calendar& calendar, const Records& records) {
     if (line.Date == today || line.Date == today_every_year) expected = line.Text;
     every_year = every_year || line.Date == today_every_year;
   }
-  calendar.With_Event_File([&](events::Event_File& file, Editor& editor) {
-    Expect(file.Get_Message(true) == expected, "the last line of the day counts");
-    Expect(editor.Ticked == every_year, "a line of every year ticks the box");
+  calendar.With_Event_File([&](events::Event_File& file) {
+    const events::Day_Event found = file.Get_Message();
+    Expect(found.Text == expected, "the last line of the day counts");
+    Expect(found.Every_Year == every_year, "a line of every year ticks the box");
   });
   Expect(calendar.Shown().size() == (failed ? 1U : 0U), "a bad line is told");
 }
@@ -205,7 +194,7 @@ std::optional<Records> Expected_Change(Records records, const std::string& text,
     else *record = std::string(key).append("=").append(text);
     return records;
   }
-  records.push_back(key + "=Tom && Jane");
+  records.push_back(key + "=" + typed);
   return records;
 }
 
@@ -218,10 +207,9 @@ std::string As_Written(const Records& records) {
 void Expect_Change(Calendar& calendar, const Records& records, const std::string& text, bool every_year) {
   const std::string before = calendar.Bytes();
   const std::optional<Records> expected = Expected_Change(records, text, every_year);
-  calendar.With_Event_File([&](events::Event_File& file, Editor& editor) {
-    editor.Ticked = every_year;
+  calendar.With_Event_File([&](events::Event_File& file) {
     file.Load_File();
-    const int error = Error_Of([&] { file.Check_For_Pre(text); });
+    const int error = Error_Of([&] { file.Check_For_Pre(text, {typed, every_year}); });
     Expect(error == (expected ? 0 : 5), "a line without = ends the change");
   });
   Expect(calendar.Bytes() == (expected ? As_Written(*expected) : before), "one record changes and no other");

@@ -4,13 +4,12 @@
 
 namespace calendar {
 
-Alerts::Alerts(platform::Clock& clock, platform::Locale& locale, platform::Message_Box& message_box,
-               toolkit::Form& main_frm, const settings::Settings& settings, state::Calendar_State& calendar)
-    : clock_(clock), locale_(locale), message_box_(message_box), main_frm_(main_frm), settings_(settings),
-      calendar_(calendar) {}
+Alerts::Alerts(Dates& dates, platform::Message_Box& message_box, toolkit::Form& main_frm,
+               const settings::Settings& settings, state::Calendar_State& calendar)
+    : dates_(dates), message_box_(message_box), main_frm_(main_frm), settings_(settings), calendar_(calendar) {}
 
 void Alerts::Take_Present_Day() {
-  present_day_ = clock_.Now().Day;
+  present_day_ = dates_.Present_Day();
   present_date_ = basic::Civil_From_Serial(present_day_);
 }
 
@@ -23,15 +22,15 @@ void Alerts::Test(const events::Event_Line& event) {
   // The window counts as disabled around every test; it shows only where a message holds the test up.
   if (!Due(event)) return;
   main_frm_.Enabled = false;
-  message_box_.Show("Meridex", Today_Message(locale_, present_day_, basic::Single_Ampersands(event.Text)),
+  message_box_.Show("Meridex", Today_Message(dates_, present_day_, basic::Single_Ampersands(event.Text)),
                     platform::Box_Icon::Information, platform::Box_Buttons::OK);
   calendar_.Alerted_Today = true;
   main_frm_.Enabled = true;
 }
 
-std::string Today_Message(platform::Locale& locale, basic::Serial_Day today, std::string_view text) {
+std::string Today_Message(const Dates& dates, basic::Serial_Day today, std::string_view text) {
   std::string message = "Today: ";
-  locale.Append_Short_Date(message, today);
+  dates.Append_Short_Date(message, today);
   message += "\r\n\r\n";
   message += text;
   return message;

@@ -1,11 +1,9 @@
 // The alert: one message on the day of an event, at most one a day.
 #pragma once
 
+#include "calendar/dates.h"
 #include "events/event_line.h"
-#include "platform/clock.h"
-#include "platform/locale.h"
 #include "platform/message_box.h"
-#include "settings/settings.h"
 #include "state/calendar_state.h"
 #include "toolkit/form.h"
 
@@ -13,8 +11,8 @@ namespace calendar {
 
 class Alerts {
  public:
-  Alerts(platform::Clock& clock, platform::Locale& locale, platform::Message_Box& message_box, toolkit::Form& main_frm,
-         const settings::Settings& settings, state::Calendar_State& calendar);
+  Alerts(Dates& dates, platform::Message_Box& message_box, toolkit::Form& main_frm, const settings::Settings& settings,
+         state::Calendar_State& calendar);
 
   /// Takes the present day for the reading of the file that follows: the lines of one reading are tested in one moment.
   void Take_Present_Day();
@@ -25,8 +23,7 @@ class Alerts {
  private:
   [[nodiscard]] bool Due(const events::Event_Line& event) const;
 
-  platform::Clock& clock_;
-  platform::Locale& locale_;
+  Dates& dates_;
   platform::Message_Box& message_box_;
   toolkit::Form& main_frm_;
   const settings::Settings& settings_;
@@ -36,6 +33,6 @@ class Alerts {
 };
 
 /// What the alert and the F1 key show of today's event.
-std::string Today_Message(platform::Locale& locale, basic::Serial_Day today, std::string_view text);
+std::string Today_Message(const Dates& dates, basic::Serial_Day today, std::string_view text);
 
 }  // namespace calendar

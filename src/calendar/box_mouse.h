@@ -2,45 +2,28 @@
 // and the title drags the window.
 #pragma once
 
-#include "calendar/compact.h"
-#include "calendar/edit_box.h"
+#include "calendar/box_hold.h"
 #include "calendar/popup_menus.h"
-#include "platform/event_loop.h"
 
 namespace calendar {
 
 class Box_Mouse {
  public:
-  Box_Mouse(presentation::Arrangement& arrangement, presentation::Placement& placement, Compact& compact,
-            Month_View& view, Month_Grid& grid, Edit_Box& edit_box, Popup_Menus& menus, events::Event_File& event_file,
-            platform::Event_Loop& loop, platform::Clock& clock, const settings::Settings& settings,
-            state::Calendar_State& calendar);
-
-  /// Opens the balloon of box Tip_Box with an event's text, "&" doubled.
-  std::function<void(const std::string& text)> Balloon_Tooltip;
+  /// Ties itself to the mouse on the labels of the calendar's window.
+  Box_Mouse(presentation::Main_Frm& main_frm, presentation::Placement& placement, Desk& desk, Popup_Menus& menus,
+            Box_Hold& hold);
 
  private:
   void Tie_Box(toolkit::Label& label, basic::Int16 index);
-  void Tie_Headers();
-  void Tie_Arrow(toolkit::Label& arrow, void (Month_View::*turn)());
-  void Tie_Title();
+  void Tie_Header(toolkit::Label& header, basic::Int16 index);
+  void Tie_Arrow(toolkit::Label& arrow, void (Desk::*turn)());
+  void Tie_Title(toolkit::Label& title);
   void Box_Press(toolkit::Mouse_Button button, basic::Int16 index);
 
-  /// A press held for 0.3 seconds on a box with an event shows the event whole.
-  void Hold(basic::Int16 index);
-
-  presentation::Arrangement& arrangement_;
   presentation::Placement& placement_;
-  Compact& compact_;
-  Month_View& view_;
-  Month_Grid& grid_;
-  Edit_Box& edit_box_;
+  Desk& desk_;
   Popup_Menus& menus_;
-  events::Event_File& event_file_;
-  platform::Event_Loop& loop_;
-  platform::Clock& clock_;
-  const settings::Settings& settings_;
-  state::Calendar_State& calendar_;
+  Box_Hold& hold_;
 };
 
 }  // namespace calendar

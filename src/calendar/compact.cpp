@@ -16,14 +16,17 @@ basic::Int16 Timeout_Seconds(const settings::Settings& settings) {
 
 }  // namespace
 
-Compact::Compact(presentation::Arrangement& arrangement, presentation::Placement& placement, Month_View& view,
-                 const editor::Edit_Frm& editor, platform::Clock& clock, const settings::Settings& settings,
-                 state::Calendar_State& calendar)
-    : arrangement_(arrangement), placement_(placement), view_(view), editor_(editor), clock_(clock),
-      settings_(settings), calendar_(calendar) {}
+Compact::Compact(presentation::Main_Frm& main_frm, presentation::Placement& placement, Month_View& view, Dates& dates,
+                 const settings::Settings& settings, state::Calendar_State& calendar)
+    : main_frm_(main_frm), placement_(placement), view_(view), dates_(dates), settings_(settings), calendar_(calendar) {
+}
 
 void Compact::Update_Timeout() {
-  calendar_.Timeout_Date = basic::Second_Count(clock_.Now()) + Timeout_Seconds(settings_).Value();
+  calendar_.Timeout_Date = basic::Second_Count(dates_.Now()) + Timeout_Seconds(settings_).Value();
+}
+
+void Compact::Start_Idle_Time() {
+  if (settings_.Auto_Compact == 1) Update_Timeout();
 }
 
 void Compact::Idle_Restart() {
@@ -31,7 +34,7 @@ void Compact::Idle_Restart() {
 }
 
 void Compact::Compact_Mode() {
-  arrangement_.Main_Frm.Scale = toolkit::Scale_Unit::Twips;
+  main_frm_.Window.Scale = toolkit::Scale_Unit::Twips;
   if (calendar_.Compact_On) Open();
   else Shrink();
 }
@@ -44,27 +47,28 @@ void Compact::Open() {
 void Compact::Leave_Without_Redraw() {
   Update_Timeout();
   calendar_.Auto_Compacted = false;
-  arrangement_.Prev_Month_Lbl.Visible = true;
-  arrangement_.Next_Month_Lbl.Visible = true;
+  main_frm_.Prev_Month_Lbl.Visible = true;
+  main_frm_.Next_Month_Lbl.Visible = true;
   calendar_.Compact_On = false;
 }
 
 void Compact::Shrink() {
-  arrangement_.Prev_Month_Lbl.Visible = false;
-  arrangement_.Next_Month_Lbl.Visible = false;
-  const toolkit::Label& title = arrangement_.Which_Month_Lbl;
-  arrangement_.Main_Frm.Height = title.Top + title.Height + 50;
+  main_frm_.Prev_Month_Lbl.Visible = false;
+  main_frm_.Next_Month_Lbl.Visible = false;
+  const toolkit::Label& title = main_frm_.Which_Month_Lbl;
+  main_frm_.Window.Height = title.Top + title.Height + 50;
   calendar_.Compact_On = true;
-  presentation::TransparentForm(arrangement_.Main_Frm);
+  presentation::TransparentForm(main_frm_.Window);
   placement_.Position_In_Force();
 }
 
-void Compact::Auto_Compact_Check() {
-  if (calendar_.Auto_Compacted || calendar_.Compact_On || editor_.Window.Visible() || calendar_.Tip_Showing) {
+void Compact::Auto_Compact_Check(bool other_window_open) {
+  if (settings_.Auto_Compact != 1) return;
+  if (calendar_.Auto_Compacted || calendar_.Compact_On || other_window_open || calendar_.Tip_Showing) {
     Update_Timeout();
     return;
   }
-  if (calendar_.Timeout_Date - basic::Second_Count(clock_.Now()) >= 1) return;
+  if (calendar_.Timeout_Date - basic::Second_Count(dates_.Now()) >= 1) return;
   calendar_.Auto_Compacted = true;
   Compact_Mode();
 }

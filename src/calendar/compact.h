@@ -2,18 +2,19 @@
 #pragma once
 
 #include "calendar/month_view.h"
-#include "editor/edit_frm.h"
 
 namespace calendar {
 
 class Compact {
  public:
-  Compact(presentation::Arrangement& arrangement, presentation::Placement& placement, Month_View& view,
-          const editor::Edit_Frm& editor, platform::Clock& clock, const settings::Settings& settings,
-          state::Calendar_State& calendar);
+  Compact(presentation::Main_Frm& main_frm, presentation::Placement& placement, Month_View& view, Dates& dates,
+          const settings::Settings& settings, state::Calendar_State& calendar);
 
   /// Starts the idle time afresh. Throws error 6 for a time of more than 546 minutes.
   void Update_Timeout();
+
+  /// The same in the load, where the setting wants it.
+  void Start_Idle_Time();
 
   /// The same on the user's activity: only where the idle time counts, with the window open and the setting on.
   void Idle_Restart();
@@ -27,9 +28,9 @@ class Compact {
   /// Opens the window for another box style: out of compact mode without drawing anything.
   void Leave_Without_Redraw();
 
-  /// The tick's test: shrinks the window when the idle time has run out, and starts it afresh while another window of the
-  /// program is open.
-  void Auto_Compact_Check();
+  /// The tick's test, where the setting wants it: shrinks the window when the idle time has run out, and starts it afresh
+  /// while another window that the user works in is open.
+  void Auto_Compact_Check(bool other_window_open);
 
   /// The pointer over the title: opens a window that shrank by itself.
   void Wake_Up();
@@ -38,11 +39,10 @@ class Compact {
   void Open();
   void Shrink();
 
-  presentation::Arrangement& arrangement_;
+  presentation::Main_Frm& main_frm_;
   presentation::Placement& placement_;
   Month_View& view_;
-  const editor::Edit_Frm& editor_;
-  platform::Clock& clock_;
+  Dates& dates_;
   const settings::Settings& settings_;
   state::Calendar_State& calendar_;
 };

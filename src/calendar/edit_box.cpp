@@ -2,13 +2,12 @@
 
 #include "basic/convert.h"
 #include "basic/text.h"
-#include "calendar/title_text.h"
 
 namespace calendar {
 
-Edit_Box::Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, platform::Locale& locale,
+Edit_Box::Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, Dates& dates,
                    platform::Message_Box& message_box, state::Calendar_State& calendar)
-    : editor_(editor), event_file_(event_file), grid_(grid), locale_(locale), message_box_(message_box),
+    : editor_(editor), event_file_(event_file), grid_(grid), dates_(dates), message_box_(message_box),
       calendar_(calendar) {}
 
 void Edit_Box::Open(basic::Int16 index) {
@@ -21,6 +20,7 @@ void Edit_Box::Open(basic::Int16 index) {
     return;
   }
   calendar_.Current_Box = index;
+  // The day as it was before the question, in the month on view now.
   calendar_.Selected_Date = events::Date_Key(day, calendar_.View_Month, calendar_.View_Year);
   Fill();
   editor_.Date_Lbl.Caption = Long_Date(serial, day);
@@ -30,9 +30,16 @@ void Edit_Box::Open(basic::Int16 index) {
   editor_.Message_Txt.SelLength = static_cast<int>(editor_.Message_Txt.Text().size());
 }
 
+void Edit_Box::Clear(basic::Int16 index) {
+  grid_.Select_Day_Of_Box(index);
+  event_file_.Load_File();
+  event_file_.Check_For_Pre("", editor_.Content());
+  grid_.Clear_Event(index);
+}
+
 bool Edit_Box::Settle_Unsaved_Text() {
   if (!editor_.Apply_Btn.Enabled || editor_.Date_Lbl.Caption == "") return true;
-  // The title isn't the program's name, and that is meant so.
+  // The title isn't the program's name, deliberately.
   const auto answer = message_box_.Show("Desktop Wallpaper", "Save changes for the " + editor_.Date_Lbl.Caption() + "?",
                                         platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
   if (answer == platform::Box_Answer::Cancel) return false;
@@ -43,12 +50,14 @@ bool Edit_Box::Settle_Unsaved_Text() {
 void Edit_Box::Fill() {
   editor_.Window.Load();
   editor_.Message_Txt.Text = "";
-  editor_.Message_Txt.Text = basic::Single_Ampersands(event_file_.Get_Message(true));
+  const events::Day_Event event = event_file_.Get_Message();
+  if (event.Every_Year) editor_.Every_Year_Chk.Value = 1;
+  editor_.Message_Txt.Text = basic::Single_Ampersands(event.Text);
   editor_.Apply_Btn.Enabled = false;
 }
 
 std::string Edit_Box::Long_Date(basic::Serial_Day serial, basic::Int16 day) const {
-  const basic::Date_Words& words = locale_.Words();
+  const basic::Date_Words& words = dates_.Words();
   return words.Weekday_Name(basic::Weekday_Of(serial)) + " " + basic::To_Text(day) + Get_Suffix(day) + " " +
          words.Month_Name(calendar_.View_Month.Value()) + " " + basic::To_Text(calendar_.View_Year);
 }

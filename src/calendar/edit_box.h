@@ -1,4 +1,4 @@
-// The opening of the event editor on a day.
+// What the user does to the event of a day box: the opening of the editor on it, and the clearing of the day.
 #pragma once
 
 #include "calendar/month_grid.h"
@@ -8,15 +8,21 @@ namespace calendar {
 
 class Edit_Box {
  public:
-  Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, platform::Locale& locale,
+  Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, Dates& dates,
            platform::Message_Box& message_box, state::Calendar_State& calendar);
 
   /// Fills the editor with the event of a box of the month on view and shows it; asks first if the editor holds unsaved
   /// text of another day.
   void Open(basic::Int16 index);
 
+  /// Removes the event of a box's day from the file and from the box. A day without one takes the editor's text, if the
+  /// editor is open and holds any.
+  void Clear(basic::Int16 index);
+
+  [[nodiscard]] bool Editor_Visible() const { return editor_.Window.Visible(); }
+
  private:
-  /// Says whether the editor may be filled anew.
+  /// Returns whether the editor may be filled anew.
   bool Settle_Unsaved_Text();
   void Fill();
   [[nodiscard]] std::string Long_Date(basic::Serial_Day serial, basic::Int16 day) const;
@@ -24,7 +30,7 @@ class Edit_Box {
   editor::Edit_Frm& editor_;
   events::Event_File& event_file_;
   Month_Grid& grid_;
-  platform::Locale& locale_;
+  Dates& dates_;
   platform::Message_Box& message_box_;
   state::Calendar_State& calendar_;
 };

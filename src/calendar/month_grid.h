@@ -4,17 +4,22 @@
 #include <string_view>
 
 #include "calendar/alerts.h"
-#include "calendar/days.h"
-#include "presentation/caption_fitting.h"
+#include "presentation/box_style.h"
 #include "presentation/placement.h"
 
 namespace calendar {
 
+/// The box of the first day of a month: the distance of its weekday from the first day of the week. Throws error 5 for a
+/// year outside 100 to 9999.
+basic::Int16 Start_Box(basic::Int16 month, basic::Int16 year, basic::Weekday first);
+
+/// The number of days of the month that the day lies in.
+std::int32_t DaysInMonth(basic::Serial_Day day);
+
 class Month_Grid {
  public:
-  Month_Grid(presentation::Arrangement& arrangement, presentation::Placement& placement,
-             presentation::Caption_Fitting& caption_fitting, Alerts& alerts, platform::Clock& clock,
-             platform::Locale& locale, const settings::Settings& settings, const state::Calendar_State& calendar);
+  Month_Grid(presentation::Main_Frm& main_frm, presentation::Placement& placement, Alerts& alerts, Dates& dates,
+             const settings::Settings& settings, state::Calendar_State& calendar);
 
   /// Clears and shows all boxes.
   void Reset_Boxes();
@@ -25,29 +30,49 @@ class Month_Grid {
   /// Writes the seven weekday headers.
   void Set_Day_Headers();
 
+  /// Lays headers and boxes out in a style, whatever the setting says, and cuts the window's region. Its place and the
+  /// fitting of the captions are the caller's.
+  void Restyle(basic::Int16 style);
+
+  /// Takes the tips off before a reading of the event file, and the present day: all lines are tested in one moment.
+  void Begin_Reading();
+
   /// Puts a line of the event file into its box if it belongs to the month on view, and tests it for the alert. Throws
   /// error 5, 6, 9 or 13 for a line that is none, or of a day without a box.
   void Enter_Date(std::string_view line);
 
+  /// Empties the box of a day whose event has been cleared.
+  void Clear_Event(basic::Int16 box) { main_frm_.Box(box).Clear_Event(); }
+
   /// Colours today's box if the present month is on view.
   void Mark_Today();
+
+  /// Whether a box's caption holds any of an event, on view or not.
+  [[nodiscard]] bool Has_Event(basic::Int16 box) const { return main_frm_.Box_Caption_Lbl[box].Caption != ""; }
+
+  /// The box style in force: the setting's, or the pack's.
+  [[nodiscard]] basic::Int16 Style_In_Force() const { return presentation::Style_In_Force(settings_, calendar_); }
 
   /// The box of the first day of the month on view, and the day of a box of that month.
   [[nodiscard]] basic::Int16 First_Box() const;
   [[nodiscard]] basic::Int16 Day_Of_Box(basic::Int16 box) const;
 
+  /// The day of a box of the month on view, or today, becomes the one under work.
+  void Select_Day_Of_Box(basic::Int16 box);
+  void Select_Today();
+
+  /// How many days from today on the day of a box lies.
+  [[nodiscard]] std::int32_t Days_From_Today(basic::Int16 box) const;
+
  private:
-  void Hide_Misc_Boxes();
   void Enter_In_Box(const events::Event_Line& event);
 
-  presentation::Arrangement& arrangement_;
+  presentation::Main_Frm& main_frm_;
   presentation::Placement& placement_;
-  presentation::Caption_Fitting& caption_fitting_;
   Alerts& alerts_;
-  platform::Clock& clock_;
-  platform::Locale& locale_;
+  Dates& dates_;
   const settings::Settings& settings_;
-  const state::Calendar_State& calendar_;
+  state::Calendar_State& calendar_;
 };
 
 }  // namespace calendar

@@ -2,21 +2,30 @@
 
 namespace calendar {
 
-Month_View::Month_View(presentation::Arrangement& arrangement, Month_Grid& grid, Title_Text& title,
-                       events::Event_File& event_file, Alerts& alerts, presentation::Colours& colours,
-                       platform::Clock& clock, state::Calendar_State& calendar)
-    : arrangement_(arrangement), grid_(grid), title_(title), event_file_(event_file), alerts_(alerts),
-      colours_(colours), clock_(clock), calendar_(calendar) {}
+Month_View::Month_View(Month_Grid& grid, Title_Text& title, events::Event_File& event_file,
+                       presentation::Colours& colours, Dates& dates, state::Calendar_State& calendar)
+    : grid_(grid), title_(title), event_file_(event_file), colours_(colours), dates_(dates), calendar_(calendar) {}
 
-void Month_View::Write_Title() { arrangement_.Which_Month_Lbl.Caption = title_.Get_Bar_Text(); }
+void Month_View::Build_First_Month() {
+  grid_.Reset_Boxes();
+  const basic::Civil_Date today = dates_.Today();
+  grid_.Setup_Boxes(today.Month, today.Year);
+  Go_To_Present_Month();
+}
 
-void Month_View::Load_Dates() {
-  alerts_.Take_Present_Day();
-  event_file_.Load_Dates();
+void Month_View::Fill_First_Month() {
+  Load_Dates();
+  title_.Write();
+  grid_.Set_Day_Headers();
+}
+
+void Month_View::Paint() {
+  colours_.Set_Colours();
+  grid_.Mark_Today();
 }
 
 void Month_View::Refresh_Calendar() {
-  Write_Title();
+  title_.Write();
   if (!calendar_.Compact_On) Redraw_Grid();
 }
 
@@ -24,8 +33,12 @@ void Month_View::Redraw_Grid() {
   grid_.Set_Day_Headers();
   grid_.Setup_Boxes(calendar_.View_Month, calendar_.View_Year);
   Load_Dates();
-  colours_.Set_Colours();
-  grid_.Mark_Today();
+  Paint();
+}
+
+void Month_View::Load_Dates() {
+  grid_.Begin_Reading();
+  event_file_.Load_Dates([this](std::string_view line) { grid_.Enter_Date(line); });
 }
 
 void Month_View::Previous_Month() {
@@ -46,10 +59,29 @@ void Month_View::Next_Month() {
   Refresh_Calendar();
 }
 
+void Month_View::Go_To(basic::Int16 month, basic::Int16 year) {
+  calendar_.View_Month = month;
+  calendar_.View_Year = year;
+}
+
 void Month_View::Go_To_Present_Month() {
-  const basic::Civil_Date today = basic::Civil_From_Serial(clock_.Now().Day);
-  calendar_.View_Month = today.Month;
-  calendar_.View_Year = today.Year;
+  const basic::Civil_Date today = dates_.Today();
+  Go_To(today.Month, today.Year);
+}
+
+void Month_View::Begin_New_Day() {
+  calendar_.Alerted_Today = false;
+  Go_To_Present_Month();
+  title_.Write();
+  grid_.Set_Day_Headers();
+}
+
+void Month_View::Draw_New_Day() {
+  if (!calendar_.Compact_On) {
+    grid_.Setup_Boxes(calendar_.View_Month, calendar_.View_Year);
+    Paint();
+  }
+  Load_Dates();
 }
 
 }  // namespace calendar

@@ -10,15 +10,15 @@ namespace calendar {
 
 class Month_View {
  public:
-  Month_View(presentation::Arrangement& arrangement, Month_Grid& grid, Title_Text& title,
-             events::Event_File& event_file, Alerts& alerts, presentation::Colours& colours, platform::Clock& clock,
-             state::Calendar_State& calendar);
+  Month_View(Month_Grid& grid, Title_Text& title, events::Event_File& event_file, presentation::Colours& colours,
+             Dates& dates, state::Calendar_State& calendar);
 
-  /// Writes the title of the month on view.
-  void Write_Title();
+  /// The load's drawing of the present month: the empty grid, then its events and title, and last its colours.
+  void Build_First_Month();
+  void Fill_First_Month();
+  void Paint();
 
-  /// Reads the event file into the grid, and raises the alert if it is due.
-  void Load_Dates();
+  void Write_Title() { title_.Write(); }
 
   /// The title, and the grid unless compact mode hides it.
   void Refresh_Calendar();
@@ -26,21 +26,31 @@ class Month_View {
   /// The grid of the month on view, without the title and whatever the mode.
   void Redraw_Grid();
 
+  /// Reads the event file into the grid, and raises the alert if it is due.
+  void Load_Dates();
+
   /// One month back or on. Throw error 6 beyond 16 bits, error 5 outside the years 100 to 9999.
   void Previous_Month();
   void Next_Month();
 
-  /// View_Month and View_Year become the present ones; nothing is drawn.
+  /// On each tick: paints the title row anew if the window has become active or inactive.
+  void Follow_Active_State() { colours_.Follow_Active_State(); }
+
+  /// View_Month and View_Year become these, or the present ones; nothing is drawn.
+  void Go_To(basic::Int16 month, basic::Int16 year);
   void Go_To_Present_Month();
 
+  /// A new day has begun: title and headers, and after the pack's wallpaper the grid. The reading of the events comes last,
+  /// so that the new month stands painted while the alert of the new day is open.
+  void Begin_New_Day();
+  void Draw_New_Day();
+
  private:
-  presentation::Arrangement& arrangement_;
   Month_Grid& grid_;
   Title_Text& title_;
   events::Event_File& event_file_;
-  Alerts& alerts_;
   presentation::Colours& colours_;
-  platform::Clock& clock_;
+  Dates& dates_;
   state::Calendar_State& calendar_;
 };
 

@@ -13,56 +13,44 @@ constexpr basic::Weekday monday_first[] = {
 
 }  // namespace
 
-Popup_Menus::Popup_Menus(platform::Popup_Menu& menu, presentation::Arrangement& arrangement, Month_Grid& grid,
-                         Month_View& view, Compact& compact, Edit_Box& edit_box, events::Event_File& event_file,
-                         platform::Clock& clock, platform::Locale& locale, settings::Stored_Settings& stored,
-                         state::Calendar_State& calendar)
-    : menu_(menu), arrangement_(arrangement), grid_(grid), view_(view), compact_(compact), edit_box_(edit_box),
-      event_file_(event_file), clock_(clock), locale_(locale), stored_(stored), calendar_(calendar) {}
+Popup_Menus::Popup_Menus(platform::Popup_Menu& menu, presentation::Main_Frm& main_frm, Desk& desk, Dates& dates,
+                         settings::Stored_Settings& stored, const state::Calendar_State& calendar)
+    : menu_(menu), main_frm_(main_frm), desk_(desk), dates_(dates), stored_(stored), calendar_(calendar) {}
 
 int Popup_Menus::Track(const std::vector<platform::Menu_Item>& items) {
-  return menu_.Track(arrangement_.Main_Frm.Handle(), items);
+  return menu_.Track(main_frm_.Window.Handle(), items);
 }
 
 void Popup_Menus::Popup_Menu(basic::Int16 index) {
-  switch (Track(presentation::Box_Menu(arrangement_))) {
-    case presentation::clear_event: Clear(index); break;
-    case presentation::edit_event: edit_box_.Open(index); break;
-    case presentation::exit_program: Exit(); break;
+  switch (Track(presentation::Box_Menu(main_frm_))) {
+    case presentation::clear_event: desk_.Clear_Day(index); break;
+    case presentation::edit_event: desk_.Edit_Day(index); break;
+    case presentation::exit_program: desk_.Exit(); break;
     default: break;
   }
 }
 
-void Popup_Menus::Clear(basic::Int16 index) {
-  calendar_.Selected_Date = events::Date_Key(grid_.Day_Of_Box(index), calendar_.View_Month, calendar_.View_Year);
-  event_file_.Load_File();
-  event_file_.Check_For_Pre("");
-  arrangement_.Box_Caption_Lbl[index].Caption = "";
-  arrangement_.Box_Caption_Lbl[index].ToolTipText = "";
-  arrangement_.Box_Lbl[index].ToolTipText = "";
-  arrangement_.Box_Lbl[index].FontUnderline = false;
-}
-
 void Popup_Menus::Popup_Months() {
-  const basic::Civil_Date today = basic::Civil_From_Serial(clock_.Now().Day);
+  const basic::Civil_Date today = dates_.Today();
   const int month =
       Track(presentation::Months_Menu(calendar_.View_Month, calendar_.View_Year, today.Month, today.Year));
-  if (month == 0) return;
-  calendar_.View_Month = month;
-  view_.Refresh_Calendar();
+  // A midnight under the menu may have turned the year.
+  if (month != 0) desk_.Show_Month(month, calendar_.View_Year);
 }
 
 void Popup_Menus::Popup_Years() {
+  const auto show_year = [this](int years_on) {
+    desk_.Show_Month(calendar_.View_Month, calendar_.View_Year + years_on);
+  };
   switch (Track(presentation::Years_Menu(calendar_.View_Year, calendar_.Compact_On))) {
-    case presentation::expand: compact_.Which_Month_Lbl_DblClick(); return;
-    case presentation::two_back: calendar_.View_Year -= 2; break;
-    case presentation::one_back: calendar_.View_Year -= 1; break;
-    case presentation::current_month: view_.Go_To_Present_Month(); break;
-    case presentation::one_on: calendar_.View_Year += 1; break;
-    case presentation::two_on: calendar_.View_Year += 2; break;
-    default: return;
+    case presentation::expand: desk_.Compact_Mode(); break;
+    case presentation::two_back: show_year(-2); break;
+    case presentation::one_back: show_year(-1); break;
+    case presentation::current_month: desk_.Show_Present_Month(); break;
+    case presentation::one_on: show_year(+1); break;
+    case presentation::two_on: show_year(+2); break;
+    default: break;
   }
-  view_.Refresh_Calendar();
 }
 
 void Popup_Menus::Popup_Start_Day(basic::Int16 index) {
@@ -70,15 +58,15 @@ void Popup_Menus::Popup_Start_Day(basic::Int16 index) {
 }
 
 void Popup_Menus::Set_As_Start_Day(basic::Int16 index) {
-  const basic::Date_Words& words = locale_.Words();
-  const basic::Weekday first = First_Day_Of_Week(stored_.Values, locale_);
+  const basic::Date_Words& words = dates_.Words();
+  const basic::Weekday first = dates_.First_Day_Of_Week(stored_.Values);
   const std::string& name = words.Short_Weekday_Name(basic::Weekday_At(index.Value() + 1, first));
   for (const basic::Weekday day : monday_first) {
     if (words.Short_Weekday_Name(day) != name) continue;
     stored_.Values.Start_Day = static_cast<int>(day);
     break;
   }
-  view_.Refresh_Calendar();
+  desk_.Refresh_Calendar();
   stored_.Save(&settings::Settings::Start_Day);
 }
 

@@ -1,8 +1,7 @@
 // The commands of the four popup menus.
 #pragma once
 
-#include "calendar/compact.h"
-#include "calendar/edit_box.h"
+#include "calendar/desk.h"
 #include "platform/popup_menu.h"
 #include "settings/stored_settings.h"
 
@@ -10,11 +9,8 @@ namespace calendar {
 
 class Popup_Menus {
  public:
-  Popup_Menus(platform::Popup_Menu& menu, presentation::Arrangement& arrangement, Month_Grid& grid, Month_View& view,
-              Compact& compact, Edit_Box& edit_box, events::Event_File& event_file, platform::Clock& clock,
-              platform::Locale& locale, settings::Stored_Settings& stored, state::Calendar_State& calendar);
-
-  std::function<void()> Exit;
+  Popup_Menus(platform::Popup_Menu& menu, presentation::Main_Frm& main_frm, Desk& desk, Dates& dates,
+              settings::Stored_Settings& stored, const state::Calendar_State& calendar);
 
   void Popup_Menu(basic::Int16 index);
   void Popup_Months();
@@ -23,20 +19,14 @@ class Popup_Menus {
 
  private:
   int Track(const std::vector<platform::Menu_Item>& items);
-  void Clear(basic::Int16 index);
   void Set_As_Start_Day(basic::Int16 index);
 
   platform::Popup_Menu& menu_;
-  presentation::Arrangement& arrangement_;
-  Month_Grid& grid_;
-  Month_View& view_;
-  Compact& compact_;
-  Edit_Box& edit_box_;
-  events::Event_File& event_file_;
-  platform::Clock& clock_;
-  platform::Locale& locale_;
+  presentation::Main_Frm& main_frm_;
+  Desk& desk_;
+  Dates& dates_;
   settings::Stored_Settings& stored_;
-  state::Calendar_State& calendar_;
+  const state::Calendar_State& calendar_;
 };
 
 }  // namespace calendar

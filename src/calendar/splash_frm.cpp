@@ -1,5 +1,7 @@
 #include "calendar/splash_frm.h"
 
+#include <utility>
+
 namespace calendar {
 
 namespace {
@@ -10,9 +12,9 @@ constexpr double height = 1335;
 
 }  // namespace
 
-Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arrangement)
-    : Window(backend, "Splash_Frm"), Image1(Window, "Image1"), Label9(Window, "Label9"), arrangement_(arrangement),
-      start_timer_(backend, "Start_Timer", shown_for) {
+Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_frm, std::function<void()> closed)
+    : Window(backend, "Splash_Frm"), Image1(Window, "Image1"), Label9(Window, "Label9"), main_frm_(main_frm),
+      start_timer_(backend, "Start_Timer", shown_for), closed_(std::move(closed)) {
   Window.Width = width;
   Window.Height = height;
   Window.BackColor = toolkit::white;
@@ -32,16 +34,16 @@ Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arr
 
 /// In the middle of the calendar as it stands, its place down following the box style in force.
 void Splash_Frm::Load() {
-  const toolkit::Form& main = arrangement_.Main_Frm;
+  const toolkit::Form& main = main_frm_.Window;
   const int beside = toolkit::Round_To_Even(main.Width - Window.Width) / 2;
-  const int half_way = toolkit::Round_To_Even(arrangement_.Box_Lbl[36].In_Twips().Top) / 2;
+  const int half_way = toolkit::Round_To_Even(main_frm_.Box_Lbl[36].In_Twips().Top) / 2;
   Window.Move(main.Left + beside, main.Top + half_way + Window.Height);
   start_timer_.Enable();
 }
 
 void Splash_Frm::Close() {
   Window.Unload();
-  On_Closed();
+  closed_();
 }
 
 }  // namespace calendar

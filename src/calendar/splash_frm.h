@@ -1,21 +1,19 @@
 // The splash: shown for a moment at the start, over the calendar.
 #pragma once
 
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "toolkit/timer.h"
 
 namespace calendar {
 
 class Splash_Frm {
  public:
-  Splash_Frm(toolkit::Backend& backend, presentation::Arrangement& arrangement);
+  /// `closed` is called after it has gone, by itself or by the user.
+  Splash_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_frm, std::function<void()> closed);
 
   toolkit::Form Window;
   toolkit::Image Image1;
   toolkit::Label Label9;
-
-  /// After it has gone, by itself or by the user.
-  std::function<void()> On_Closed;
 
   /// Shows it; it goes by itself after 1500 milliseconds.
   void Show() { Window.Show(false); }
@@ -24,8 +22,9 @@ class Splash_Frm {
   void Load();
   void Close();
 
-  presentation::Arrangement& arrangement_;
+  presentation::Main_Frm& main_frm_;
   toolkit::Timer start_timer_;
+  const std::function<void()> closed_;
 };
 
 }  // namespace calendar

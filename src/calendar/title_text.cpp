@@ -1,29 +1,16 @@
 #include "calendar/title_text.h"
 
-#include <cstdlib>
-
 #include "basic/date_pattern.h"
 #include "presentation/box_style.h"
 
 namespace calendar {
 
-const char* Get_Suffix(basic::Int16 day) {
-  const int number = day.Value();
-  if (number >= 11 && number <= 13) return "th";
-  switch (std::abs(number % 10)) {
-    case 1: return "st";
-    case 2: return "nd";
-    case 3: return "rd";
-    default: return "th";
-  }
-}
-
-Title_Text::Title_Text(platform::Clock& clock, platform::Locale& locale, const settings::Settings& settings,
+Title_Text::Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const settings::Settings& settings,
                        const state::Calendar_State& calendar)
-    : clock_(clock), locale_(locale), settings_(settings), calendar_(calendar) {}
+    : main_frm_(main_frm), dates_(dates), settings_(settings), calendar_(calendar) {}
 
 const std::string& Title_Text::Get_Bar_Text() {
-  const basic::Moment now = clock_.Now();
+  const basic::Moment now = dates_.Now();
   const int today = basic::Civil_From_Serial(now.Day).Day;
   const basic::Moment day_of_view{basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), today),
                                   0};
@@ -33,13 +20,13 @@ const std::string& Title_Text::Get_Bar_Text() {
     return text_;
   }
   if (day_of_view.Day != now.Day) {
-    text_ += locale_.Words().Month_Name(calendar_.View_Month.Value());
+    text_ += dates_.Words().Month_Name(calendar_.View_Month.Value());
     text_ += " - ";
     basic::Append_Number(text_, calendar_.View_Year.Value());
     return text_;
   }
   if (settings_.Bar_Time) {
-    basic::Append_Date(text_, now, settings_.Bar_Time_Format, locale_.Words());
+    basic::Append_Date(text_, now, settings_.Bar_Time_Format, dates_.Words());
     text_ += " - ";
   }
   Append_Date(now, day_of_view);
@@ -48,9 +35,9 @@ const std::string& Title_Text::Get_Bar_Text() {
 
 void Title_Text::Append_Date(const basic::Moment& now, const basic::Moment& day_of_view) {
   const std::string& format = settings_.Bar_Date_Format;
-  const basic::Date_Words& words = locale_.Words();
+  const basic::Date_Words& words = dates_.Words();
   if (format == "Use System Format") {
-    locale_.Append_Long_Date(text_, day_of_view.Day);
+    dates_.Append_Long_Date(text_, day_of_view.Day);
   } else if (format == "mm/yyyy" || format == "dd/mm/yyyy") {
     basic::Append_Date(text_, day_of_view, format, words);
   } else if (format == "Month - yyyy") {
@@ -67,9 +54,9 @@ void Title_Text::Append_Date(const basic::Moment& now, const basic::Moment& day_
 }
 
 void Title_Text::Append_Month_And_Year(const basic::Moment& day_of_view) {
-  text_ += locale_.Words().Month_Name(calendar_.View_Month.Value());
+  text_ += dates_.Words().Month_Name(calendar_.View_Month.Value());
   text_ += " - ";
-  basic::Append_Date(text_, day_of_view, "yyyy", locale_.Words());
+  basic::Append_Date(text_, day_of_view, "yyyy", dates_.Words());
 }
 
 void Title_Text::Append_Day_With_Suffix(basic::Serial_Day day) {

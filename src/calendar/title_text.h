@@ -3,20 +3,18 @@
 
 #include <string>
 
-#include "platform/clock.h"
-#include "platform/locale.h"
-#include "settings/settings.h"
-#include "state/calendar_state.h"
+#include "calendar/dates.h"
+#include "presentation/main_frm.h"
 
 namespace calendar {
 
-/// "st", "nd", "rd" or "th", as goes with the number of a day.
-const char* Get_Suffix(basic::Int16 day);
-
 class Title_Text {
  public:
-  Title_Text(platform::Clock& clock, platform::Locale& locale, const settings::Settings& settings,
+  Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const settings::Settings& settings,
              const state::Calendar_State& calendar);
+
+  /// Writes it into the title.
+  void Write() { main_frm_.Which_Month_Lbl.Caption = Get_Bar_Text(); }
 
   /// The title of the month on view, by the settings Bar_Time, Bar_Time_Format and Bar_Date_Format. The text stays until
   /// the next call: the tick asks for it ten times a second, so its memory is kept.
@@ -27,8 +25,8 @@ class Title_Text {
   void Append_Day_With_Suffix(basic::Serial_Day day);
   void Append_Date(const basic::Moment& now, const basic::Moment& day_of_view);
 
-  platform::Clock& clock_;
-  platform::Locale& locale_;
+  presentation::Main_Frm& main_frm_;
+  Dates& dates_;
   const settings::Settings& settings_;
   const state::Calendar_State& calendar_;
   std::string text_;

@@ -1,19 +1,38 @@
 #include "editor/edit_frm.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "basic/convert.h"
 #include "basic/text.h"
-#include "editor/count_words.h"
 #include "presentation/box_style.h"
 
 namespace editor {
 
-Edit_Frm::Edit_Frm(toolkit::Backend& backend, presentation::Arrangement& arrangement,
-                   presentation::Caption_Fitting& caption_fitting, events::Event_File& event_file,
-                   const settings::Settings& settings, state::Calendar_State& calendar)
+std::int32_t CountWords(std::string_view text) {
+  std::string words(text);
+  std::replace_if(
+      words.begin(), words.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  std::int32_t count = 0;
+  std::size_t blank = words.find(' ');
+  if (!words.empty() && blank != 0) count = 1;
+  while (blank != std::string::npos) {
+    ++count;
+    while (blank + 1 < words.size() && words[blank + 1] == ' ') ++blank;
+    blank = words.find(' ', blank + 1);
+  }
+  // A blank at the end was taken for the start of one more word.
+  if (!words.empty() && words.back() == ' ') --count;
+  return count;
+}
+
+Edit_Frm::Edit_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_frm, events::Event_File& event_file,
+                   const settings::Settings& settings, state::Calendar_State& calendar,
+                   std::function<void()> idle_restart)
     : Window(backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog), Date_Lbl(Window, "Date_Lbl"),
       Message_Txt(Window, "Message_Txt"), Every_Year_Chk(Window, "Every_Year_Chk"), Ok_Btn(Window, "Ok_Btn"),
-      Cancel_Btn(Window, "Cancel_Btn"), Apply_Btn(Window, "Apply_Btn"), arrangement_(arrangement),
-      caption_fitting_(caption_fitting), event_file_(event_file), settings_(settings), calendar_(calendar) {
+      Cancel_Btn(Window, "Cancel_Btn"), Apply_Btn(Window, "Apply_Btn"), main_frm_(main_frm), event_file_(event_file),
+      settings_(settings), calendar_(calendar), idle_restart_(std::move(idle_restart)) {
   Place_Controls();
   Tie_Events();
 }
@@ -35,7 +54,7 @@ void Edit_Frm::Place_Controls() {
 void Edit_Frm::Tie_Events() {
   Window.On_Load = [this] { Load(); };
   Window.On_Activate = [this] { Ok_Btn.Default = settings_.Carriage_Return != 1; };
-  Window.On_Unload = [this] { Idle_Restart(); };
+  Window.On_Unload = [this] { idle_restart_(); };
   Message_Txt.On_Change = [this] { Message_Txt_Change(); };
   Ok_Btn.On_Click = [this] { Apply_Btn_Click(); };
   Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
@@ -64,28 +83,23 @@ void Edit_Frm::Message_Txt_Change() {
 void Edit_Frm::Apply_Btn_Click() {
   Message_Txt.Text = basic::Replace_All(Message_Txt.Text(), "\"", "'");
   event_file_.Load_File();
-  event_file_.Check_For_Pre(basic::Double_Ampersands(Message_Txt.Text()));
-  Show_In_Box(Message_Txt.Text());
+  const events::Day_Event content = Content();
+  event_file_.Check_For_Pre(content.Text, content);
+  Show_In_Box(content.Text);
   Apply_Btn.Enabled = false;
   calendar_.Alerted_Today = true;
   Window.Unload();
 }
 
 void Edit_Frm::Show_In_Box(const std::string& text) {
-  toolkit::Label& caption = arrangement_.Box_Caption_Lbl[calendar_.Current_Box];
-  toolkit::Label& box = arrangement_.Box_Lbl[calendar_.Current_Box];
-  if (settings_.Tooltips == 1) {
-    caption.ToolTipText = text;
-    box.ToolTipText = text;
-  }
-  box.FontUnderline = !text.empty() && presentation::Small_Style(settings_);
-  caption_fitting_.DotDotDot(basic::Double_Ampersands(text), caption);
+  const presentation::Day_Box box = main_frm_.Box(calendar_.Current_Box);
+  box.Underline(!text.empty() && presentation::Small_Style(settings_));
+  box.Write_Event(text, settings_, calendar_);
 }
 
-std::string Edit_Frm::Message_Text() const { return Window.Loaded() ? Message_Txt.Text() : std::string(); }
-
-bool Edit_Frm::Every_Year() const { return Window.Loaded() && Every_Year_Chk.Value == 1; }
-
-void Edit_Frm::Tick_Every_Year() { Every_Year_Chk.Value = 1; }
+events::Day_Event Edit_Frm::Content() const {
+  if (!Window.Loaded()) return {};
+  return {basic::Double_Ampersands(Message_Txt.Text()), Every_Year_Chk.Value == 1};
+}
 
 }  // namespace editor

@@ -5,19 +5,20 @@
 #include <functional>
 
 #include "events/event_file.h"
-#include "presentation/caption_fitting.h"
-#include "settings/settings.h"
+#include "presentation/main_frm.h"
 #include "toolkit/check_box.h"
 #include "toolkit/command_button.h"
 #include "toolkit/text_box.h"
 
 namespace editor {
 
-class Edit_Frm : public events::Editor_Input {
+/// The number of words between blanks and line ends; tabs are part of a word.
+std::int32_t CountWords(std::string_view text);
+
+class Edit_Frm {
  public:
-  Edit_Frm(toolkit::Backend& backend, presentation::Arrangement& arrangement,
-           presentation::Caption_Fitting& caption_fitting, events::Event_File& event_file,
-           const settings::Settings& settings, state::Calendar_State& calendar);
+  Edit_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_frm, events::Event_File& event_file,
+           const settings::Settings& settings, state::Calendar_State& calendar, std::function<void()> idle_restart);
 
   toolkit::Form Window;
   toolkit::Label Date_Lbl;
@@ -26,16 +27,12 @@ class Edit_Frm : public events::Editor_Input {
   toolkit::Command_Button Ok_Btn, Cancel_Btn;
   toolkit::Command_Button Apply_Btn;  ///< enabled while there is something to save
 
-  /// What the closing of the window tells, by whichever way it closes.
-  std::function<void()> Idle_Restart;
-
   /// Saves the text for Selected_Date, shows it in the box Current_Box and closes the window. Throws as
   /// Event_File::Check_For_Pre.
   void Apply_Btn_Click();
 
-  [[nodiscard]] std::string Message_Text() const override;
-  [[nodiscard]] bool Every_Year() const override;
-  void Tick_Every_Year() override;
+  /// The text and the tick as they stand in the window; empty while it isn't open.
+  [[nodiscard]] events::Day_Event Content() const;
 
  private:
   void Place_Controls();
@@ -44,11 +41,11 @@ class Edit_Frm : public events::Editor_Input {
   void Message_Txt_Change();
   void Show_In_Box(const std::string& text);
 
-  presentation::Arrangement& arrangement_;
-  presentation::Caption_Fitting& caption_fitting_;
+  presentation::Main_Frm& main_frm_;
   events::Event_File& event_file_;
   const settings::Settings& settings_;
   state::Calendar_State& calendar_;
+  const std::function<void()> idle_restart_;  // at each closing of the window
 };
 
 }  // namespace editor

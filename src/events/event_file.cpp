@@ -14,8 +14,8 @@ constexpr const char* saving_failed = "Error saving data file.";
 }  // namespace
 
 Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
-                       const state::Calendar_State& calendar, Editor_Input& editor)
-    : files_(files), channel_(channel), message_box_(message_box), calendar_(calendar), editor_(editor),
+                       const state::Calendar_State& calendar)
+    : files_(files), channel_(channel), message_box_(message_box), calendar_(calendar),
       path_(files.Program_Folder() + "\\calendar.dat") {}
 
 void Event_File::Load_File() {
@@ -31,22 +31,21 @@ void Event_File::Load_File() {
   }
 }
 
-void Event_File::Load_Dates() {
-  Clear_Tooltips();
+void Event_File::Load_Dates(const std::function<void(std::string_view line)>& enter_date) {
   if (!files_.File_Exists(path_)) return;
   try {
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));
     std::string_view record;
-    while (reader.Next(record)) Enter_Date(record);
+    while (reader.Next(record)) enter_date(record);
     channel_.Close();
   } catch (const basic::Run_Error&) {
     Report_Failure(loading_failed);
   }
 }
 
-std::string Event_File::Get_Message(bool set_every_year) {
-  std::string message;
-  if (!files_.File_Exists(path_)) return message;
+Day_Event Event_File::Get_Message() {
+  Day_Event found;
+  if (!files_.File_Exists(path_)) return found;
   try {
     const std::string every_year_form = Every_Year_Form(calendar_.Selected_Date);
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));
@@ -54,30 +53,30 @@ std::string Event_File::Get_Message(bool set_every_year) {
     while (reader.Next(record)) {
       const auto [date, text] = basic::Split_At_First(record, '=');
       if (date == every_year_form) {
-        message = text;
-        if (set_every_year) editor_.Tick_Every_Year();
+        found.Text = text;
+        found.Every_Year = true;
       } else if (date == calendar_.Selected_Date) {
-        message = text;
+        found.Text = text;
       }
     }
     channel_.Close();
   } catch (const basic::Run_Error&) {
     Report_Failure(loading_failed);
   }
-  return message;
+  return found;
 }
 
-void Event_File::Check_For_Pre(const std::string& text) {
+void Event_File::Check_For_Pre(const std::string& text, const Day_Event& editor) {
   const std::string every_year_form = Every_Year_Form(calendar_.Selected_Date);
   for (basic::Int16 i = 0; i < temp_lst_.Count(); i += 1) {
     const std::string_view date = basic::Split_At_First(temp_lst_.Line(i), '=').left;
     if (date != every_year_form && date != calendar_.Selected_Date) continue;
     if (text.empty()) temp_lst_.Remove(i);
-    else temp_lst_.Replace(i, Key_To_Write() + "=" + text);
+    else temp_lst_.Replace(i, Key_To_Write(editor.Every_Year) + "=" + text);
     Write_ALL();
     return;
   }
-  Write_New_Line();
+  Write_New_Line(editor);
 }
 
 void Event_File::Write_ALL() {
@@ -90,12 +89,12 @@ void Event_File::Write_ALL() {
   }
 }
 
-void Event_File::Write_New_Line() {
-  if (editor_.Message_Text().empty()) return;
+void Event_File::Write_New_Line(const Day_Event& editor) {
+  if (editor.Text.empty()) return;
   try {
     channel_.Open_For_Writing(path_);
     Write_Temp_Lst();
-    channel_.Write_Record(Key_To_Write() + "=" + basic::Double_Ampersands(editor_.Message_Text()));
+    channel_.Write_Record(Key_To_Write(editor.Every_Year) + "=" + editor.Text);
     channel_.Close();
   } catch (const basic::Run_Error&) {
     Report_Failure(saving_failed);
@@ -106,8 +105,8 @@ void Event_File::Write_Temp_Lst() {
   for (basic::Int16 i = 0; i < temp_lst_.Count(); i += 1) channel_.Write_Record(temp_lst_.Line(i));
 }
 
-std::string Event_File::Key_To_Write() const {
-  return editor_.Every_Year() ? Every_Year_Form(calendar_.Selected_Date) : calendar_.Selected_Date;
+std::string Event_File::Key_To_Write(bool of_every_year) const {
+  return of_every_year ? Every_Year_Form(calendar_.Selected_Date) : calendar_.Selected_Date;
 }
 
 void Event_File::Report_Failure(const char* text) {

@@ -8,7 +8,6 @@
 #include <functional>
 
 #include "basic/file_channel.h"
-#include "events/editor_input.h"
 #include "events/temp_lst.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
@@ -16,43 +15,46 @@
 
 namespace events {
 
+/// The event of a day, in the file or in the editor. Everywhere but in the editor's own text box each "&" of a text stands
+/// twice.
+struct Day_Event {
+  std::string Text;
+  bool Every_Year = false;
+};
+
 class Event_File {
  public:
   Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
-             const state::Calendar_State& calendar, Editor_Input& editor);
-
-  /// What Load_Dates begins with, and what it does with every line; the latter may throw Run_Error.
-  std::function<void()> Clear_Tooltips;
-  std::function<void(std::string_view line)> Enter_Date;
+             const state::Calendar_State& calendar);
 
   /// Fills Temp_Lst from the file; without a file it keeps what it holds.
   void Load_File();
 
-  /// Hands every line to Enter_Date, in file order.
-  void Load_Dates();
+  /// Hands every line to `enter_date`, in file order. A Run_Error that it throws ends the reading with the file's message.
+  void Load_Dates(const std::function<void(std::string_view line)>& enter_date);
 
-  /// The text stored for Selected_Date, "&" doubled, "" if there is none; the last line that matches counts. With
-  /// `set_every_year` a matching line of every year ticks the editor's box.
-  std::string Get_Message(bool set_every_year);
+  /// The event stored for Selected_Date: the text of the last line that matches, "" if none does, and whether any line
+  /// that matches is of every year.
+  Day_Event Get_Message();
 
-  /// Replaces the line of Selected_Date by the text ("&" doubled), or removes it if the text is empty, or adds a line
-  /// with the editor's text if there is none. Throws error 5 if it meets a line of Temp_Lst without "=".
-  void Check_For_Pre(const std::string& text);
+  /// Replaces the line of Selected_Date by the text, or removes it if the text is empty. If there is no line, adds one with
+  /// the text that the editor holds, whatever `text` is; none if that is empty. The editor's tick decides whether a written
+  /// line is of every year. Throws error 5 if it meets a line of Temp_Lst without "=".
+  void Check_For_Pre(const std::string& text, const Day_Event& editor);
 
  private:
   void Write_ALL();
-  void Write_New_Line();
+  void Write_New_Line(const Day_Event& editor);
   void Write_Temp_Lst();
 
-  /// Selected_Date, or its every-year form where the editor's box is ticked.
-  [[nodiscard]] std::string Key_To_Write() const;
+  /// Selected_Date, or its every-year form.
+  [[nodiscard]] std::string Key_To_Write(bool of_every_year) const;
   void Report_Failure(const char* text);
 
   platform::Files& files_;
   basic::File_Channel& channel_;
   platform::Message_Box& message_box_;
   const state::Calendar_State& calendar_;
-  Editor_Input& editor_;
   const std::string path_;
   Temp_List temp_lst_;
 };

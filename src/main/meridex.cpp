@@ -1,68 +1,53 @@
 #include "main/meridex.h"
 
-#include "tooltips/clear_tooltips.h"
-
+// The calls that run upwards are the functions handed in here: the splash for the embedding, the idle time for the editor
+// and the balloons, the month for the balloons, and the program's end.
 Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
-    : loop_(system.Loop), instances_(system.Instances), channel_(system.Files), stored_(system.Store),
-      registry_(system.Registry, system.Profiles, system.Files), run_at_startup_(registry_, system.Files),
-      set_wallpaper_(system.Registry, system.Wallpaper),
+    : loop_(system.Loop), waits_(system.Loop, system.Clock), dates_(system.Clock, system.Locale),
+      channel_(system.Files), stored_(system.Store), registry_(system.Registry, system.Profiles, system.Files),
+      run_at_startup_(registry_, system.Files), set_wallpaper_(system.Registry, system.Wallpaper),
       pack_lookup_(system.Files, channel_, system.Pictures, system.Message_Box, stored_, set_wallpaper_),
-      wallpaper_(pack_lookup_, set_wallpaper_, system.Clock, stored_.Values, calendar_), arrangement_(backend),
-      placement_(arrangement_, system.Screen, system.Message_Box, stored_, calendar_),
-      caption_fitting_(arrangement_, stored_.Values, calendar_), colours_(arrangement_, stored_.Values, calendar_),
-      embedding_(system.Shell, arrangement_, stored_.Values, calendar_),
-      editor_(backend, arrangement_, caption_fitting_, event_file_, stored_.Values, calendar_),
-      event_file_(system.Files, channel_, system.Message_Box, calendar_, editor_), splash_(backend, arrangement_),
-      alerts_(system.Clock, system.Locale, system.Message_Box, arrangement_.Main_Frm, stored_.Values, calendar_),
-      grid_(arrangement_, placement_, caption_fitting_, alerts_, system.Clock, system.Locale, stored_.Values,
-            calendar_),
-      title_(system.Clock, system.Locale, stored_.Values, calendar_),
-      view_(arrangement_, grid_, title_, event_file_, alerts_, colours_, system.Clock, calendar_),
-      compact_(arrangement_, placement_, view_, editor_, system.Clock, stored_.Values, calendar_),
-      edit_box_(editor_, event_file_, grid_, system.Locale, system.Message_Box, calendar_),
-      menus_(system.Popup_Menu, arrangement_, grid_, view_, compact_, edit_box_, event_file_, system.Clock,
-             system.Locale, stored_, calendar_),
-      box_mouse_(arrangement_, placement_, compact_, view_, grid_, edit_box_, menus_, event_file_, system.Loop,
-                 system.Clock, stored_.Values, calendar_),
-      function_keys_(arrangement_, placement_, compact_, view_, grid_, event_file_, system.Message_Box, system.Clock,
-                     system.Locale, stored_, calendar_),
-      balloons_(backend, system.Screen, system.Clock, arrangement_, calendar_),
-      date_watch_(backend, arrangement_, colours_, embedding_, placement_, compact_, view_, grid_, wallpaper_,
-                  system.Clock, system.Locale, stored_.Values, calendar_),
-      start_up_(system.Instances, stored_, arrangement_, colours_, embedding_, placement_, wallpaper_, grid_, view_,
-                compact_, date_watch_, run_at_startup_, system.Clock, calendar_) {
-  Tie();
-}
+      wallpaper_(pack_lookup_, set_wallpaper_, system.Clock, stored_.Values, calendar_),
+      event_file_(system.Files, channel_, system.Message_Box, calendar_),
 
-void Meridex::Tie() {
-  event_file_.Clear_Tooltips = [this] { tooltips::Clear_Tooltips(arrangement_); };
-  event_file_.Enter_Date = [this](std::string_view line) { grid_.Enter_Date(line); };
-  editor_.Idle_Restart = [this] { compact_.Idle_Restart(); };
-  embedding_.Show_Splash = [this] { splash_.Show(); };
-  balloons_.Calls.Rebuild_Month = [this] { view_.Redraw_Grid(); };
-  balloons_.Calls.Idle_Restart = [this] { compact_.Idle_Restart(); };
-  balloons_.Day_Of_Box = [this](basic::Int16 box) { return grid_.Day_Of_Box(box); };
-  box_mouse_.Balloon_Tooltip = [this](const std::string& text) { balloons_.Balloon_Tooltip(text); };
-  menus_.Exit = [this] { Exit(); };
-  instances_.On_Close_Request = [this] { Exit(); };
-  arrangement_.Main_Frm.On_Unload = [this] { date_watch_.Dectect_Date_Timer.Disable(); };
-  arrangement_.Main_Frm.On_Close = [this] { Exit(); };
-  splash_.On_Closed = [this] { Quit_Behind_Last_Window(); };
+      main_frm_(backend), placement_(main_frm_, system.Screen, system.Message_Box, stored_, calendar_),
+      colours_(main_frm_, stored_.Values, calendar_), splash_(backend, main_frm_, [this] { Quit_After_Last_Window(); }),
+      embedding_(system.Shell, main_frm_, stored_.Values, calendar_, [this] { splash_.Show(); }),
+      editor_(backend, main_frm_, event_file_, stored_.Values, calendar_, [this] { desk_.Idle_Restart(); }),
+
+      alerts_(dates_, system.Message_Box, main_frm_.Window, stored_.Values, calendar_),
+      grid_(main_frm_, placement_, alerts_, dates_, stored_.Values, calendar_),
+      title_(main_frm_, dates_, stored_.Values, calendar_),
+      view_(grid_, title_, event_file_, colours_, dates_, calendar_),
+      compact_(main_frm_, placement_, view_, dates_, stored_.Values, calendar_),
+      edit_box_(editor_, event_file_, grid_, dates_, system.Message_Box, calendar_),
+      desk_(view_, grid_, compact_, edit_box_, placement_, wallpaper_, {[this] { Exit(); }}),
+      balloons_(backend, system.Screen, main_frm_, calendar_,
+                {[this] { desk_.Rebuild_Month(); }, [this] { desk_.Idle_Restart(); }}),
+      menus_(system.Popup_Menu, main_frm_, desk_, dates_, stored_, calendar_),
+      hold_(desk_, event_file_, balloons_, waits_, stored_.Values, calendar_),
+      box_mouse_(main_frm_, placement_, desk_, menus_, hold_),
+      function_keys_(main_frm_, desk_, dates_, event_file_, system.Message_Box, stored_),
+      date_watch_(backend, desk_, embedding_, dates_),
+      start_up_(system.Instances, stored_, desk_, embedding_, date_watch_, run_at_startup_) {
+  system.Instances.On_Close_Request = [this] { Exit(); };
+  main_frm_.Window.On_Unload = [this] { date_watch_.Dectect_Date_Timer.Disable(); };
+  main_frm_.Window.On_Close = [this] { Exit(); };
 }
 
 void Meridex::Start() {
-  arrangement_.Main_Frm.Load();
+  main_frm_.Window.Load();
   start_up_.Load();
-  arrangement_.Main_Frm.Show(false);
+  main_frm_.Window.Show(false);
 }
 
 void Meridex::Exit() {
   editor_.Window.Unload();
   balloons_.Unload_All();
-  arrangement_.Main_Frm.Unload();
-  Quit_Behind_Last_Window();
+  main_frm_.Window.Unload();
+  Quit_After_Last_Window();
 }
 
-void Meridex::Quit_Behind_Last_Window() {
-  if (!arrangement_.Main_Frm.Loaded() && !splash_.Window.Loaded()) loop_.Quit();
+void Meridex::Quit_After_Last_Window() {
+  if (!main_frm_.Window.Loaded() && !splash_.Window.Loaded()) loop_.Quit();
 }

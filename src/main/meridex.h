@@ -4,10 +4,9 @@
 #include "basic/file_channel.h"
 #include "calendar/box_mouse.h"
 #include "calendar/function_keys.h"
+#include "calendar/splash_frm.h"
 #include "calendar/start_up.h"
-#include "packs/wallpaper_stuff.h"
 #include "platform/system.h"
-#include "tooltips/balloon_tooltip.h"
 
 class Meridex {
  public:
@@ -16,17 +15,18 @@ class Meridex {
   /// The load of the calendar window, and the window on the screen. Throws Run_Error where the load ends the program.
   void Start();
 
-  /// Closes all windows; the program ends with the last of them, the splash, where it still shows. Events and settings are on disk already.
+  /// Closes all windows; the program ends with the last of them, the splash, where it still shows. Events and settings are
+  /// on disk already.
   void Exit();
 
   [[nodiscard]] const state::Calendar_State& State() const { return calendar_; }
 
  private:
-  void Tie();
-  void Quit_Behind_Last_Window();
+  void Quit_After_Last_Window();
 
   platform::Event_Loop& loop_;
-  platform::Instances& instances_;
+  platform::Waits waits_;
+  calendar::Dates dates_;
   basic::File_Channel channel_;
   state::Calendar_State calendar_;
   settings::Stored_Settings stored_;
@@ -35,27 +35,27 @@ class Meridex {
   packs::Set_Wallpaper_Mod set_wallpaper_;
   packs::Pack_Lookup pack_lookup_;
   packs::Wallpaper_Stuff wallpaper_;
-
-  presentation::Arrangement arrangement_;
-  presentation::Placement placement_;
-  presentation::Caption_Fitting caption_fitting_;
-  presentation::Colours colours_;
-  presentation::Desktop_Embedding embedding_;
-
-  editor::Edit_Frm editor_;
   events::Event_File event_file_;
 
+  presentation::Main_Frm main_frm_;
+  presentation::Placement placement_;
+  presentation::Colours colours_;
   calendar::Splash_Frm splash_;
+  presentation::Desktop_Embedding embedding_;
+  editor::Edit_Frm editor_;
+
   calendar::Alerts alerts_;
   calendar::Month_Grid grid_;
   calendar::Title_Text title_;
   calendar::Month_View view_;
   calendar::Compact compact_;
   calendar::Edit_Box edit_box_;
+  calendar::Desk desk_;
+  tooltips::Balloons balloons_;
   calendar::Popup_Menus menus_;
+  calendar::Box_Hold hold_;
   calendar::Box_Mouse box_mouse_;
   calendar::Function_Keys function_keys_;
-  tooltips::Balloons balloons_;
   calendar::Date_Watch date_watch_;
   calendar::Start_Up start_up_;
 };

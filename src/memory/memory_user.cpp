@@ -1,6 +1,6 @@
 #include "memory/memory_user.h"
 
-#include <stdexcept>
+#include <algorithm>
 
 #include "toolkit/form.h"
 
@@ -23,20 +23,25 @@ Mouse_Event In_Window(const Control* control, Mouse_Event event) {
 /// The window that a move or a release goes to, and the place as seen from there.
 struct Seen {
   Form* window;
-  Control* over;
+  std::optional<Control*> over;
   Mouse_Event event;
 };
 
+/// What of the window lies at a place that is meant for one of its controls, or for its ground.
+std::optional<Control*> Under(const Form& window, Control* control, const Mouse_Event& event) {
+  const toolkit::Bounds place =
+      control != nullptr ? control->In_Twips() : toolkit::Bounds{0, 0, window.Width, window.Height};
+  const bool inside = toolkit::Bounds{0, 0, place.Width, place.Height}.Contains(event.X, event.Y);
+  if (!inside || (control != nullptr && !control->Visible)) return std::nullopt;
+  return control;
+}
+
 /// The one window that has the mouse sees it everywhere.
 Seen See(const Memory_Windows& windows, Form& window, Control* control, const Mouse_Event& event) {
-  const bool shown = control == nullptr || control->Visible;
-  const bool inside =
-      control == nullptr ||
-      toolkit::Bounds{0, 0, control->In_Twips().Width, control->In_Twips().Height}.Contains(event.X, event.Y);
-  Seen seen{&window, shown && inside ? control : nullptr, In_Window(control, event)};
+  Seen seen{&window, Under(window, control, event), In_Window(control, event)};
   if (windows.Mouse() == nullptr || &windows.Mouse()->Form() == &window) return seen;
   seen.window = &windows.Mouse()->Form();
-  seen.over = nullptr;
+  seen.over = std::nullopt;
   seen.event.X += window.Left - seen.window->Left;
   seen.event.Y += window.Top - seen.window->Top;
   return seen;
@@ -49,20 +54,56 @@ std::size_t Line_Start(const std::string& text, std::size_t at) {
 
 std::size_t Line_End(const std::string& text, std::size_t at) { return std::min(text.find("\r\n", at), text.size()); }
 
+/// The same column of the line before or after, or its end if it is shorter.
+std::size_t In_Other_Line(const std::string& text, std::size_t at, bool before) {
+  const std::size_t line = Line_Start(text, at), column = at - line, end = Line_End(text, at);
+  if (before && line == 0) return at;
+  if (!before && end == text.size()) return at;
+  const std::size_t other = before ? Line_Start(text, line - 2) : end + 2;
+  return std::min(other + column, Line_End(text, other));
+}
+
+/// Where the caret goes from the beginning or the end of the selection. Lines break at CR LF alone; a page holds any text.
+std::size_t Caret_After(const std::string& text, std::size_t start, std::size_t end, int key) {
+  switch (key) {
+    case toolkit::key_left: return start - (start == 0 ? 0 : text.substr(0, start).ends_with("\r\n") ? 2 : 1);
+    case toolkit::key_right: return std::min(end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1), text.size());
+    case toolkit::key_home: return Line_Start(text, start);
+    case toolkit::key_end: return Line_End(text, end);
+    case toolkit::key_up: return In_Other_Line(text, start, true);
+    case toolkit::key_down: return In_Other_Line(text, end, false);
+    case toolkit::key_page_up: return 0;
+    default: return text.size();
+  }
+}
+
 }  // namespace
 
 void Memory_User::Press(Form& window, Control* control, const Mouse_Event& event) {
-  input_.Press(window, control, In_Window(control, event));
+  Begin(window, control, event, false);
 }
 
 void Memory_User::Press_Twice(Form& window, Control* control, const Mouse_Event& event) {
-  input_.Press_Twice(window, control, In_Window(control, event));
+  Begin(window, control, event, true);
+}
+
+void Memory_User::Begin(Form& window, Control* control, const Mouse_Event& event, bool twice) {
+  Form* to = &window;
+  Mouse_Event place = In_Window(control, event);
+  // A second button goes where the mouse is held; the same one again must have come up elsewhere.
+  if (windows_.Mouse() != nullptr && !input_.Holds(event.Button)) {
+    const Seen seen = See(windows_, window, control, event);
+    to = seen.window;
+    place = seen.event;
+  }
+  if (twice) input_.Press_Twice(*to, control, place);
+  else input_.Press(*to, control, place);
 }
 
 void Memory_User::Move(Form& window, Control* control, const Mouse_Event& event) {
   const bool held = windows_.Mouse() != nullptr;
   const Seen seen = See(windows_, window, control, event);
-  // A move over a control is meant for it, wherever the place lies; only what has the mouse looks at the place.
+  // Without the mouse held a move is meant for the control, wherever the place lies.
   input_.Move(*seen.window, held ? seen.over : control, seen.event);
 }
 
@@ -72,15 +113,19 @@ void Memory_User::Release(Form& window, Control* control, const Mouse_Event& eve
 }
 
 void Memory_User::Press_Key(Form& window, const Typed_Key& key) {
+  const bool alt_alone = key.Key.Alt && !key.Key.Ctrl;
   const bool taken = input_.Key_Down(window, key.Key) ||
-                     (key.Key.Alt && key.Text.size() == 1 && input_.Accelerator(window, key.Text.front()));
+                     (alt_alone && key.Text.size() == 1 && input_.Accelerator(window, key.Text.front()));
+  if (!taken && alt_alone && key.Key.Code == toolkit::key_f4) window.Close_Requested();
   if (!taken && input_.Is_There(&window) && window.Accepts_Input() && !key.Key.Alt && !key.Key.Ctrl)
     if (auto* const box = dynamic_cast<toolkit::Text_Box*>(window.Focused())) Key_In_Text_Box(*box, key);
   if (Form* const active = windows_.Active()) input_.Key_Up(*active, key.Key);
 }
 
 void Memory_User::Type(toolkit::Text_Box& box, const std::string& text) {
-  box.Window.Set_Focus(box);
+  Form& window = box.Window;
+  window.Set_Focus(box);
+  if (!input_.Is_There(&window, &box)) return;
   box.SelStart.Keep(static_cast<int>(text.size()));
   box.SelLength.Keep(0);
   box.User_Text(text);
@@ -88,19 +133,12 @@ void Memory_User::Type(toolkit::Text_Box& box, const std::string& text) {
 
 void Memory_User::Key_In_Text_Box(toolkit::Text_Box& box, const Typed_Key& key) {
   if (!key.Text.empty()) return box.User_Character(key.Text);
-  if (key.Key.Code >= toolkit::key_f1 || key.Key.Code == toolkit::key_escape) return;
+  if (key.Key.Code < toolkit::key_page_up || key.Key.Code > toolkit::key_down) return;
+  if (key.Key.Shift) throw Not_Supported("selecting by keys in the in-memory text box");
   const std::string& text = box.Text;
   const auto start = static_cast<std::size_t>(box.SelStart());
-  const auto end = start + static_cast<std::size_t>(box.SelLength());
-  std::size_t caret = 0;
-  switch (key.Key.Code) {
-    case toolkit::key_left: caret = start - (start == 0 ? 0 : text.substr(0, start).ends_with("\r\n") ? 2 : 1); break;
-    case toolkit::key_right: caret = std::min(end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1), text.size()); break;
-    case toolkit::key_home: caret = Line_Start(text, start); break;
-    case toolkit::key_end: caret = Line_End(text, end); break;
-    default: throw std::logic_error("a key that the in-memory text box doesn't know");
-  }
-  box.SelStart.Keep(static_cast<int>(caret));
+  const std::size_t end = start + static_cast<std::size_t>(box.SelLength());
+  box.SelStart.Keep(static_cast<int>(Caret_After(text, start, end, key.Key.Code)));
   box.SelLength.Keep(0);
 }
 

@@ -2,6 +2,7 @@
 // the system has controls of its own that work by themselves, such as the text box, it does what they would do.
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,11 @@
 #include "toolkit/text_box.h"
 
 namespace memory {
+
+/// What the in-memory window system can't do, and doesn't pretend to.
+struct Not_Supported : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 
 /// A key with the text that it types, if any: "\r\n" for Enter, " " for the space key.
 struct Typed_Key {
@@ -28,15 +34,16 @@ class Memory_User {
   void Move(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
   void Release(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
 
-  /// A key is pressed in a window and released in the one that is active then. Throws std::logic_error for a key that the
-  /// in-memory text box doesn't know.
+  /// A key is pressed in a window and released in the one that is active then. Throws Not_Supported for what the in-memory
+  /// text box can't do.
   void Press_Key(toolkit::Form& window, const Typed_Key& key);
 
   /// The user replaces the whole text of a box.
   void Type(toolkit::Text_Box& box, const std::string& text);
 
  private:
-  void Key_In_Text_Box(toolkit::Text_Box& box, const Typed_Key& key);
+  void Begin(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event, bool twice);
+  static void Key_In_Text_Box(toolkit::Text_Box& box, const Typed_Key& key);
 
   Memory_Windows& windows_;
   toolkit::Input& input_;

@@ -34,13 +34,14 @@ toolkit::Form* Memory_Windows::Active() const {
 
 void Memory_Windows::Tell_Activated(Memory_Peer* peer) {
   if (peer == nullptr || silent_ || !Is_Loaded(peer) || peer != Active_Peer()) return;
-  loop_.Dispatch([this, peer] { input_.Activity_Came(peer->Form()); });
+  input_.Activity_Came(peer->Form());
+  loop_.Dispatch([this] { input_.Tell_Of_Activity(); });
 }
 
 void Memory_Windows::Tell_Deactivated(Memory_Peer* peer) {
   if (peer == nullptr || silent_ || !Is_Loaded(peer)) return;
   input_.Activity_Went(peer->Form());
-  loop_.Dispatch([this] { input_.Tell_Of_Lost_Activity(); });
+  loop_.Dispatch([this] { input_.Tell_Of_Activity(); });
 }
 
 void Memory_Windows::Make_Active(Memory_Peer* peer) {

@@ -22,6 +22,9 @@ class Wallpaper_Stuff {
   /// it before the failure stays. Throws error 5, 6 or 13 at a value that isn't three numbers, which ends the program.
   void Get_Wallpaper_Stuff(const std::string& pack_name);
 
+  /// The same with the pack that the settings name.
+  void Get_Wallpaper_Stuff() { Get_Wallpaper_Stuff(settings_.Pack_Name); }
+
  private:
   Pack_Lookup& packs_;
   Set_Wallpaper_Mod& wallpaper_;

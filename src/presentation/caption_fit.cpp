@@ -1,6 +1,7 @@
 #include "presentation/caption_fit.h"
 
 #include "basic/run_error.h"
+#include "presentation/box_style.h"
 
 namespace presentation {
 
@@ -8,6 +9,20 @@ namespace {
 
 constexpr std::string_view line_break = "\r\n";
 constexpr std::string_view dots = "...";
+
+/// Captions have the window's own font.
+class Window_Measure final : public Text_Measure {
+ public:
+  explicit Window_Measure(const toolkit::Form& window) : window_(window) {}
+
+  [[nodiscard]] double Width(std::string_view text) const override { return window_.Text_Width(text); }
+  [[nodiscard]] std::size_t Longest_Beginning(std::string_view text, double limit) const override {
+    return window_.Longest_Beginning(text, limit);
+  }
+
+ private:
+  const toolkit::Form& window_;
+};
 
 }  // namespace
 
@@ -54,6 +69,19 @@ std::string Fit_One_Line(std::string_view text, double width, const Text_Measure
   const std::size_t length = measure.Longest_Beginning(text, width);
   if (length < dots.size()) throw basic::Run_Error(basic::Error_Number::Invalid_Procedure_Call);
   return std::string(text.substr(0, length - dots.size())).append(dots);
+}
+
+basic::Int16 DDD_Style(const settings::Settings& settings, const state::Calendar_State& calendar) {
+  if (settings.Use_Themes == 0 || settings.Use_Theme_Style == 0) return settings.Style;
+  if (settings.Use_Themes == 1 && settings.Use_Theme_Style == 1) return calendar.Pack_Box_Style;
+  return 0;
+}
+
+void DotDotDot(Main_Frm& main_frm, std::string_view text, toolkit::Label& caption, basic::Int16 style) {
+  const Window_Measure measure(main_frm.Window);
+  const double width = caption.In_Twips().Width;
+  caption.Caption = style == square_box ? Fit_Three_Lines(text, width, measure) : Fit_One_Line(text, width, measure);
+  main_frm.DotDotDot_Lbl.Caption = text;
 }
 
 }  // namespace presentation

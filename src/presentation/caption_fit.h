@@ -1,4 +1,5 @@
-// The fitting of an event's text into the caption of its day box, as a computation over a measure of text widths.
+// The fitting of an event's text into the caption of its day box: a computation over a measure of text widths, and its
+// writing into the caption.
 //
 // The tests for a fit differ on purpose, and the difference shows where a text is exactly as wide as its box: a whole
 // text or a rest fits only if it is narrower, while a line under construction goes on growing at the exact width.
@@ -6,6 +7,8 @@
 
 #include <string>
 #include <string_view>
+
+#include "presentation/main_frm.h"
 
 namespace presentation {
 
@@ -32,5 +35,13 @@ std::string Fit_Three_Lines(std::string_view text, double width, const Text_Meas
 /// One line, cut at any character and ended with dots where it is too wide. Throws error 5 if fewer than three
 /// characters fit.
 std::string Fit_One_Line(std::string_view text, double width, const Text_Measure& measure);
+
+/// The style that captions are fitted for. Differs from the style in force where a switch of the packs is neither 0
+/// nor 1: it is 0 then.
+basic::Int16 DDD_Style(const settings::Settings& settings, const state::Calendar_State& calendar);
+
+/// Writes as much of the text ("&" doubled) into the caption as fits in the style, and leaves the whole text in
+/// DotDotDot_Lbl. Throws error 5 if fewer than three characters fit where one line must be cut.
+void DotDotDot(Main_Frm& main_frm, std::string_view text, toolkit::Label& caption, basic::Int16 style);
 
 }  // namespace presentation

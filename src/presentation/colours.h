@@ -1,7 +1,7 @@
 // The colour settings, carried onto the calendar window's labels.
 #pragma once
 
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "settings/settings.h"
 #include "state/calendar_state.h"
 
@@ -9,7 +9,7 @@ namespace presentation {
 
 class Colours {
  public:
-  Colours(Arrangement& arrangement, const settings::Settings& settings, const state::Calendar_State& calendar);
+  Colours(Main_Frm& main_frm, const settings::Settings& settings, state::Calendar_State& calendar);
 
   /// Paints everything; leaves the title row in the inactive colour while another window is active.
   void Set_Colours();
@@ -24,12 +24,16 @@ class Colours {
   /// The title row as inactive; the back colour stays.
   void Colour_Inactive();
 
+  /// On each tick: paints the title row anew if the window has become active or inactive since the last.
+  void Follow_Active_State();
+
  private:
   void Colour_Title_Row(toolkit::Colour colour);
+  [[nodiscard]] bool Is_Active() const;
 
-  Arrangement& arrangement_;
+  Main_Frm& main_frm_;
   const settings::Settings& settings_;
-  const state::Calendar_State& calendar_;
+  state::Calendar_State& calendar_;
 };
 
 }  // namespace presentation

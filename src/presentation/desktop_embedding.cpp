@@ -1,5 +1,7 @@
 #include "presentation/desktop_embedding.h"
 
+#include <utility>
+
 namespace presentation {
 
 namespace {
@@ -12,25 +14,27 @@ constexpr int no_colour = -1;
 
 }  // namespace
 
-Desktop_Embedding::Desktop_Embedding(platform::Desktop_Shell& shell, Arrangement& arrangement,
-                                     const settings::Settings& settings, state::Calendar_State& calendar)
-    : shell_(shell), arrangement_(arrangement), settings_(settings), calendar_(calendar) {}
+Desktop_Embedding::Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& main_frm,
+                                     const settings::Settings& settings, state::Calendar_State& calendar,
+                                     std::function<void()> show_splash)
+    : shell_(shell), main_frm_(main_frm), settings_(settings), calendar_(calendar),
+      show_splash_(std::move(show_splash)) {}
 
 void Desktop_Embedding::No_ShowDesktop_and_IconColours() {
   progman_hwnd_ = shell_.Find_Top_Window("Progman", "Program Manager");
   if (progman_hwnd_ == 0) return;
-  if (settings_.Show_Splash == 1) Show_Splash();
+  if (settings_.Show_Splash == 1) show_splash_();
   defview_hwnd_ = shell_.Find_Child(progman_hwnd_, "SHELLDLL_DefView");
   if (defview_hwnd_ == 0) return;
   iconlist_hwnd_ = shell_.Find_Child(defview_hwnd_, "SysListView32");
   if (iconlist_hwnd_ == 0) return;
   calendar_.Desktop_Back_Colour = shell_.Send(iconlist_hwnd_, get_text_back_colour, 0);
   calendar_.Desktop_Text_Colour = shell_.Send(iconlist_hwnd_, get_text_colour, 0);
-  shell_.Set_Parent(arrangement_.Main_Frm.Handle(), progman_hwnd_);
+  shell_.Set_Parent(main_frm_.Window.Handle(), progman_hwnd_);
 }
 
 void Desktop_Embedding::Keep_Desktop_Text_Clear() {
-  if (iconlist_hwnd_ == 0) return;
+  if (settings_.Trans_Icons != 1 || iconlist_hwnd_ == 0) return;
   if (shell_.Send(iconlist_hwnd_, get_text_back_colour, 0) == no_colour) return;
   shell_.Send(iconlist_hwnd_, set_text_back_colour, no_colour);
   shell_.Invalidate(iconlist_hwnd_);

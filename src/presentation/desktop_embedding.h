@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "platform/desktop_shell.h"
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "settings/settings.h"
 #include "state/calendar_state.h"
 
@@ -13,10 +13,8 @@ namespace presentation {
 
 class Desktop_Embedding {
  public:
-  Desktop_Embedding(platform::Desktop_Shell& shell, Arrangement& arrangement, const settings::Settings& settings,
-                    state::Calendar_State& calendar);
-
-  std::function<void()> Show_Splash;
+  Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& main_frm, const settings::Settings& settings,
+                    state::Calendar_State& calendar, std::function<void()> show_splash);
 
   /// Once, in the load: finds the shell's windows, shows the splash if the desktop is there and the setting wants it, takes
   /// the icons' two colours and moves the calendar under the desktop's top window. Stops at the first window missing.
@@ -25,14 +23,15 @@ class Desktop_Embedding {
   /// Does nothing; the tick does the work.
   void Set_Transparent_Icon_Stuff() {}
 
-  /// On each tick: takes the background off the icons' text if it has one.
+  /// On each tick: where the setting wants it, takes the background off the icons' text if it has one.
   void Keep_Desktop_Text_Clear();
 
  private:
   platform::Desktop_Shell& shell_;
-  Arrangement& arrangement_;
+  Main_Frm& main_frm_;
   const settings::Settings& settings_;
   state::Calendar_State& calendar_;
+  const std::function<void()> show_splash_;
   platform::Window_Handle progman_hwnd_ = 0;
   platform::Window_Handle defview_hwnd_ = 0;
   platform::Window_Handle iconlist_hwnd_ = 0;

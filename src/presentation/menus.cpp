@@ -11,11 +11,11 @@ constexpr const char* month_names[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
 
 }  // namespace
 
-std::vector<platform::Menu_Item> Box_Menu(const Arrangement& arrangement) {
-  return {{clear_event, "Clear", false, arrangement.Clear_Pic.Picture},
-          {edit_event, "Edit", false, arrangement.File_Pic.Picture},
-          {open_settings, "Settings", false, arrangement.Settings_Pic.Picture},
-          {exit_program, "Exit", false, arrangement.Exit_Pic.Picture}};
+std::vector<platform::Menu_Item> Box_Menu(const Main_Frm& main_frm) {
+  return {{clear_event, "Clear", false, main_frm.Clear_Pic.Picture},
+          {edit_event, "Edit", false, main_frm.File_Pic.Picture},
+          {open_settings, "Settings", false, main_frm.Settings_Pic.Picture},
+          {exit_program, "Exit", false, main_frm.Exit_Pic.Picture}};
 }
 
 std::vector<platform::Menu_Item> Months_Menu(basic::Int16 view_month, basic::Int16 view_year, int present_month,

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/popup_menu.h"
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 
 namespace presentation {
 
@@ -12,7 +12,7 @@ enum Box_Command { clear_event = 1, edit_event = 2, open_settings = 3, exit_prog
 enum Year_Command { two_back = 1, one_back = 2, current_month = 3, one_on = 4, two_on = 5, expand = 999 };
 enum Start_Day_Command { set_as_start_day = 1 };
 
-std::vector<platform::Menu_Item> Box_Menu(const Arrangement& arrangement);
+std::vector<platform::Menu_Item> Box_Menu(const Main_Frm& main_frm);
 
 /// The twelve months; that on view is grey, the present one marked if its year is on view.
 std::vector<platform::Menu_Item> Months_Menu(basic::Int16 view_month, basic::Int16 view_year, int present_month,

@@ -30,12 +30,12 @@ Desktop_Rect GetDesktopRect(platform::Screen& screen, bool in_twips) {
           Round_To_Even(area.Height * down)};
 }
 
-Placement::Placement(Arrangement& arrangement, platform::Screen& screen, platform::Message_Box& message_box,
+Placement::Placement(Main_Frm& main_frm, platform::Screen& screen, platform::Message_Box& message_box,
                      settings::Stored_Settings& stored, const state::Calendar_State& calendar)
-    : arrangement_(arrangement), screen_(screen), message_box_(message_box), stored_(stored), calendar_(calendar) {}
+    : main_frm_(main_frm), screen_(screen), message_box_(message_box), stored_(stored), calendar_(calendar) {}
 
 void Placement::Position_Form(basic::Int16 position) {
-  toolkit::Form& form = arrangement_.Main_Frm;
+  toolkit::Form& form = main_frm_.Window;
   form.Scale = toolkit::Scale_Unit::Twips;
   const Desktop_Rect area = GetDesktopRect(screen_, true);
   const double right = area.Width - form.Width + area.Left;
@@ -84,35 +84,35 @@ bool Placement::Dragging_Allowed() const {
 
 void Placement::Start_Drag(double x, double y) {
   if (!Dragging_Allowed()) return;
-  toolkit::Form& form = arrangement_.Main_Frm;
+  toolkit::Form& form = main_frm_.Window;
   form.MousePointer = move_pointer;
   drag_start_ = {Round_To_Even(x), Round_To_Even(y), Round_To_Even(form.Left), Round_To_Even(form.Top)};
 }
 
 void Placement::Drag(double x, double y) {
   if (!Dragging_Allowed()) return;
-  toolkit::Form& form = arrangement_.Main_Frm;
+  toolkit::Form& form = main_frm_.Window;
   form.Move(form.Left - (drag_start_.X.Value() - x), form.Top - (drag_start_.Y.Value() - y));
 }
 
 void Placement::End_Drag() {
   if (!Dragging_Allowed()) return;
-  arrangement_.Main_Frm.MousePointer = default_pointer;
+  main_frm_.Window.MousePointer = default_pointer;
   Keep_Place();
   if (Place_Would_Be_Lost()) Ask_For_Manual_Position();
 }
 
 void Placement::Keep_Place() {
   // Both are checked before either is stored: a place beyond 16 bits leaves the settings as they were.
-  const basic::Int16 left = Round_To_Even(arrangement_.Main_Frm.Left), top = Round_To_Even(arrangement_.Main_Frm.Top);
+  const basic::Int16 left = Round_To_Even(main_frm_.Window.Left), top = Round_To_Even(main_frm_.Window.Top);
   stored_.Set(&Settings::Manual_PosX, left);
   stored_.Set(&Settings::Manual_PosY, top);
 }
 
 /// A drag that changed one coordinate alone doesn't count.
 bool Placement::Place_Would_Be_Lost() const {
-  const bool moved = arrangement_.Main_Frm.Left() != drag_start_.Left.Value() &&
-                     arrangement_.Main_Frm.Top() != drag_start_.Top.Value();
+  const bool moved =
+      main_frm_.Window.Left() != drag_start_.Left.Value() && main_frm_.Window.Top() != drag_start_.Top.Value();
   return moved && (stored_.Values.Alignment != manual_position || stored_.Values.Use_Theme_Pos == 1);
 }
 

@@ -4,7 +4,7 @@
 #include "basic/int16.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "settings/stored_settings.h"
 #include "state/calendar_state.h"
 
@@ -22,7 +22,7 @@ Desktop_Rect GetDesktopRect(platform::Screen& screen, bool in_twips);
 
 class Placement {
  public:
-  Placement(Arrangement& arrangement, platform::Screen& screen, platform::Message_Box& message_box,
+  Placement(Main_Frm& main_frm, platform::Screen& screen, platform::Message_Box& message_box,
             settings::Stored_Settings& stored, const state::Calendar_State& calendar);
 
   /// Moves the window to a position from 0 to 9; any other number moves nothing. Leaves the window's coordinate unit at
@@ -58,7 +58,7 @@ class Placement {
   [[nodiscard]] bool Place_Would_Be_Lost() const;
   void Ask_For_Manual_Position();
 
-  Arrangement& arrangement_;
+  Main_Frm& main_frm_;
   platform::Screen& screen_;
   platform::Message_Box& message_box_;
   settings::Stored_Settings& stored_;

@@ -36,16 +36,16 @@ const Style_Layout layouts[] = {
 
 /// The first row and the first column keep their places; every other box follows the first of its row above and the
 /// box of the first row to its left.
-void Place_Box(Arrangement& arrangement, int i, const Style_Layout& layout) {
-  Label& box = arrangement.Box_Lbl[i];
+void Place_Box(Main_Frm& main_frm, int i, const Style_Layout& layout) {
+  Label& box = main_frm.Box_Lbl[i];
   box.Height = layout.box_height;
   box.Width = layout.box_width;
   if (i >= days_of_week) {
-    const Label& above = arrangement.Box_Lbl[(i / days_of_week - 1) * days_of_week];
+    const Label& above = main_frm.Box_Lbl[(i / days_of_week - 1) * days_of_week];
     box.Top = above.Top + above.Height + layout.gap;
   }
   if (i % days_of_week != 0) {
-    const Label& beside = arrangement.Box_Lbl[i % days_of_week - 1];
+    const Label& beside = main_frm.Box_Lbl[i % days_of_week - 1];
     box.Left = beside.Left + beside.Width + layout.gap;
   }
   box.Alignment = layout.box_alignment;
@@ -65,37 +65,37 @@ void Place_Caption(Label& caption, const Label& box, const std::optional<Caption
   caption.Alignment = layout->alignment;
 }
 
-void Place_Header_Row(Arrangement& arrangement) {
+void Place_Header_Row(Main_Frm& main_frm) {
   for (int i = 0; i < days_of_week; ++i) {
-    arrangement.Day_Lbl[i].Left = arrangement.Box_Lbl[i].Left;
-    arrangement.Day_Lbl[i].Width = arrangement.Box_Lbl[0].Width;
+    main_frm.Day_Lbl[i].Left = main_frm.Box_Lbl[i].Left;
+    main_frm.Day_Lbl[i].Width = main_frm.Box_Lbl[0].Width;
   }
-  const Label& last_day = arrangement.Day_Lbl[6];
-  Label& next = arrangement.Next_Month_Lbl;
+  const Label& last_day = main_frm.Day_Lbl[6];
+  Label& next = main_frm.Next_Month_Lbl;
   next.Left = last_day.Left + last_day.Width - next.Width;
-  arrangement.Which_Month_Lbl.Width = next.Left - arrangement.Which_Month_Lbl.Left - 100;
+  main_frm.Which_Month_Lbl.Width = next.Left - main_frm.Which_Month_Lbl.Left - 100;
 }
 
-void Size_Window(Arrangement& arrangement) {
-  const Label& last_column = arrangement.Box_Lbl[6];
-  arrangement.Main_Frm.Width = last_column.Left + last_column.Width + 135;
-  const Label& last_row = arrangement.Box_Lbl[arrangement.Box_Lbl[35].Visible ? 36 : 28];
-  arrangement.Main_Frm.Height = last_row.Top + last_row.Height + 50;
+void Size_Window(Main_Frm& main_frm) {
+  const Label& last_column = main_frm.Box_Lbl[6];
+  main_frm.Window.Width = last_column.Left + last_column.Width + 135;
+  const Label& last_row = main_frm.Box_Lbl[main_frm.Box_Lbl[35].Visible ? 36 : 28];
+  main_frm.Window.Height = last_row.Top + last_row.Height + 50;
 }
 
 }  // namespace
 
-void Which_Style(Arrangement& arrangement, basic::Int16 style) {
-  arrangement.Main_Frm.Scale = toolkit::Scale_Unit::Twips;
+void Which_Style(Main_Frm& main_frm, basic::Int16 style) {
+  main_frm.Window.Scale = toolkit::Scale_Unit::Twips;
   if (style >= thin_box && style <= small_box) {
     const Style_Layout& layout = layouts[style.Value()];
     for (int i = 0; i < box_count; ++i) {
-      Place_Box(arrangement, i, layout);
-      Place_Caption(arrangement.Box_Caption_Lbl[i], arrangement.Box_Lbl[i], layout.caption);
+      Place_Box(main_frm, i, layout);
+      Place_Caption(main_frm.Box_Caption_Lbl[i], main_frm.Box_Lbl[i], layout.caption);
     }
   }
-  Place_Header_Row(arrangement);
-  Size_Window(arrangement);
+  Place_Header_Row(main_frm);
+  Size_Window(main_frm);
 }
 
 }  // namespace presentation

@@ -18,7 +18,7 @@ struct Calendar_State {
   basic::Int16 Current_Box = 0;   ///< the box for which the event editor was last opened
   basic::Int16 Tip_Box = 0;       ///< the box whose balloon was last shown
   bool Mouse_Released = false;    ///< the button went up while a press was being held
-  bool Window_Inactive = false;   ///< the inactive colours are on show
+  bool Window_Inactive = true;    ///< the inactive colours are on show, or nothing has been painted yet
   bool Alerted_Today = false;     ///< no more alerts today
   bool Compact_On = false;        ///< only the title row is shown
   bool Auto_Compacted = false;    ///< compact mode came from the idle timeout

@@ -1,16 +1,34 @@
 #include "toolkit/form.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "toolkit/command_button.h"
 
 namespace toolkit {
 
+namespace {
+
+/// True for as long as it lives.
+class Flag_Set {
+ public:
+  explicit Flag_Set(bool& flag) : flag_(flag) { flag_ = true; }
+  Flag_Set(const Flag_Set&) = delete;
+  Flag_Set& operator=(const Flag_Set&) = delete;
+  ~Flag_Set() { flag_ = false; }
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
 Form::Form(Backend& backend, std::string name, Form_Border border, Form* owner)
     : Font_Properties(static_cast<Property_Owner&>(*this)), Name(std::move(name)), Border(border), Owner(owner),
       backend_(backend) {}
 
+// The controls are gone by now, and the focus with them.
 Form::~Form() { backend_.Input.Remove(*this); }
 
 void Form::Load() {
@@ -26,7 +44,7 @@ void Form::Show(bool activate) {
   if (peer_ == nullptr) return;
   visible_ = true;
   peer_->Show(activate);
-  backend_.Input.Tell_Of_Lost_Activity();
+  backend_.Input.Tell_Of_Activity();
 }
 
 void Form::Hide() {
@@ -37,10 +55,11 @@ void Form::Hide() {
 
 void Form::Unload() {
   if (peer_ == nullptr || unloading_) return;
-  unloading_ = true;
-  if (On_Unload) On_Unload();
-  if (Owner != nullptr && Owner->Visible() && backend_.Active_Form() == this) Owner->Activate();
-  unloading_ = false;
+  {
+    const Flag_Set unloading(unloading_);
+    if (On_Unload) On_Unload();
+    if (Owner != nullptr && Owner->Visible() && backend_.Active_Form() == this) Owner->Activate();
+  }
   visible_ = false;
   backend_.Input.Remove(*this);
   peer_.reset();
@@ -82,9 +101,12 @@ void Form::Set_Round_Region(int width, int height, int corner) {
 bool Form::Minimised() const { return peer_ != nullptr && peer_->Minimised(); }
 
 void Form::Set_Focus(Control& control) {
+  if (&control.Window != this) throw std::logic_error("the focus for a control of another window");
   if (peer_ == nullptr) return;
   backend_.Input.Move_Focus(*this, &control);
-  if (visible_) Activate();
+  if (!visible_) return;
+  Activate();
+  backend_.Input.Tell_Of_Activity();
 }
 
 platform::Window_Handle Form::Handle() const { return peer_ != nullptr ? peer_->Handle() : 0; }
@@ -149,11 +171,14 @@ Command_Button* Form::Enter_Button() const {
 Command_Button* Form::Escape_Button() const { return Button_Marked(&Command_Button::Cancel); }
 
 void Form::Close_Requested() {
+  if (!Accepts_Input()) return;
   if (On_Close) On_Close();
   else Unload();
 }
 
 void Form::Changed(Aspect aspect) {
+  if (aspect == Aspect::Enabled && !Accepts_Input() && backend_.Input.Mouse_Window() == this)
+    backend_.Input.Take_Mouse();
   if (peer_ != nullptr) peer_->Form_Changed(aspect);
   if (aspect == Aspect::Bounds && On_Resize) On_Resize();
 }

@@ -65,7 +65,8 @@ class Form : public Property_Owner, public Font_Properties {
   void Set_Round_Region(int width, int height, int corner);
   [[nodiscard]] bool Minimised() const;
 
-  /// Gives the keys to one of its controls. A window that is visible becomes active by it.
+  /// Gives the keys to one of its controls. A window that is visible becomes active by it. Throws std::logic_error for a
+  /// control of another window.
   void Set_Focus(Control& control);
   [[nodiscard]] platform::Window_Handle Handle() const;
 
@@ -100,7 +101,7 @@ class Form : public Property_Owner, public Font_Properties {
   [[nodiscard]] Command_Button* Escape_Button() const;
   [[nodiscard]] bool Unloading() const { return unloading_; }
 
-  /// The close box: On_Close if it is set, otherwise the window unloads.
+  /// The close box: On_Close if it is set, otherwise the window unloads. Does nothing while the user can't reach the window.
   void Close_Requested();
 
   void Changed(Aspect aspect) override;

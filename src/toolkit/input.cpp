@@ -22,23 +22,20 @@ Mouse_Event Within(const Control& control, Mouse_Event event) {
 
 void Input::Press(Form& form, Control* over, const Mouse_Event& event) { Begin_Press(form, over, event, false); }
 
-void Input::Press_Twice(Form& form, Control* over, const Mouse_Event& event) {
-  const bool double_click = event.Button == Mouse_Button::Left && (over == nullptr || over->Double_Clicks());
-  Begin_Press(form, over, event, double_click);
-}
+void Input::Press_Twice(Form& form, Control* over, const Mouse_Event& event) { Begin_Press(form, over, event, true); }
 
 void Input::Begin_Press(Form& form, Control* over, const Mouse_Event& event, bool twice) {
-  const bool joins = held_ != 0 && (held_ & Bit(event.Button)) == 0 && pressed_window_ == &form;
-  if (joins) {
-    over = pressed_;
-  } else {
-    if (!Bring_Up(form, over)) return;
-    if (over != nullptr && over->Takes_Focus() && event.Button == Mouse_Button::Left) Move_Focus(form, over);
+  const bool joins = held_ != 0 && !Holds(event.Button) && pressed_window_ == &form;
+  if (joins) over = pressed_;
+  if (!Bring_Up(form, over)) return;
+  if (!joins && over != nullptr && over->Can_Have_Focus() && event.Button == Mouse_Button::Left) {
+    Move_Focus(form, over);
     if (!Is_There(&form, over)) return;
   }
-  Hold(form, over, event.Button, twice);
+  const bool double_click = twice && event.Button == Mouse_Button::Left && (over == nullptr || over->Double_Clicks());
+  Hold(form, over, event.Button, double_click);
   if (over == nullptr || !over->Enabled) return;
-  if (twice) {
+  if (double_click) {
     if (over->On_Double_Click) over->On_Double_Click();
   } else if (over->On_Mouse_Down) {
     over->On_Mouse_Down(Within(*over, event));
@@ -48,12 +45,12 @@ void Input::Begin_Press(Form& form, Control* over, const Mouse_Event& event, boo
 /// Makes the window active. Returns whether the user can still reach it and the control after that.
 bool Input::Bring_Up(Form& form, const Control* over) {
   form.Activate();
-  Tell_Of_Lost_Activity();
+  Tell_Of_Activity();
   return Is_There(&form, over) && form.Accepts_Input();
 }
 
 void Input::Hold(Form& form, Control* over, Mouse_Button button, bool twice) {
-  const bool joins = pressed_window_ == &form && pressed_ == over && (held_ & Bit(button)) == 0;
+  const bool joins = held_ != 0 && pressed_window_ == &form && pressed_ == over && !Holds(button);
   if (!joins) Drop_Press();
   pressed_window_ = &form;
   pressed_ = over;
@@ -64,8 +61,8 @@ void Input::Hold(Form& form, Control* over, Mouse_Button button, bool twice) {
   if (over != nullptr && over->Enabled) over->Show_Held(true);
 }
 
-void Input::Move(Form& form, Control* over, const Mouse_Event& event) {
-  Control* target = over;
+void Input::Move(Form& form, std::optional<Control*> over, const Mouse_Event& event) {
+  Control* target = over.value_or(nullptr);
   if (held_ != 0) {
     target = pressed_;
     if (target != nullptr && may_click_ && (held_ & Bit(Mouse_Button::Left)) != 0) target->Show_Held(over == target);
@@ -75,8 +72,8 @@ void Input::Move(Form& form, Control* over, const Mouse_Event& event) {
   if (target != nullptr && target->Enabled && target->On_Mouse_Move) target->On_Mouse_Move(Within(*target, event));
 }
 
-void Input::Release(Form& form, Control* over, const Mouse_Event& event) {
-  if (pressed_window_ != &form || (held_ & Bit(event.Button)) == 0) return;
+void Input::Release(Form& form, std::optional<Control*> over, const Mouse_Event& event) {
+  if (pressed_window_ != &form || !Holds(event.Button)) return;
   Control* const target = pressed_;
   held_ &= ~Bit(event.Button);
   const bool click = event.Button == Mouse_Button::Left && std::exchange(may_click_, false) && over == target;
@@ -111,28 +108,39 @@ void Input::Take_Mouse() {
 }
 
 void Input::Activity_Came(Form& form) {
-  std::erase(went_, &form);
   if (form.Focused() == nullptr) Focus_Refused(form);
   else Move_Focus(form, form.Focused());
-  if (Is_There(&form) && form.On_Activate) form.On_Activate();
+  if (told_active_ == &form) return;
+  told_active_ = &form;
+  untold_.push_back({&form, true});
 }
 
 void Input::Activity_Went(Form& form) {
-  if (Is_There(&form) && !form.Unloading()) went_.push_back(&form);
+  Let_Go_Of_Space(form);
+  if (!Is_There(&form) || form.Unloading() || Modal_Open()) return;
+  if (told_active_ == &form) told_active_ = nullptr;
+  untold_.push_back({&form, false});
 }
 
-void Input::Tell_Of_Lost_Activity() {
-  while (!went_.empty()) {
-    const Form& form = *went_.front();
-    went_.erase(went_.begin());
-    if (form.On_Deactivate) form.On_Deactivate();
+void Input::Tell_Of_Activity() {
+  while (!untold_.empty()) {
+    const Activity next = untold_.front();
+    untold_.erase(untold_.begin());
+    const auto& handler = next.came ? next.form->On_Activate : next.form->On_Deactivate;
+    if (handler) handler();
   }
 }
 
+void Input::Let_Go_Of_Space(const Form& form) {
+  if (Control* const focused = form.Focused()) focused->Show_Held(false);
+}
+
 void Input::Remove(Form& form) {
-  std::erase(forms_, &form);
-  std::erase(went_, &form);
   if (pressed_window_ == &form) Drop_Press();
+  Let_Go_Of_Space(form);
+  std::erase(forms_, &form);
+  std::erase_if(untold_, [&](const Activity& activity) { return activity.form == &form; });
+  if (told_active_ == &form) told_active_ = nullptr;
 }
 
 void Input::Remove(const Control& control) {
@@ -153,6 +161,7 @@ bool Input::Is_There(const Form* form, const Control* control) const {
 
 Input::Modal::Modal(Input& input, const Form* owner) : input_(input) {
   input_.Take_Mouse();
+  for (const Form* const form : input_.forms_) Let_Go_Of_Space(*form);
   ++input_.modals_;
   Tell_Windows(owner);
 }

@@ -8,6 +8,7 @@
 // before they are touched.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,8 +28,8 @@ class Input {
   Input& operator=(const Input&) = delete;
   ~Input() = default;
 
-  // The mouse. `over` is the control under the pointer, nullptr for the window's bare ground; the place is in twips from
-  // the top left of the window's client area.
+  // The mouse. `over` is the control under the pointer, nullptr for the window's bare ground; of a move or a release nullopt
+  // where the pointer isn't over the window. The place is in twips from the top left of the window's client area.
 
   /// Makes the window active, gives the control the focus if it takes it (left button), then the press. The control keeps
   /// the mouse until the last button is up: a second button goes to it too, and the same one again begins anew.
@@ -38,10 +39,10 @@ class Input {
   void Press_Twice(Form& form, Control* over, const Mouse_Event& event);
 
   /// A move of the pointer, with the button that the system reports as held.
-  void Move(Form& form, Control* over, const Mouse_Event& event);
+  void Move(Form& form, std::optional<Control*> over, const Mouse_Event& event);
 
   /// A release without a press does nothing. The left one clicks if it comes over the control that was pressed.
-  void Release(Form& form, Control* over, const Mouse_Event& event);
+  void Release(Form& form, std::optional<Control*> over, const Mouse_Event& event);
 
   /// The system has given the mouse to something else. A press before that gets no release.
   void Mouse_Lost();
@@ -51,6 +52,9 @@ class Input {
 
   /// The window whose control, or bare ground, has the mouse; nullptr if none has.
   [[nodiscard]] Form* Mouse_Window() const { return held_ != 0 ? pressed_window_ : nullptr; }
+
+  /// Whether the button is held since a press on one of the program's windows.
+  [[nodiscard]] bool Holds(Mouse_Button button) const { return (held_ & static_cast<int>(button)) != 0; }
 
   // Keys.
 
@@ -64,13 +68,13 @@ class Input {
 
   // Activity and focus.
 
-  /// The window has become active: its focus comes back, or goes to the first control that takes it.
+  /// The window has become active: its focus comes back, or goes to the first control that takes it. Or it is active no
+  /// longer. The system may report both in the middle of its own work on the windows, so the forms hear of it in
+  /// Tell_Of_Activity, in order, which a backend calls when that work is done. That a message box takes the activity for a
+  /// while and gives it back they don't hear.
   void Activity_Came(Form& form);
-
-  /// The window is no longer active. The system may say so in the middle of its own work on the windows, so the form hears
-  /// of it in Tell_Of_Lost_Activity, which a backend calls when that work is done.
   void Activity_Went(Form& form);
-  void Tell_Of_Lost_Activity();
+  void Tell_Of_Activity();
 
   /// The system has given a control the focus.
   void Focus_Came(Control& control);
@@ -112,6 +116,7 @@ class Input {
  private:
   void Begin_Press(Form& form, Control* over, const Mouse_Event& event, bool twice);
   bool Bring_Up(Form& form, const Control* over);
+  static void Let_Go_Of_Space(const Form& form);
   void Hold(Form& form, Control* over, Mouse_Button button, bool twice);
   void Drop_Press();
   bool Focus_Next(Form& form, bool backwards);
@@ -120,7 +125,14 @@ class Input {
 
   Backend& backend_;
   std::vector<Form*> forms_;
-  std::vector<Form*> went_;  // no longer active, and not told yet
+
+  // What is to be told of the windows' activity, and the window that has been told, or will be, that it is active.
+  struct Activity {
+    Form* form;
+    bool came;
+  };
+  std::vector<Activity> untold_;
+  const Form* told_active_ = nullptr;
 
   // What has the mouse. The buttons that it holds are a sum of Mouse_Button numbers.
   Form* pressed_window_ = nullptr;

@@ -12,24 +12,22 @@ std::string Balloon_Title(std::int32_t days) {
   return basic::To_Text(days) + " days time";
 }
 
-Balloons::Balloons(toolkit::Backend& backend, platform::Screen& screen, platform::Clock& clock,
-                   presentation::Arrangement& arrangement, state::Calendar_State& calendar)
-    : backend_(backend), screen_(screen), clock_(clock), arrangement_(arrangement), calendar_(calendar) {}
+Balloons::Balloons(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
+                   state::Calendar_State& calendar, Balloon_Calls calls)
+    : backend_(backend), screen_(screen), main_frm_(main_frm), calendar_(calendar), calls_(std::move(calls)) {}
 
-void Balloons::Balloon_Tooltip(const std::string& text) {
-  const basic::Serial_Day day = basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(),
-                                                   Day_Of_Box(calendar_.Tip_Box).Value());
-  const std::string title = Balloon_Title(day - clock_.Now().Day);
+void Balloons::Balloon_Tooltip(const std::string& text, std::int32_t days) {
   Drop_Closed();
   // Rebuilding the month can bring up a message, and under it another balloon can open.
-  const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, arrangement_, calendar_, Calls);
+  const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, main_frm_, calendar_, calls_);
   balloons_.push_back(balloon);
-  balloon->SetBalloon(title, text, 0, 0, "i", "Tahoma, if exists", 8);
+  balloon->SetBalloon(Balloon_Title(days), text, 0, 0, "i", "Tahoma, if exists", 8);
   balloon->Show();
 }
 
 void Balloons::Unload_All() {
-  for (const auto& balloon : balloons_) balloon->HideBalloon();
+  // A copy: what a closing brings about may open another.
+  for (const auto& balloon : std::vector(balloons_)) balloon->HideBalloon();
 }
 
 void Balloons::Drop_Closed() {

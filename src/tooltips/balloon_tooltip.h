@@ -4,7 +4,6 @@
 #include <memory>
 #include <vector>
 
-#include "platform/clock.h"
 #include "tooltips/frm_balloon.h"
 
 namespace tooltips {
@@ -14,17 +13,11 @@ std::string Balloon_Title(std::int32_t days);
 
 class Balloons {
  public:
-  Balloons(toolkit::Backend& backend, platform::Screen& screen, platform::Clock& clock,
-           presentation::Arrangement& arrangement, state::Calendar_State& calendar);
+  Balloons(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
+           state::Calendar_State& calendar, Balloon_Calls calls);
 
-  /// To be tied before the first balloon.
-  Balloon_Calls Calls;
-
-  /// The day of a box of the month on view.
-  std::function<basic::Int16(basic::Int16 box)> Day_Of_Box;
-
-  /// Opens a balloon for box Tip_Box with an event's text.
-  void Balloon_Tooltip(const std::string& text);
+  /// Opens a balloon for box Tip_Box with an event's text. The box's day lies `days` days from today.
+  void Balloon_Tooltip(const std::string& text, std::int32_t days);
 
   /// Closes the balloon that is open, if one is.
   void Unload_All();
@@ -35,9 +28,9 @@ class Balloons {
 
   toolkit::Backend& backend_;
   platform::Screen& screen_;
-  platform::Clock& clock_;
-  presentation::Arrangement& arrangement_;
+  presentation::Main_Frm& main_frm_;
   state::Calendar_State& calendar_;
+  const Balloon_Calls calls_;
   std::vector<std::shared_ptr<Frm_Balloon>> balloons_;
 };
 

@@ -20,11 +20,11 @@ constexpr double gap_above = 125;   // twips
 
 bool Tahoma_Exists(toolkit::Backend& backend) { return backend.Font_Given_For("Tahoma") == "Tahoma"; }
 
-Frm_Balloon::Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Arrangement& arrangement,
+Frm_Balloon::Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
                          state::Calendar_State& calendar, const Balloon_Calls& calls)
-    : Window(backend, "frmBalloon", toolkit::Form_Border::None, &arrangement.Main_Frm), lblTitle(Window, "lblTitle"),
+    : Window(backend, "frmBalloon", toolkit::Form_Border::None, &main_frm.Window), lblTitle(Window, "lblTitle"),
       imgDisplayIcon(Window, "imgDisplayIcon"), imgIconXP(Window, "imgIconXP", 1), lblText(Window, "lblText"),
-      backend_(backend), screen_(screen), arrangement_(arrangement), calendar_(calendar), calls_(calls),
+      backend_(backend), screen_(screen), main_frm_(main_frm), calendar_(calendar), calls_(calls),
       close_timer_(backend, "Close_Timer", close_interval) {
   Make_Controls();
   Tie_Events();
@@ -126,16 +126,16 @@ void Frm_Balloon::Shape() {
 }
 
 int Frm_Balloon::Place_Down() const {
-  const toolkit::Bounds& box = arrangement_.Box_Lbl[calendar_.Tip_Box].In_Twips();
-  const double main_top = arrangement_.Main_Frm.Top;
+  const toolkit::Bounds& box = main_frm_.Box_Lbl[calendar_.Tip_Box].In_Twips();
+  const double main_top = main_frm_.Window.Top;
   const double below = box.Top + box.Height + main_top;
   if (below + Window.Height < presentation::GetDesktopRect(screen_, true).Height) return toolkit::Round_To_Even(below);
   return toolkit::Round_To_Even(box.Top + main_top - Window.Height - gap_above);
 }
 
 int Frm_Balloon::Place_Across() const {
-  const toolkit::Bounds& box = arrangement_.Box_Lbl[calendar_.Tip_Box].In_Twips();
-  const double main_left = arrangement_.Main_Frm.Left;
+  const toolkit::Bounds& box = main_frm_.Box_Lbl[calendar_.Tip_Box].In_Twips();
+  const double main_left = main_frm_.Window.Left;
   const double right = box.Left + box.Width + main_left;
   if (right + Window.Width < presentation::GetDesktopRect(screen_, true).Width) return toolkit::Round_To_Even(right);
   return toolkit::Round_To_Even(box.Left + main_left - Window.Width);

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "platform/screen.h"
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "state/calendar_state.h"
 #include "toolkit/timer.h"
 
@@ -19,7 +19,7 @@ struct Balloon_Calls {
 
 class Frm_Balloon {
  public:
-  Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Arrangement& arrangement,
+  Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
               state::Calendar_State& calendar, const Balloon_Calls& calls);
   Frm_Balloon(const Frm_Balloon&) = delete;
   Frm_Balloon& operator=(const Frm_Balloon&) = delete;
@@ -59,7 +59,7 @@ class Frm_Balloon {
 
   toolkit::Backend& backend_;
   platform::Screen& screen_;
-  presentation::Arrangement& arrangement_;
+  presentation::Main_Frm& main_frm_;
   state::Calendar_State& calendar_;
   const Balloon_Calls& calls_;
   toolkit::Timer close_timer_;

@@ -9,7 +9,7 @@ namespace win32 {
 namespace {
 
 constexpr UINT check_tip = WM_APP;  // tips or places have changed under a pointer that may be at rest
-constexpr UINT lost_activity = WM_APP + 1;
+constexpr UINT tell_of_activity = WM_APP + 1;
 
 using toolkit::Mouse_Button;
 
@@ -56,7 +56,7 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
       else tip_.Remove();
       return true;
     }
-    case lost_activity: form_.System().Input.Tell_Of_Lost_Activity(); return true;
+    case tell_of_activity: form_.System().Input.Tell_Of_Activity(); return true;
     default: return false;
   }
 }
@@ -69,7 +69,7 @@ bool Form_Window::Mouse_Message(UINT message, WPARAM w, LPARAM l) {
   context_.Pointer = on_screen;
   if (message == WM_MOUSEMOVE) Follow_Tip(at);
   tip_.Relay(Window(), message, w, l);
-  toolkit::Control* const over = Control_At(form_, context_.Scale, at);
+  toolkit::Control* const control = Control_At(form_, context_.Scale, at);
   toolkit::Input& input = form_.System().Input;
   toolkit::Mouse_Event event{Mouse_Button::Left, at.x * context_.Scale.X, at.y * context_.Scale.Y, (w & MK_SHIFT) != 0};
   if (message == WM_RBUTTONDOWN || message == WM_RBUTTONUP || message == WM_RBUTTONDBLCLK)
@@ -79,19 +79,27 @@ bool Form_Window::Mouse_Message(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_MOUSEMOVE:
       event.Button = Held_Button(w);
-      if (moved) input.Move(form_, over, event);
+      if (moved) input.Move(form_, Under(on_screen, control), event);
       return true;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN: input.Press(form_, over, event); return true;
+    case WM_MBUTTONDOWN: input.Press(form_, control, event); return true;
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDBLCLK: input.Press_Twice(form_, over, event); return true;
+    case WM_MBUTTONDBLCLK: input.Press_Twice(form_, control, event); return true;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
-    case WM_MBUTTONUP: input.Release(form_, over, event); return true;
+    case WM_MBUTTONUP: input.Release(form_, Under(on_screen, control), event); return true;
     default: return false;
   }
+}
+
+/// What of this window the pointer is over; while the mouse is held that may be nothing.
+std::optional<toolkit::Control*> Form_Window::Under(POINT on_screen, toolkit::Control* control) const {
+  if (form_.System().Input.Mouse_Window() != &form_) return control;
+  const HWND seen = WindowFromPoint(on_screen);
+  if (seen != Window() && IsChild(Window(), seen) == 0) return std::nullopt;
+  return control;
 }
 
 void Form_Window::Capture_Changed(HWND to) {
@@ -123,6 +131,8 @@ LRESULT Form_Window::Ground(HDC context) {
 
 bool Form_Window::Active_Changed(bool active) {
   toolkit::Input& input = form_.System().Input;
+  // A form may unload by what it is told, which must not happen while the system is changing the active window.
+  PostMessageA(Window(), tell_of_activity, 0, 0);
   if (active) {
     context_.Active = this;
     input.Activity_Came(form_);
@@ -130,8 +140,6 @@ bool Form_Window::Active_Changed(bool active) {
   }
   if (context_.Active == this) context_.Active = nullptr;
   input.Activity_Went(form_);
-  // The form may unload by it, which must not happen while the system is changing the active window.
-  PostMessageA(Window(), lost_activity, 0, 0);
   return false;
 }
 

@@ -112,6 +112,7 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
 Form_Window::~Form_Window() {
   context_.Windows.Remove(*this);
   if (context_.Active == this) context_.Active = nullptr;
+  if (context_.Behind_Box == this) context_.Behind_Box = nullptr;
   // Detach first: destroying the window must not call back into a form that is going away.
   SetWindowLongPtrA(Window(), GWLP_USERDATA, 0);
 }

@@ -2,6 +2,7 @@
 // decodes what the user does into the form's input functions.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,7 @@ class Form_Window final : public toolkit::Form_Peer {
   bool Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
   bool Mouse_Message(UINT message, WPARAM w, LPARAM l);
   bool Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
+  [[nodiscard]] std::optional<toolkit::Control*> Under(POINT on_screen, toolkit::Control* control) const;
   void Capture_Changed(HWND to);
   bool Active_Changed(bool active);
   void Place_Changed(const WINDOWPOS& place);

@@ -1,5 +1,7 @@
 #include "win32/win32_message_box.h"
 
+#include <algorithm>
+
 #include "win32/form_window.h"
 
 namespace win32 {
@@ -26,14 +28,44 @@ UINT Flag_Of(platform::Box_Buttons buttons) {
   return MB_OK;
 }
 
-platform::Box_Answer Answer_Of(int result) {
+/// A box that could not be shown, or was taken away, has not been agreed to.
+platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
+  using platform::Box_Answer;
   switch (result) {
-    case IDYES: return platform::Box_Answer::Yes;
-    case IDNO: return platform::Box_Answer::No;
-    case IDCANCEL: return platform::Box_Answer::Cancel;
-    default: return platform::Box_Answer::OK;
+    case IDYES: return Box_Answer::Yes;
+    case IDNO: return Box_Answer::No;
+    case IDCANCEL: return Box_Answer::Cancel;
+    default: break;
   }
+  if (buttons == platform::Box_Buttons::OK) return Box_Answer::OK;
+  return buttons == platform::Box_Buttons::Yes_No ? Box_Answer::No : Box_Answer::Cancel;
 }
+
+/// The window that a box belongs to, of which it is destroyed with: the active dialog or the calendar, never a window that
+/// closes by itself. The calendar is the program's first window.
+const Form_Window* Owner_Of_Box(const Window_List& windows, const Form_Window* active) {
+  if (active == nullptr || active->Form().Border != toolkit::Form_Border::None) return active;
+  const Form_Window* const calendar = windows.All().front();
+  return calendar->Form().Visible() ? calendar : nullptr;
+}
+
+/// The window that is active, and stays so to the program while its boxes are open: the first one notes it.
+class Behind_Box {
+ public:
+  Behind_Box(Window_Context& context, Form_Window* active)
+      : context_(context), first_(context.Behind_Box == nullptr && active != nullptr) {
+    if (first_) context_.Behind_Box = active;
+  }
+  Behind_Box(const Behind_Box&) = delete;
+  Behind_Box& operator=(const Behind_Box&) = delete;
+  ~Behind_Box() {
+    if (first_) context_.Behind_Box = nullptr;
+  }
+
+ private:
+  Window_Context& context_;
+  const bool first_;
+};
 
 }  // namespace
 
@@ -41,19 +73,31 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
                                              platform::Box_Buttons buttons) {
   context_.Guard.Throw_If_Ending();
   context_.Windows.Settle();
-  const HWND owner = GetActiveWindow();
-  toolkit::Form* const active = backend_.Active_Form();
+  // Another box may be active; then it is the owner.
+  const HWND active = GetActiveWindow();
+  Form_Window* const active_form = context_.Windows.Around(active);
+  const Form_Window* const owner = Owner_Of_Box(context_.Windows, active_form);
+  const HWND owner_window = active_form == nullptr ? active : owner != nullptr ? owner->Window() : nullptr;
   int result = 0;
   {
+    const Behind_Box behind(context_, active_form);
     // The system itself disables the owner, and enables it before it hands the activity back.
-    const toolkit::Input::Modal modal(backend_.Input, active);
-    result = MessageBoxA(owner, text.c_str(), title.c_str(),
+    const toolkit::Input::Modal modal(backend_.Input, owner != nullptr ? &owner->Form() : nullptr);
+    result = MessageBoxA(owner_window, text.c_str(), title.c_str(),
                          Flag_Of(icon) | Flag_Of(buttons) | MB_SETFOREGROUND | MB_TASKMODAL);
   }
   context_.Guard.Throw_If_Ending();
-  // To a window that was disabled meanwhile it hands nothing back.
-  if (backend_.Input.Is_There(active) && active->Visible()) active->Activate();
-  return Answer_Of(result);
+  if (active_form != nullptr) Give_Back_To(active_form);
+  return Answer_Of(result, buttons);
+}
+
+/// The system hands the activity to the owner, and to nobody where that is disabled.
+void Win32_Message_Box::Give_Back_To(Form_Window* window) {
+  const auto& all = context_.Windows.All();
+  if (std::find(all.begin(), all.end(), window) == all.end()) return;
+  toolkit::Form& form = window->Form();
+  if (form.Visible()) form.Activate();
+  if (backend_.Active_Form() != &form) backend_.Input.Activity_Went(form);
 }
 
 }  // namespace win32

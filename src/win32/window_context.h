@@ -49,6 +49,8 @@ struct Window_Context {
 
   /// The active window as the system's messages have told, nullptr if it is none of ours.
   Form_Window* Active = nullptr;
+  /// The window that was active when the message box that is open came up.
+  Form_Window* Behind_Box = nullptr;
   /// A window of ours belongs to another program's window. The two programs share one state of input then, and the messages
   /// don't tell all of its changes.
   bool Embedded = false;

@@ -31,7 +31,8 @@ class Alerts_Test : public ::testing::Test {
   Noting_Box Box;
   settings::Settings Settings{};
   state::Calendar_State Calendar;
-  calendar::Alerts Alerts{Clock, Locale, Box, Main_Frm, Settings, Calendar};
+  calendar::Dates Dates{Clock, Locale};
+  calendar::Alerts Alerts{Dates, Box, Main_Frm, Settings, Calendar};
 };
 
 }  // namespace

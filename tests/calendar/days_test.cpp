@@ -1,4 +1,4 @@
-#include "calendar/days.h"
+#include "calendar/month_grid.h"
 
 #include <gtest/gtest.h>
 
@@ -92,17 +92,20 @@ TEST(DaysInMonth, Agrees_with_the_standard_library_on_every_month) {
 }
 
 TEST(First_Day_Of_Week, Is_the_settings_or_the_locales_for_0) {
+  Fake_Clock clock;
   Fake_Locale locale;
   for (int locales = 1; locales <= 7; ++locales) {
     locale.First = static_cast<Weekday>(locales);
-    EXPECT_EQ(calendar::First_Day_Of_Week(With_Start_Day(0), locale), locale.First);
+    EXPECT_EQ(calendar::Dates(clock, locale).First_Day_Of_Week(With_Start_Day(0)), locale.First);
     for (int own = 1; own <= 7; ++own)
-      EXPECT_EQ(calendar::First_Day_Of_Week(With_Start_Day(own), locale), static_cast<Weekday>(own));
+      EXPECT_EQ(calendar::Dates(clock, locale).First_Day_Of_Week(With_Start_Day(own)), static_cast<Weekday>(own));
   }
 }
 
 TEST(First_Day_Of_Week, Throws_error_5_for_no_weekday) {
+  Fake_Clock clock;
   Fake_Locale locale;
+  const calendar::Dates dates(clock, locale);
   for (const int start_day : {-1, 8, 32767, -32768})
-    EXPECT_EQ(Error_Of([&] { calendar::First_Day_Of_Week(With_Start_Day(start_day), locale); }), 5) << start_day;
+    EXPECT_EQ(Error_Of([&] { static_cast<void>(dates.First_Day_Of_Week(With_Start_Day(start_day))); }), 5) << start_day;
 }

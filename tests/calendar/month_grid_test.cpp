@@ -43,7 +43,7 @@ class Month_Grid_Test : public ::testing::Test {
   }
 
   Fake_Backend Backend;
-  presentation::Arrangement Made{Backend};
+  presentation::Main_Frm Made{Backend};
   Fake_Screen Screen;
   Fake_Clock Clock;
   Fake_Locale Locale;
@@ -52,9 +52,9 @@ class Month_Grid_Test : public ::testing::Test {
   settings::Stored_Settings Stored{Store};
   state::Calendar_State Calendar;
   presentation::Placement Placement{Made, Screen, Box, Stored, Calendar};
-  presentation::Caption_Fitting Fitting{Made, Stored.Values, Calendar};
-  calendar::Alerts Alerts{Clock, Locale, Box, Made.Main_Frm, Stored.Values, Calendar};
-  calendar::Month_Grid Grid{Made, Placement, Fitting, Alerts, Clock, Locale, Stored.Values, Calendar};
+  calendar::Dates Dates{Clock, Locale};
+  calendar::Alerts Alerts{Dates, Box, Made.Window, Stored.Values, Calendar};
+  calendar::Month_Grid Grid{Made, Placement, Alerts, Dates, Stored.Values, Calendar};
 };
 
 }  // namespace
@@ -75,7 +75,7 @@ TEST_F(Month_Grid_Test, Numbers_exactly_the_boxes_of_the_month_and_shows_them_al
           ASSERT_EQ(Made.Box_Caption_Lbl[i].Caption(), "");
           ASSERT_EQ(Made.Box_Lbl[i].BackColor(), 16777215);
         }
-        ASSERT_EQ(Made.Main_Frm.Height(), first + days > 35 ? 6725 : 5735);
+        ASSERT_EQ(Made.Window.Height(), first + days > 35 ? 6725 : 5735);
       }
     }
   }
@@ -174,4 +174,25 @@ TEST_F(Month_Grid_Test, Set_Day_Headers_names_the_week_or_its_first_letters) {
   }
   Locale.Names.Short_Weekdays.fill("");
   EXPECT_EQ(Error_Of([&] { Grid.Set_Day_Headers(); }), 0) << "a locale without names has no first letters";
+}
+
+TEST_F(Month_Grid_Test, Counts_the_days_from_today_by_the_box_and_the_month_on_view) {
+  Stored.Values.Start_Day = 2;  // March 2004 begins in box 0
+  for (const auto& [box, days] : {std::pair{4, 0}, {5, 1}, {0, -4}, {30, 26}})
+    EXPECT_EQ(Grid.Days_From_Today(box), days) << box;
+  Clock.Set(2004, 3, 5, 23, 59, 59);
+  EXPECT_EQ(Grid.Days_From_Today(5), 1) << "whatever the hour";
+  View(2, 2004);
+  EXPECT_EQ(Grid.Days_From_Today(Grid.First_Box() + 28), -5) << "29 February";
+  View(3, 2005);
+  EXPECT_EQ(Grid.Days_From_Today(Grid.First_Box() + 4), 365);
+}
+
+TEST_F(Month_Grid_Test, Selects_the_day_of_a_box_or_today) {
+  Stored.Values.Start_Day = 2;
+  View(4, 2004);
+  Grid.Select_Day_Of_Box(Grid.First_Box() + 9);
+  EXPECT_EQ(Calendar.Selected_Date, "10/4/2004");
+  Grid.Select_Today();
+  EXPECT_EQ(Calendar.Selected_Date, "5/3/2004");
 }

@@ -18,14 +18,10 @@ class Ticking_Backend : public Fake_Backend {
 
 class Splash_Frm_Test : public ::testing::Test {
  protected:
-  Splash_Frm_Test() {
-    Splash.On_Closed = [this] { ++Closed; };
-  }
-
   Ticking_Backend Backend;
-  presentation::Arrangement Made{Backend};
-  calendar::Splash_Frm Splash{Backend, Made};
+  presentation::Main_Frm Made{Backend};
   int Closed = 0;
+  calendar::Splash_Frm Splash{Backend, Made, [this] { ++Closed; }};
 };
 
 }  // namespace
@@ -58,8 +54,8 @@ TEST_F(Splash_Frm_Test, Tells_of_its_end_also_when_the_user_closes_it) {
 
 TEST_F(Splash_Frm_Test, Takes_its_place_from_the_calendar_in_twips) {
   presentation::Which_Style(Made, 2);
-  Made.Main_Frm.Move(1001.5, -77);
-  Made.Main_Frm.Scale = toolkit::Scale_Unit::Pixels;
+  Made.Window.Move(1001.5, -77);
+  Made.Window.Scale = toolkit::Scale_Unit::Pixels;
   Splash.Show();
   EXPECT_EQ(Splash.Window.Width(), 5610);
   EXPECT_EQ(Splash.Window.Height(), 1335);
@@ -68,7 +64,7 @@ TEST_F(Splash_Frm_Test, Takes_its_place_from_the_calendar_in_twips) {
 }
 
 TEST_F(Splash_Frm_Test, Halves_odd_lengths_towards_zero) {
-  Made.Main_Frm.Width = 5615;
+  Made.Window.Width = 5615;
   Made.Box_Lbl[36].Top = 1001;
   Splash.Show();
   EXPECT_EQ(Splash.Window.Left(), 2);

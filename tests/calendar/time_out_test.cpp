@@ -1,5 +1,5 @@
 // The wait inside a handler, at the end of a day too.
-#include "calendar/time_out.h"
+#include "platform/event_loop.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ class Time_Out_Test : public ::testing::Test {
   std::int64_t Wait_From(std::int64_t of_the_day) {
     Time.Set_Now({38051, of_the_day});
     const std::int64_t start = Time.Elapsed();
-    calendar::TimeOut(Loop, Clock, 0.3F);
+    platform::Waits(Loop, Clock).TimeOut(0.3F);
     return Time.Elapsed() - start;
   }
 

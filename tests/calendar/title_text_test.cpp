@@ -4,6 +4,7 @@
 
 #include "tests/basic/error_of.h"
 #include "tests/calendar/calendar_world.h"
+#include "tests/toolkit/fake_backend.h"
 
 namespace {
 
@@ -31,7 +32,10 @@ class Title_Text_Test : public ::testing::Test {
   Fake_Locale Locale;
   settings::Settings Settings{};
   state::Calendar_State Calendar;
-  calendar::Title_Text Title{Clock, Locale, Settings, Calendar};
+  Fake_Backend Backend;
+  presentation::Main_Frm Made{Backend};
+  calendar::Dates Dates{Clock, Locale};
+  calendar::Title_Text Title{Made, Dates, Settings, Calendar};
 };
 
 }  // namespace

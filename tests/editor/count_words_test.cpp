@@ -1,4 +1,4 @@
-#include "editor/count_words.h"
+#include "editor/edit_frm.h"
 
 #include <gtest/gtest.h>
 

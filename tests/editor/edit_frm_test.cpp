@@ -17,26 +17,24 @@ class Edit_Frm_Test : public ::testing::Test {
     Settings.Tooltips = 1;
     Calendar.Selected_Date = "10/3/2004";
     Calendar.Current_Box = 9;
-    Editor.Idle_Restart = [this] { ++Idle_Restarts; };
   }
 
   std::string File() { return Platform.Files.Bytes(data_file).value_or("no file"); }
 
   void Type(const std::string& text) { Editor.Message_Txt.User_Text(text); }
 
-  [[nodiscard]] toolkit::Label& Box() const { return Arrangement.Box_Lbl[9]; }
-  [[nodiscard]] toolkit::Label& Caption() const { return Arrangement.Box_Caption_Lbl[9]; }
+  [[nodiscard]] toolkit::Label& Box() const { return Main_Frm.Box_Lbl[9]; }
+  [[nodiscard]] toolkit::Label& Caption() const { return Main_Frm.Box_Caption_Lbl[9]; }
 
   const std::string data_file = Memory_Files::Full_Path("calendar.dat");
   Memory_Platform Platform;
   settings::Settings Settings{};
   state::Calendar_State Calendar;
   basic::File_Channel Channel{Platform.Files};
-  presentation::Arrangement Arrangement{Platform.Backend()};
-  presentation::Caption_Fitting Caption_Fitting{Arrangement, Settings, Calendar};
-  editor::Edit_Frm Editor{Platform.Backend(), Arrangement, Caption_Fitting, Event_File, Settings, Calendar};
-  events::Event_File Event_File{Platform.Files, Channel, Platform.Message_Box, Calendar, Editor};
+  presentation::Main_Frm Main_Frm{Platform.Backend()};
+  events::Event_File Event_File{Platform.Files, Channel, Platform.Message_Box, Calendar};
   int Idle_Restarts = 0;
+  editor::Edit_Frm Editor{Platform.Backend(), Main_Frm, Event_File, Settings, Calendar, [this] { ++Idle_Restarts; }};
 };
 
 }  // namespace
@@ -44,19 +42,21 @@ class Edit_Frm_Test : public ::testing::Test {
 TEST_F(Edit_Frm_Test, An_editor_that_is_not_open_holds_no_text_and_no_tick) {
   Editor.Window.Load();
   Type("left over");
-  Editor.Tick_Every_Year();
-  EXPECT_EQ(Editor.Message_Text(), "left over");
-  EXPECT_TRUE(Editor.Every_Year());
+  Editor.Every_Year_Chk.Value = 1;
+  EXPECT_EQ(Editor.Content().Text, "left over");
+  EXPECT_TRUE(Editor.Content().Every_Year);
+  Type("Tom & Jane");
+  EXPECT_EQ(Editor.Content().Text, "Tom && Jane");
   Editor.Window.Unload();
-  EXPECT_EQ(Editor.Message_Text(), "");
-  EXPECT_FALSE(Editor.Every_Year());
+  EXPECT_EQ(Editor.Content().Text, "");
+  EXPECT_FALSE(Editor.Content().Every_Year);
 }
 
 TEST_F(Edit_Frm_Test, Every_opening_starts_from_fresh_controls) {
   Editor.Window.Load();
   Editor.Date_Lbl.Caption = "some day";
   Type("left over");
-  Editor.Tick_Every_Year();
+  Editor.Every_Year_Chk.Value = 1;
   Editor.Window.Unload();
   Editor.Window.Load();
   EXPECT_EQ(Editor.Date_Lbl.Caption(), "");
@@ -124,7 +124,7 @@ TEST_F(Edit_Frm_Test, Saving_writes_the_file_shows_the_text_and_silences_the_day
   EXPECT_EQ(Caption().ToolTipText(), "'Tom' & Jane");
   EXPECT_EQ(Box().ToolTipText(), "'Tom' & Jane");
   EXPECT_EQ(Caption().Caption(), "'Tom' \r\n&& Jane\r\n");
-  EXPECT_EQ(Arrangement.DotDotDot_Lbl.Caption(), "'Tom' && Jane");
+  EXPECT_EQ(Main_Frm.DotDotDot_Lbl.Caption(), "'Tom' && Jane");
   EXPECT_FALSE(Box().FontUnderline);
   EXPECT_TRUE(Calendar.Alerted_Today);
   EXPECT_FALSE(Editor.Window.Loaded());

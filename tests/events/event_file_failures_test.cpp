@@ -22,12 +22,9 @@ class Event_File_Failures : public ::testing::Test, public Event_File_World {
 
 TEST_F(Event_File_Failures, A_failing_line_ends_the_reading_behind_the_lines_before_it) {
   Put({"a", "b", "bad", "c"});
-  File.Enter_Date = [this](std::string_view line) {
-    if (line == "bad") throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
-    Entered.emplace_back(line);
-  };
-  File.Load_Dates();
-  EXPECT_EQ(Entered, (Lines{"a", "b"}));
+  Fails_At = 3;
+  Load_Dates();
+  EXPECT_EQ(Entered, (Lines{"a", "b", "bad"}));
   EXPECT_EQ(Messages(), Lines{loading_failed});
   EXPECT_TRUE(Is_Taken());
 }
@@ -38,23 +35,23 @@ TEST_F(Event_File_Failures, Every_error_of_a_line_ends_in_the_same_message) {
                            Error_Number::Subscript_Out_Of_Range, Error_Number::Type_Mismatch}) {
     Event_File_World world;
     world.Put({"a"});
-    world.File.Enter_Date = [error](std::string_view) { throw basic::Run_Error(error); };
-    world.File.Load_Dates();
+    world.File.Load_Dates([error](std::string_view) { throw basic::Run_Error(error); });
     EXPECT_EQ(world.Messages(), Lines{loading_failed});
   }
 }
 
 TEST_F(Event_File_Failures, Get_Message_gives_what_it_had_found) {
   Put({"8/3/9999=Tea", "bad", "8/3/2004=Cake"});
-  EXPECT_EQ(File.Get_Message(true), "Tea");
-  EXPECT_TRUE(Editor.Ticked);
+  const events::Day_Event found = File.Get_Message();
+  EXPECT_EQ(found.Text, "Tea");
+  EXPECT_TRUE(found.Every_Year);
   EXPECT_EQ(Messages(), Lines{loading_failed});
   EXPECT_TRUE(Is_Taken());
 }
 
 TEST_F(Event_File_Failures, Get_Message_fails_at_a_line_without_an_equals_sign_behind_its_hit_too) {
   Put({"8/3/2004=Tea", ""});
-  EXPECT_EQ(File.Get_Message(false), "Tea");
+  EXPECT_EQ(File.Get_Message().Text, "Tea");
   EXPECT_EQ(Messages(), Lines{loading_failed});
 }
 
@@ -62,16 +59,16 @@ TEST_F(Event_File_Failures, An_opening_that_fails_takes_nothing) {
   Put({"8/3/2004=Tea"});
   Files.Disk.Blocked.insert(path);
   Editor.Text = "Cake";
-  File.Load_Dates();
+  Load_Dates();
   EXPECT_EQ(Messages(), Lines{loading_failed});
-  EXPECT_EQ(File.Get_Message(false), "");
+  EXPECT_EQ(File.Get_Message().Text, "");
   EXPECT_EQ(Messages(), Lines{loading_failed});
   Change("8/3/2004", "Cake");
   EXPECT_EQ(Messages(), (Lines{loading_failed, saving_failed}));
   Files.Disk.Blocked.clear();
   EXPECT_FALSE(Is_Taken());
   EXPECT_EQ(Content(), Record("8/3/2004=Tea"));
-  EXPECT_EQ(File.Get_Message(false), "Tea");
+  EXPECT_EQ(File.Get_Message().Text, "Tea");
   EXPECT_EQ(Messages(), Lines());
 }
 
@@ -90,23 +87,23 @@ TEST_F(Event_File_Failures, Load_File_empties_the_list_before_it_opens) {
 
 TEST_F(Event_File_Failures, Once_taken_the_number_fails_every_procedure_and_the_file_stays_whole) {
   Put({"bad"});
-  File.Get_Message(false);
+  File.Get_Message();
   Messages();
   Put({"8/3/2004=Tea"});
   Editor.Text = "Cake";
-  File.Load_Dates();
+  Load_Dates();
   EXPECT_EQ(Entered, Lines());
   EXPECT_EQ(Messages(), Lines{loading_failed});
-  EXPECT_EQ(File.Get_Message(false), "");
+  EXPECT_EQ(File.Get_Message().Text, "");
   EXPECT_EQ(Messages(), Lines{loading_failed});
   Change("8/3/2004", "Cake");
   EXPECT_EQ(Messages(), (Lines{loading_failed, saving_failed}));
   EXPECT_EQ(Content(), Record("8/3/2004=Tea"));
   // Where there is no file nobody tries to open it.
   Files.Disk.Contents.clear();
-  File.Load_Dates();
+  Load_Dates();
   File.Load_File();
-  File.Get_Message(false);
+  File.Get_Message();
   EXPECT_EQ(Messages(), Lines());
 }
 
@@ -149,10 +146,10 @@ TEST_F(Event_File_Failures, One_line_too_many_ends_the_reading_for_a_change_with
   EXPECT_TRUE(Is_Taken());
   // The last line that was read is found, and its writing fails; the next was never read, and an editor without a text
   // writes none.
-  File.Check_For_Pre("");
+  File.Check_For_Pre("", Editor);
   EXPECT_EQ(Messages(), Lines{saving_failed});
   Calendar.Selected_Date = "9/3/2004";
-  File.Check_For_Pre("");
+  File.Check_For_Pre("", Editor);
   EXPECT_EQ(Messages(), Lines());
   EXPECT_EQ(Content(), before);
 }
@@ -160,14 +157,13 @@ TEST_F(Event_File_Failures, One_line_too_many_ends_the_reading_for_a_change_with
 TEST_F(Event_File_Failures, A_reading_within_a_reading_fails_and_the_first_goes_on) {
   Put({"a=", "8/3/2004=b", "c="});
   Editor.Text = "new";
-  File.Enter_Date = [this](std::string_view line) {
+  File.Load_Dates([this](std::string_view line) {
     Entered.emplace_back(line);
     if (line != "8/3/2004=b") return;
-    File.Load_Dates();
-    EXPECT_EQ(File.Get_Message(false), "");
+    Load_Dates();
+    EXPECT_EQ(File.Get_Message().Text, "");
     Change("8/3/2004", "new");
-  };
-  File.Load_Dates();
+  });
   EXPECT_EQ(Entered, (Lines{"a=", "8/3/2004=b", "c="}));
   EXPECT_EQ(Messages(), (Lines{loading_failed, loading_failed, loading_failed, saving_failed}));
   EXPECT_FALSE(Is_Taken()) << "the first reading closes the file at its end";

@@ -11,9 +11,9 @@ class Event_File_Test : public ::testing::Test, public Event_File_World {
  protected:
   void TearDown() override { EXPECT_EQ(Messages(), Lines()); }
 
-  std::string Message_Of(const std::string& date, bool set_every_year = false) {
+  std::string Message_Of(const std::string& date) {
     Calendar.Selected_Date = date;
-    return File.Get_Message(set_every_year);
+    return File.Get_Message().Text;
   }
 
   void Expect_Lines(const Lines& lines) {
@@ -32,22 +32,22 @@ std::string All_Bytes_But_The_Quote() {
 
 }  // namespace
 
-TEST_F(Event_File_Test, Load_Dates_clears_the_tips_then_looks_for_the_file_then_enters_each_line) {
+TEST_F(Event_File_Test, Load_Dates_looks_for_the_file_then_enters_each_line) {
   Put({"b", "a", "c"});
-  File.Load_Dates();
-  EXPECT_EQ(Calls, (Lines{"clear tips", "look", "enter", "enter", "enter"}));
+  Load_Dates();
+  EXPECT_EQ(Calls, (Lines{"look", "enter", "enter", "enter"}));
   EXPECT_EQ(Entered, (Lines{"b", "a", "c"}));
 }
 
-TEST_F(Event_File_Test, Load_Dates_without_a_file_clears_the_tips_alone) {
-  File.Load_Dates();
-  EXPECT_EQ(Calls, (Lines{"clear tips", "look"}));
+TEST_F(Event_File_Test, Load_Dates_without_a_file_enters_nothing) {
+  Load_Dates();
+  EXPECT_EQ(Calls, Lines{"look"});
   EXPECT_FALSE(Is_There());
 }
 
 TEST_F(Event_File_Test, Load_Dates_counts_nothing) {
   Put(Lines(40'000, "1/1/2000=x"));
-  File.Load_Dates();
+  Load_Dates();
   EXPECT_EQ(Entered.size(), 40'000U);
 }
 
@@ -55,9 +55,9 @@ TEST_F(Event_File_Test, The_file_is_free_again_behind_each_procedure) {
   Put({"8/3/2004=Tea"});
   Editor.Text = "Cake";
   for (int i = 0; i < 2; ++i) {
-    File.Load_Dates();
+    Load_Dates();
     File.Load_File();
-    File.Get_Message(true);
+    File.Get_Message();
     Change("8/3/2004", "Soup");
     Change("9/3/2004", "new");
     EXPECT_EQ(Files.Disk.Open_For_Writing, 0);
@@ -65,10 +65,10 @@ TEST_F(Event_File_Test, The_file_is_free_again_behind_each_procedure) {
 }
 
 TEST_F(Event_File_Test, Get_Message_is_empty_without_a_file_and_without_a_line) {
-  EXPECT_EQ(Message_Of("8/3/2004", true), "");
+  EXPECT_EQ(Message_Of("8/3/2004"), "");
   Put({"8/3/2005=a", "08/3/2004=b", "8/3/2004 =c", "18/3/2004=d", "8/3/9998=e"});
-  EXPECT_EQ(Message_Of("8/3/2004", true), "");
-  EXPECT_FALSE(Editor.Ticked);
+  EXPECT_EQ(Message_Of("8/3/2004"), "");
+  EXPECT_FALSE(File.Get_Message().Every_Year);
 }
 
 TEST_F(Event_File_Test, Get_Message_gives_the_text_as_stored) {
@@ -86,25 +86,23 @@ TEST_F(Event_File_Test, Get_Message_takes_the_last_line_that_matches) {
   EXPECT_EQ(Message_Of("8/3/2004"), "") << "an empty text is a text";
 }
 
-TEST_F(Event_File_Test, Get_Message_ticks_every_year_if_told_so_and_never_clears_it) {
+TEST_F(Event_File_Test, Get_Message_says_whether_any_line_that_matches_is_of_every_year) {
+  Calendar.Selected_Date = "8/3/2004";
   Put({"8/3/9999=yearly", "8/3/2004=dated"});
-  Message_Of("8/3/2004", false);
-  EXPECT_FALSE(Editor.Ticked);
-  EXPECT_EQ(Message_Of("8/3/2004", true), "dated");
-  EXPECT_TRUE(Editor.Ticked);
-  Put({"8/3/2004=dated"});
-  Message_Of("8/3/2004", true);
-  EXPECT_TRUE(Editor.Ticked);
+  EXPECT_EQ(File.Get_Message().Text, "dated");
+  EXPECT_TRUE(File.Get_Message().Every_Year);
+  Put({"8/3/2004=dated", "9/3/9999=another day"});
+  EXPECT_FALSE(File.Get_Message().Every_Year);
 }
 
 TEST_F(Event_File_Test, Check_For_Pre_replaces_the_first_line_that_matches_in_its_place) {
   Put({"a=", "8/3/2004=one", "b=", "8/3/9999=two"});
   Change("8/3/2004", "T && J");
   Expect_Lines({"a=", "8/3/2004=T && J", "b=", "8/3/9999=two"});
-  Editor.Ticked = true;
+  Editor.Every_Year = true;
   Change("8/3/2005", "x");
   Expect_Lines({"a=", "8/3/2004=T && J", "b=", "8/3/9999=x"});
-  Editor.Ticked = false;
+  Editor.Every_Year = false;
   Change("8/3/2006", "x");
   Expect_Lines({"a=", "8/3/2004=T && J", "b=", "8/3/2006=x"});
 }
@@ -127,10 +125,10 @@ TEST_F(Event_File_Test, Check_For_Pre_removes_the_first_line_that_matches_for_an
 
 TEST_F(Event_File_Test, Check_For_Pre_adds_the_text_of_the_editor_at_the_end_where_no_line_matches) {
   Put({"a="});
-  Editor.Text = "T & J";
+  Editor.Text = "T && J";
   Change("8/3/2004", "of the argument");
   Expect_Lines({"a=", "8/3/2004=T && J"});
-  Editor.Ticked = true;
+  Editor.Every_Year = true;
   Change("9/3/2004", "");
   Expect_Lines({"a=", "8/3/2004=T && J", "9/3/9999=T && J"});
 }
@@ -185,7 +183,7 @@ TEST_F(Event_File_Test, A_record_of_ten_megabytes_is_read_changed_and_kept) {
   std::string text(10'000'000, 'x');
   for (std::size_t i = 0; i < text.size(); i += 997) text[i] = i % 2 == 0 ? '\n' : ',';
   Put({"1/1/2000=" + text, "8/3/2004=Tea"});
-  File.Load_Dates();
+  Load_Dates();
   EXPECT_EQ(Entered, (Lines{"1/1/2000=" + text, "8/3/2004=Tea"}));
   EXPECT_EQ(Message_Of("1/1/2000"), text);
   Change("8/3/2004", "Cake");

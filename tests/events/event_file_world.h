@@ -38,16 +38,6 @@ class Fake_Message_Box : public platform::Message_Box {
   }
 };
 
-class Fake_Editor : public events::Editor_Input {
- public:
-  std::string Text;
-  bool Ticked = false;
-
-  [[nodiscard]] std::string Message_Text() const override { return Text; }
-  [[nodiscard]] bool Every_Year() const override { return Ticked; }
-  void Tick_Every_Year() override { Ticked = true; }
-};
-
 class Event_File_World {
  public:
   static constexpr const char* path = "C:\\Meridex\\calendar.dat";
@@ -58,20 +48,25 @@ class Event_File_World {
   basic::File_Channel Channel{Files};
   Fake_Message_Box Message_Box;
   state::Calendar_State Calendar;
-  Fake_Editor Editor;
-  events::Event_File File{Files, Channel, Message_Box, Calendar, Editor};
+  events::Day_Event Editor;  ///< what the editor holds
+  events::Event_File File{Files, Channel, Message_Box, Calendar};
   std::vector<std::string> Calls;    ///< what a reading for the grid does, in order
   std::vector<std::string> Entered;  ///< the lines that went to the grid
 
   Event_File_World() {
     Files.Calls = &Calls;
-    File.Clear_Tooltips = [this] { Calls.emplace_back("clear tips"); };
-    File.Enter_Date = [this](std::string_view line) {
-      Calls.emplace_back("enter");
-      Entered.emplace_back(line);
-    };
     Calendar.Selected_Date = "8/3/2004";
   }
+
+  /// A reading for the grid.
+  void Load_Dates() {
+    File.Load_Dates([this](std::string_view line) {
+      Calls.emplace_back("enter");
+      Entered.emplace_back(line);
+      if (Fails_At != 0 && Entered.size() == Fails_At) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
+    });
+  }
+  std::size_t Fails_At = 0;  ///< the line, from 1 on, at which the grid fails
 
   std::string& Content() { return Files.Disk.Contents[path]; }
   [[nodiscard]] bool Is_There() const { return Files.Disk.Contents.count(path) != 0; }
@@ -85,7 +80,7 @@ class Event_File_World {
   void Change(const std::string& date, const std::string& text) {
     Calendar.Selected_Date = date;
     File.Load_File();
-    File.Check_For_Pre(text);
+    File.Check_For_Pre(text, Editor);
   }
 
   static std::string Record(const std::string& line) { return "\"" + line + "\"\r\n"; }

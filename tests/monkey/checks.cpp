@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "basic/convert.h"
-#include "editor/count_words.h"
+#include "editor/edit_frm.h"
 #include "events/event_line.h"
 #include "text_form.h"
 #include "toolkit/text_box.h"

@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "world.h"
 
 namespace monkey {

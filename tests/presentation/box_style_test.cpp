@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "presentation/caption_fitting.h"
+#include "presentation/caption_fit.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "presentation/caption_fitting.h"
+#include "presentation/caption_fit.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 class Caption_Fitting_Test : public ::testing::Test {
  protected:
   std::string Fitted(const std::string& text, int box = 0) {
-    Fitting.DotDotDot(text, Made.Box_Caption_Lbl[box]);
+    DotDotDot(Made, text, Made.Box_Caption_Lbl[box], presentation::DDD_Style(Settings, Calendar));
     return Made.Box_Caption_Lbl[box].Caption;
   }
 
@@ -21,10 +21,9 @@ class Caption_Fitting_Test : public ::testing::Test {
   }
 
   Fake_Backend Backend;
-  presentation::Arrangement Made{Backend};
+  presentation::Main_Frm Made{Backend};
   settings::Settings Settings{};
   state::Calendar_State Calendar;
-  presentation::Caption_Fitting Fitting{Made, Settings, Calendar};
 };
 
 }  // namespace
@@ -51,16 +50,16 @@ TEST_F(Caption_Fitting_Test, Takes_the_width_from_the_caption_itself) {
 TEST_F(Caption_Fitting_Test, Fits_alike_in_twips_and_in_pixels) {
   Use_Style(1);
   for (const auto unit : {toolkit::Scale_Unit::Twips, toolkit::Scale_Unit::Pixels}) {
-    Made.Main_Frm.Scale = unit;
+    Made.Window.Scale = unit;
     EXPECT_EQ(Fitted("12345678"), "12345678\r\n\r\n");
     EXPECT_EQ(Fitted("123456 78 9"), "123456 \r\n78 9\r\n");
-    EXPECT_EQ(Made.Main_Frm.Scale, unit);
+    EXPECT_EQ(Made.Window.Scale, unit);
   }
 }
 
 TEST_F(Caption_Fitting_Test, Measures_in_the_windows_own_font) {
   Use_Style(0);
-  Made.Main_Frm.FontSize = 16.5;
+  Made.Window.FontSize = 16.5;
   EXPECT_EQ(Fitted("12345"), "12345");
   EXPECT_EQ(Fitted("123456"), "12...");
   Made.Box_Caption_Lbl[0].FontSize = 1.0;

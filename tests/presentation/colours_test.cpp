@@ -27,7 +27,7 @@ class Colours_Test : public ::testing::Test {
   }
 
   Fake_Backend Backend;
-  presentation::Arrangement Made{Backend};
+  presentation::Main_Frm Made{Backend};
   settings::Settings Settings{};
   state::Calendar_State Calendar;
   presentation::Colours Colours{Made, Settings, Calendar};
@@ -36,14 +36,14 @@ class Colours_Test : public ::testing::Test {
 }  // namespace
 
 TEST_F(Colours_Test, Set_Colours_paints_everything) {
-  Backend.Active = &Made.Main_Frm;
+  Backend.Active = &Made.Window;
   Colours.Set_Colours();
   for (int i = 0; i < 37; ++i) {
     EXPECT_EQ(Made.Box_Lbl[i].BackColor(), 2);
     EXPECT_EQ(Made.Box_Lbl[i].ForeColor(), 4);
     EXPECT_EQ(Made.Box_Caption_Lbl[i].ForeColor(), 5);
   }
-  EXPECT_EQ(Made.Main_Frm.BackColor(), 6);
+  EXPECT_EQ(Made.Window.BackColor(), 6);
   Expect_Title_Row(3);
 }
 
@@ -55,7 +55,7 @@ TEST_F(Colours_Test, Set_Colours_leaves_the_title_row_inactive_while_another_win
       Calendar.Window_Inactive = inactive;
       Colours.Set_Colours();
       Expect_Title_Row(7);
-      EXPECT_EQ(Made.Main_Frm.BackColor(), 6);
+      EXPECT_EQ(Made.Window.BackColor(), 6);
       EXPECT_EQ(Calendar.Window_Inactive, inactive);
     }
   }
@@ -82,7 +82,7 @@ TEST_F(Colours_Test, The_title_row_takes_the_settings_colours_from_every_source_
     Colours.Colour_Menus();
     Settings.Menu_Colour_Source = source;
     Colours.Colour_Menus();
-    EXPECT_EQ(Made.Main_Frm.BackColor(), 6) << source;
+    EXPECT_EQ(Made.Window.BackColor(), 6) << source;
     Expect_Title_Row(3);
   }
 }
@@ -90,7 +90,7 @@ TEST_F(Colours_Test, The_title_row_takes_the_settings_colours_from_every_source_
 TEST_F(Colours_Test, The_title_row_takes_the_desktops_colours_from_source_0) {
   Settings.Menu_Colour_Source = 0;
   Colours.Colour_Menus();
-  EXPECT_EQ(Made.Main_Frm.BackColor(), 8);
+  EXPECT_EQ(Made.Window.BackColor(), 8);
   Expect_Title_Row(9);
 }
 
@@ -98,21 +98,21 @@ TEST_F(Colours_Test, Icons_without_a_background_make_the_window_dark_grey) {
   Settings.Menu_Colour_Source = 0;
   Calendar.Desktop_Back_Colour = -1;
   Colours.Colour_Menus();
-  EXPECT_EQ(Made.Main_Frm.BackColor(), 4934475);
+  EXPECT_EQ(Made.Window.BackColor(), 4934475);
   Calendar.Desktop_Back_Colour = -2;
   Colours.Colour_Menus();
-  EXPECT_EQ(Made.Main_Frm.BackColor(), -2);
+  EXPECT_EQ(Made.Window.BackColor(), -2);
   // The settings' colour is never looked at that way.
   Settings.Menu_Colour_Source = 1;
   Settings.Back = -1;
   Colours.Colour_Menus();
-  EXPECT_EQ(Made.Main_Frm.BackColor(), -1);
+  EXPECT_EQ(Made.Window.BackColor(), -1);
 }
 
 TEST_F(Colours_Test, Colour_Inactive_paints_the_ten_labels_alone) {
   Colours.Colour_Menus();
   Colours.Colour_Inactive();
   Expect_Title_Row(7);
-  EXPECT_EQ(Made.Main_Frm.BackColor(), 6);
+  EXPECT_EQ(Made.Window.BackColor(), 6);
   EXPECT_EQ(Made.Title_Row().size(), 10U);
 }

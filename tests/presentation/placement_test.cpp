@@ -46,18 +46,18 @@ class Placement_Test : public ::testing::Test {
   }
 
   void Window_Of(double width, double height) {
-    Made.Main_Frm.Width = width;
-    Made.Main_Frm.Height = height;
+    Made.Window.Width = width;
+    Made.Window.Height = height;
   }
 
   std::pair<double, double> Placed(int position) {
-    Made.Main_Frm.Move(-1, -1);
+    Made.Window.Move(-1, -1);
     Place.Position_Form(position);
-    return {Made.Main_Frm.Left, Made.Main_Frm.Top};
+    return {Made.Window.Left, Made.Window.Top};
   }
 
   Fake_Backend Backend;
-  presentation::Arrangement Made{Backend};
+  presentation::Main_Frm Made{Backend};
   Fake_Screen Screen;
   Silent_Box Box;
   Empty_Store Store;
@@ -133,9 +133,9 @@ TEST_F(Placement_Test, Moves_nothing_for_any_other_number) {
 
 TEST_F(Placement_Test, Leaves_the_unit_at_twips) {
   for (const int position : {0, 7, 10}) {
-    Made.Main_Frm.Scale = toolkit::Scale_Unit::Pixels;
+    Made.Window.Scale = toolkit::Scale_Unit::Pixels;
     Place.Position_Form(position);
-    EXPECT_EQ(Made.Main_Frm.Scale, toolkit::Scale_Unit::Twips) << position;
+    EXPECT_EQ(Made.Window.Scale, toolkit::Scale_Unit::Twips) << position;
   }
 }
 
@@ -156,9 +156,9 @@ TEST_F(Placement_Test, Set_Repos_throws_error_6_for_a_work_area_beyond_16_bits) 
 TEST_F(Placement_Test, RePosition_does_nothing_while_the_work_area_stays) {
   Stored.Values.Alignment = 6;
   Place.Set_Repos();
-  Made.Main_Frm.Move(-1, -1);
+  Made.Window.Move(-1, -1);
   Place.RePosition();
-  EXPECT_EQ(Made.Main_Frm.Left(), -1);
+  EXPECT_EQ(Made.Window.Left(), -1);
 }
 
 TEST_F(Placement_Test, RePosition_follows_one_changed_value_a_call) {
@@ -166,14 +166,14 @@ TEST_F(Placement_Test, RePosition_follows_one_changed_value_a_call) {
   Place.Set_Repos();
   Screen.Area = {10, 20, 600, 500};
   for (int call = 0; call < 4; ++call) {
-    Made.Main_Frm.Move(-1, -1);
+    Made.Window.Move(-1, -1);
     Place.RePosition();
-    EXPECT_EQ(Made.Main_Frm.Left(), 150) << call;
-    EXPECT_EQ(Made.Main_Frm.Top(), 300) << call;
+    EXPECT_EQ(Made.Window.Left(), 150) << call;
+    EXPECT_EQ(Made.Window.Top(), 300) << call;
   }
-  Made.Main_Frm.Move(-1, -1);
+  Made.Window.Move(-1, -1);
   Place.RePosition();
-  EXPECT_EQ(Made.Main_Frm.Left(), -1) << "all four values are known by now";
+  EXPECT_EQ(Made.Window.Left(), -1) << "all four values are known by now";
 }
 
 TEST_F(Placement_Test, RePosition_looks_at_height_width_top_and_left_in_this_order) {
@@ -197,7 +197,7 @@ TEST_F(Placement_Test, RePosition_places_first_and_fails_at_what_does_not_fit_th
   Place.Set_Repos();
   Screen.Area = {10, 20, 1280, 3000};
   EXPECT_EQ(Error_Of([&] { Place.RePosition(); }), 6);
-  EXPECT_EQ(Made.Main_Frm.Left(), 150);
+  EXPECT_EQ(Made.Window.Left(), 150);
 }
 
 TEST_F(Placement_Test, The_position_in_force_is_the_packs_where_both_switches_are_1) {
@@ -206,8 +206,8 @@ TEST_F(Placement_Test, The_position_in_force_is_the_packs_where_both_switches_ar
   Stored.Values.Manual_PosX = 33;
   Stored.Values.Use_Themes = 1;
   Place.Position_In_Force();
-  EXPECT_EQ(Made.Main_Frm.Left(), 0);
+  EXPECT_EQ(Made.Window.Left(), 0);
   Stored.Values.Use_Theme_Pos = 1;
   Place.Position_In_Force();
-  EXPECT_EQ(Made.Main_Frm.Left(), 33);
+  EXPECT_EQ(Made.Window.Left(), 33);
 }

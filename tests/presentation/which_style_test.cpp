@@ -4,7 +4,7 @@
 
 #include "tests/toolkit/fake_backend.h"
 
-using presentation::Arrangement;
+using presentation::Main_Frm;
 using presentation::Which_Style;
 using toolkit::Alignment;
 using toolkit::Bounds;
@@ -25,15 +25,15 @@ const Expected styles[] = {
 
 class Which_Style_Test : public ::testing::Test {
  protected:
-  /// The arrangement as a text, to tell whether anything moved.
+  /// The main_frm as a text, to tell whether anything moved.
   std::string Picture() {
     std::string picture;
-    for (const toolkit::Control* const control : Made.Main_Frm.Controls()) {
+    for (const toolkit::Control* const control : Made.Window.Controls()) {
       const Bounds& place = control->In_Twips();
       for (const double number : {place.Left, place.Top, place.Width, place.Height})
         picture += std::to_string(number) + ' ';
     }
-    return picture + std::to_string(Made.Main_Frm.Width) + ' ' + std::to_string(Made.Main_Frm.Height);
+    return picture + std::to_string(Made.Window.Width) + ' ' + std::to_string(Made.Window.Height);
   }
 
   void Show_Six_Rows(bool six) {
@@ -42,7 +42,7 @@ class Which_Style_Test : public ::testing::Test {
   }
 
   Fake_Backend Backend;
-  Arrangement Made{Backend};
+  Main_Frm Made{Backend};
 };
 
 }  // namespace
@@ -98,8 +98,8 @@ TEST_F(Which_Style_Test, Derives_the_header_row_and_the_window) {
       EXPECT_EQ(Made.Next_Month_Lbl.In_Twips(), (Bounds{expected.next_left, 90, 285, 285}));
       EXPECT_EQ(Made.Which_Month_Lbl.In_Twips(), (Bounds{495, 90, expected.title_width, 285}));
       EXPECT_EQ(Made.Prev_Month_Lbl.In_Twips(), (Bounds{90, 90, 285, 285}));
-      EXPECT_EQ(Made.Main_Frm.Width(), expected.window_width);
-      EXPECT_EQ(Made.Main_Frm.Height(), six ? expected.six_rows : expected.five_rows);
+      EXPECT_EQ(Made.Window.Width(), expected.window_width);
+      EXPECT_EQ(Made.Window.Height(), six ? expected.six_rows : expected.five_rows);
     }
   }
 }
@@ -109,10 +109,10 @@ TEST_F(Which_Style_Test, Looks_at_box_35_alone_for_the_height) {
     Made.Box_Lbl[36].Visible = last;
     Made.Box_Lbl[35].Visible = false;
     Which_Style(Made, 1);
-    EXPECT_EQ(Made.Main_Frm.Height(), 5735);
+    EXPECT_EQ(Made.Window.Height(), 5735);
     Made.Box_Lbl[35].Visible = true;
     Which_Style(Made, 1);
-    EXPECT_EQ(Made.Main_Frm.Height(), 6725);
+    EXPECT_EQ(Made.Window.Height(), 6725);
   }
 }
 
@@ -155,23 +155,23 @@ TEST_F(Which_Style_Test, Derives_header_row_and_window_of_any_other_style_from_t
   EXPECT_EQ(Made.Day_Lbl[6].In_Twips(), (Bounds{4000, 450, 500, 285}));
   EXPECT_EQ(Made.Next_Month_Lbl.In_Twips().Left, 4000 + 500 - 285);
   EXPECT_EQ(Made.Which_Month_Lbl.In_Twips().Width, 4215 - 495 - 100);
-  EXPECT_EQ(Made.Main_Frm.Width(), 4000 + 700 + 135);
-  EXPECT_EQ(Made.Main_Frm.Height(), 3000 + 100 + 50);
+  EXPECT_EQ(Made.Window.Width(), 4000 + 700 + 135);
+  EXPECT_EQ(Made.Window.Height(), 3000 + 100 + 50);
 }
 
 TEST_F(Which_Style_Test, Works_in_twips_whatever_unit_it_finds) {
   Which_Style(Made, 1);
   const std::string in_twips = Picture();
   Which_Style(Made, 0);
-  Made.Main_Frm.Scale = toolkit::Scale_Unit::Pixels;
+  Made.Window.Scale = toolkit::Scale_Unit::Pixels;
   Which_Style(Made, 1);
-  EXPECT_EQ(Made.Main_Frm.Scale, toolkit::Scale_Unit::Twips);
+  EXPECT_EQ(Made.Window.Scale, toolkit::Scale_Unit::Twips);
   EXPECT_EQ(Picture(), in_twips);
 }
 
 TEST_F(Which_Style_Test, Tells_nobody_of_what_stays) {
   Which_Style(Made, 1);
-  Made.Main_Frm.Load();
+  Made.Window.Load();
   Backend.Take();
   Which_Style(Made, 1);
   EXPECT_EQ(Backend.Take(), Words());

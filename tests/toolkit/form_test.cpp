@@ -288,13 +288,13 @@ TEST(Form, Reports_that_it_became_active_or_inactive) {
   toolkit::Input& input = form.Backend.Input;
   input.Activity_Came(form.Window);
   input.Activity_Went(form.Window);
-  input.Tell_Of_Lost_Activity();
+  input.Tell_Of_Activity();
   Words heard;
   form.Window.On_Activate = [&] { heard.emplace_back("active"); };
   form.Window.On_Deactivate = [&] { heard.emplace_back("inactive"); };
   input.Activity_Came(form.Window);
   input.Activity_Went(form.Window);
-  EXPECT_EQ(heard, Words{"active"});
-  input.Tell_Of_Lost_Activity();
+  EXPECT_EQ(heard, Words{});
+  input.Tell_Of_Activity();
   EXPECT_EQ(heard, (Words{"active", "inactive"}));
 }

@@ -38,6 +38,7 @@ class Input_Test : public ::testing::Test, public Loaded_Form {
     Window.On_Click = [this] { Heard.emplace_back("window click"); };
     Window.Show(false);
     Window.Activate();
+    In.Tell_Of_Activity();
     Backend.Take();
   }
 
@@ -51,8 +52,8 @@ class Input_Test : public ::testing::Test, public Loaded_Form {
 
   void Press(toolkit::Control* over, const Mouse_Event& event) { In.Press(Window, over, event); }
   void Press_Twice(toolkit::Control* over, const Mouse_Event& event) { In.Press_Twice(Window, over, event); }
-  void Move(toolkit::Control* over, const Mouse_Event& event) { In.Move(Window, over, event); }
-  void Release(toolkit::Control* over, const Mouse_Event& event) { In.Release(Window, over, event); }
+  void Move(std::optional<toolkit::Control*> over, const Mouse_Event& event) { In.Move(Window, over, event); }
+  void Release(std::optional<toolkit::Control*> over, const Mouse_Event& event) { In.Release(Window, over, event); }
   bool Key_Down(int code) { return In.Key_Down(Window, {code}); }
   void Press_Key(int code) {
     Key_Down(code);
@@ -144,6 +145,75 @@ TEST_F(Input_Test, A_press_on_one_control_and_a_release_on_another_is_no_click) 
   Press(&A, Left(110, 120));
   Release(nullptr, Left(0, 0));
   EXPECT_EQ(Take(), (Words{"A down 1 at 10 20", "A up 1 at 350 350", "A down 1 at 10 20", "A up 1 at -100 -100"}));
+}
+
+TEST_F(Input_Test, A_press_on_the_bare_ground_clicks_only_if_it_is_released_there) {
+  for (const std::optional<toolkit::Control*> over : {std::optional<toolkit::Control*>(), {&A}}) {
+    Press(nullptr, Left(0, 0));
+    Release(over, Left(110, 120));
+  }
+  EXPECT_EQ(Take(), Words{});
+  Press(nullptr, Left(0, 0));
+  Release(nullptr, Left(5, 5));
+  EXPECT_EQ(Take(), Words{"window click"});
+}
+
+TEST_F(Input_Test, A_double_press_while_another_button_is_held_goes_by_the_control_that_has_the_mouse) {
+  Press(&A, Right(110, 120));
+  Press_Twice(&B, Left(450, 450));
+  EXPECT_EQ(Take(), (Words{"A down 2 at 10 20", "A double click"}));
+}
+
+TEST_F(Input_Test, A_window_that_is_disabled_loses_the_mouse) {
+  Press(&A, Left(110, 120));
+  Window.Enabled = false;
+  Window.Enabled = true;
+  Release(&A, Left(110, 120));
+  EXPECT_EQ(Take(), Words{"A down 1 at 10 20"});
+}
+
+TEST_F(Input_Test, A_close_request_waits_for_no_box_and_does_nothing_under_one) {
+  int closes = 0;
+  Window.On_Close = [&] { ++closes; };
+  {
+    const Input::Modal modal(In);
+    Window.Close_Requested();
+  }
+  EXPECT_EQ(closes, 0);
+  Window.Close_Requested();
+  EXPECT_EQ(closes, 1);
+}
+
+TEST_F(Input_Test, Windows_hear_in_order_of_the_activity_that_comes_and_goes) {
+  Form other(Backend, "Tip");
+  for (Form* const form : {&Window, &other}) {
+    form->On_Activate = [this, form] { Heard.push_back("+" + form->Name); };
+    form->On_Deactivate = [this, form] { Heard.push_back("-" + form->Name); };
+  }
+  other.Show(false);
+  other.Activate();
+  Window.Activate();
+  other.Activate();
+  EXPECT_EQ(Take(), Words{}) << "not in the middle of the system's work";
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), (Words{"-Main_Frm", "+Tip", "-Tip", "+Main_Frm", "-Main_Frm", "+Tip"}));
+}
+
+TEST_F(Input_Test, A_box_that_takes_the_activity_and_gives_it_back_is_not_heard_of) {
+  Window.On_Activate = [this] { Heard.emplace_back("+"); };
+  Window.On_Deactivate = [this] { Heard.emplace_back("-"); };
+  In.Tell_Of_Activity();
+  Take();
+  {
+    const Input::Modal modal(In);
+    In.Activity_Went(Window);
+    In.Activity_Came(Window);
+  }
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), Words{});
+  In.Activity_Went(Window);
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), Words{"-"});
 }
 
 TEST_F(Input_Test, Only_the_left_button_clicks_on_controls_and_on_the_bare_ground) {
@@ -261,7 +331,7 @@ TEST_F(Input_Test, A_window_that_went_is_not_told_that_it_lost_the_activity) {
   other.On_Deactivate = [&] { Heard.emplace_back("tip lost it"); };
   In.Activity_Went(other);
   other.Unload();
-  In.Tell_Of_Lost_Activity();
+  In.Tell_Of_Activity();
   EXPECT_EQ(Take(), Words{});
 }
 
@@ -274,7 +344,7 @@ TEST_F(Input_Test, An_owner_becomes_active_when_its_active_window_unloads) {
   owned.Activate();
   owned.On_Deactivate = [&] { Heard.emplace_back("told on its way"); };
   owned.Unload();
-  In.Tell_Of_Lost_Activity();
+  In.Tell_Of_Activity();
   EXPECT_EQ(Backend.Active, &Window);
   EXPECT_EQ(Take(), Words{});
   third.Activate();
@@ -506,6 +576,31 @@ TEST_F(Dialog_Test, A_left_press_gives_the_focus_and_holds_a_button_while_it_is_
   EXPECT_EQ(Focus(), "Ok_Btn");
   EXPECT_FALSE(Close.Held());
   Release(&Close, Right(0, 0));
+  EXPECT_EQ(Take(), Words{});
+}
+
+TEST_F(Dialog_Test, A_press_on_a_disabled_control_leaves_the_focus_where_it_is) {
+  Window.Set_Focus(Every);
+  Ok.Enabled = false;
+  Press(&Ok, Left(0, 0));
+  EXPECT_EQ(Focus(), "Every_Chk");
+}
+
+TEST_F(Dialog_Test, A_button_is_held_no_more_when_its_window_goes_or_loses_the_activity_or_a_box_opens) {
+  Press(&Ok, Left(0, 0));
+  Window.Unload();
+  Window.Show();
+  EXPECT_FALSE(Ok.Held());
+  for (int way = 0; way < 3; ++way) {
+    Window.Set_Focus(Ok);
+    Key_Down(toolkit::key_space);
+    EXPECT_TRUE(Ok.Held());
+    if (way == 0) In.Activity_Went(Window);
+    if (way == 1) const Input::Modal modal(In);
+    if (way == 2) Window.Unload();
+    EXPECT_FALSE(Ok.Held()) << way;
+    In.Key_Up(Window, {toolkit::key_space});
+  }
   EXPECT_EQ(Take(), Words{});
 }
 

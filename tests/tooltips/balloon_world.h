@@ -49,7 +49,7 @@ class Balloon_World : public ::testing::Test {
 
   Balloon_Backend Backend;
   Balloon_Screen Screen;
-  presentation::Arrangement Made{Backend};
+  presentation::Main_Frm Made{Backend};
   state::Calendar_State Calendar;
   tooltips::Balloon_Calls Calls;
   std::string Done;  ///< what was called of the calendar, in order

@@ -16,7 +16,7 @@ class Frm_Balloon_Test : public Balloon_World {
 
   /// Where a balloon opens beside box 0, which lies at 90 and 810 twips and is 825 by 915 large.
   std::pair<double, double> Placed(double main_left, double main_top) {
-    Made.Main_Frm.Move(main_left, main_top);
+    Made.Window.Move(main_left, main_top);
     Frm_Balloon balloon(Backend, Screen, Made, Calendar, Calls);
     balloon.SetBalloon("Title", "Outing", 0, 0, "i", "Tahoma", 8);
     return {balloon.Window.Left, balloon.Window.Top};
@@ -119,7 +119,7 @@ TEST_F(Frm_Balloon_Test, Has_the_month_rebuilt_once_before_it_looks_for_its_plac
   Calls.Rebuild_Month = [this] {
     Done += "month ";
     EXPECT_EQ(Balloon.Window.Height(), (40 + 20 + 8) * 12) << "it has its size by then";
-    Made.Main_Frm.Move(1000, 2000);
+    Made.Window.Move(1000, 2000);
   };
   Set("Outing");
   EXPECT_EQ(Done, "month ");
@@ -158,7 +158,7 @@ TEST_F(Frm_Balloon_Test, Compares_with_the_size_of_the_work_area_alone) {
 
 TEST_F(Frm_Balloon_Test, Finds_the_same_place_whatever_unit_the_calendar_counts_in) {
   for (const auto unit : {toolkit::Scale_Unit::Pixels, toolkit::Scale_Unit::Twips}) {
-    Made.Main_Frm.Scale = unit;
+    Made.Window.Scale = unit;
     EXPECT_EQ(Placed(30, 40), (Place{945, 1765}));
   }
 }
@@ -174,7 +174,7 @@ TEST_F(Frm_Balloon_Test, Watches_its_activity_from_its_showing_on) {
   Backend.Active = &Balloon.Window;
   timer.On_Tick();
   EXPECT_TRUE(Balloon.Window.Loaded());
-  Backend.Active = &Made.Main_Frm;
+  Backend.Active = &Made.Window;
   timer.On_Tick();
   EXPECT_FALSE(Balloon.Window.Loaded());
   EXPECT_TRUE(Backend.Ticking.empty());

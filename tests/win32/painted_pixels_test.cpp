@@ -16,8 +16,8 @@ win32::Scale Scale_At(int dpi) { return {1440.0 / dpi, 1440.0 / dpi, dpi}; }
 /// The calendar's labels as the painter gets them, each filled with a colour of its own.
 class Painted {
  public:
-  Painted(presentation::Arrangement& arrangement, const win32::Scale& scale) {
-    for (toolkit::Control* const control : arrangement.Main_Frm.Controls()) {
+  Painted(presentation::Main_Frm& main_frm, const win32::Scale& scale) {
+    for (toolkit::Control* const control : main_frm.Window.Controls()) {
       auto* const label = dynamic_cast<Label*>(control);
       if (label == nullptr) continue;
       label->Transparent = false;
@@ -42,11 +42,11 @@ class Painted {
   std::vector<win32::Painted_Control> controls_;
 };
 
-int Wrong_Pixels(presentation::Arrangement& arrangement, int dpi) {
+int Wrong_Pixels(presentation::Main_Frm& main_frm, int dpi) {
   const win32::Scale scale = Scale_At(dpi);
-  Painted painted(arrangement, scale);
-  arrangement.Main_Frm.BackColor = 0;
-  const RECT client = {0, 0, scale.Pixels_X(arrangement.Main_Frm.Width), scale.Pixels_Y(arrangement.Main_Frm.Height)};
+  Painted painted(main_frm, scale);
+  main_frm.Window.BackColor = 0;
+  const RECT client = {0, 0, scale.Pixels_X(main_frm.Window.Width), scale.Pixels_Y(main_frm.Window.Height)};
   BITMAPINFO format = {};
   format.bmiHeader = {sizeof(BITMAPINFOHEADER), client.right, -client.bottom, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
   void* bits = nullptr;
@@ -55,7 +55,7 @@ int Wrong_Pixels(presentation::Arrangement& arrangement, int dpi) {
   SelectObject(context.Get(), bitmap.Get());
   win32::Fonts fonts(scale);
   win32::Stock_Pictures pictures(nullptr);
-  win32::Painter(fonts, pictures).Paint(context.Get(), client, client, arrangement.Main_Frm, painted.Controls());
+  win32::Painter(fonts, pictures).Paint(context.Get(), client, client, main_frm.Window, painted.Controls());
   GdiFlush();
   const auto row = [&](LONG y) { return static_cast<const std::uint32_t*>(bits) + y * client.right; };
   const auto same_row = [&](LONG a, LONG b) {
@@ -68,7 +68,7 @@ int Wrong_Pixels(presentation::Arrangement& arrangement, int dpi) {
     for (LONG x = 0; x < client.right; ++x) {
       const std::uint32_t pixel = row(y)[x];
       const COLORREF colour = RGB((pixel >> 16) & 255, (pixel >> 8) & 255, pixel & 255);
-      if (win32::Control_At(arrangement.Main_Frm, scale, {x, y}) != painted.Of(colour)) ++wrong;
+      if (win32::Control_At(main_frm.Window, scale, {x, y}) != painted.Of(colour)) ++wrong;
     }
   }
   return wrong;
@@ -80,8 +80,8 @@ TEST(Painted_Pixels, Each_can_be_pressed_at_every_density_and_in_every_style) {
   for (const int style : {0, 1, 2})
     for (const int dpi : {96, 120, 144, 192}) {
       Fake_Backend backend;
-      presentation::Arrangement arrangement(backend);
-      presentation::Which_Style(arrangement, style);
-      EXPECT_EQ(Wrong_Pixels(arrangement, dpi), 0) << "style " << style << " at " << dpi << " dpi";
+      presentation::Main_Frm main_frm(backend);
+      presentation::Which_Style(main_frm, style);
+      EXPECT_EQ(Wrong_Pixels(main_frm, dpi), 0) << "style " << style << " at " << dpi << " dpi";
     }
 }

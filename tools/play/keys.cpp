@@ -73,12 +73,13 @@ Typed_Key Key_Of(std::string_view name) {
 
 void Play_Key(World& world, const Words& words) {
   const Typed_Key key = Key_Of(words[0]);
-  const toolkit::Form* const active = world.Platform.Windows().Active();
-  const auto target = Reach(world, active == nullptr ? "Main_Frm" : active->Name);
-  if (!target) return;
+  toolkit::Form* const active = world.Platform.Windows().Active();
+  toolkit::Form* const window = active != nullptr ? active : world.Find_Window("Main_Frm");
+  const Target target{window != nullptr ? window->Name : "Main_Frm", window, nullptr};
+  if (!Can_Be_Reached(world, target)) return world.Print("refused " + target.Name);
   world.Run([&] {
-    if (active == nullptr) world.Platform.Windows().Activate(target->Window);
-    if (Can_Be_Reached(world, *target)) world.Platform.User.Press_Key(*target->Window, key);
+    if (active == nullptr) world.Platform.Windows().Activate(window);
+    if (Can_Be_Reached(world, target)) world.Platform.User.Press_Key(*window, key);
   });
 }
 

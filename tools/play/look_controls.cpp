@@ -2,7 +2,7 @@
 #include <array>
 
 #include "commands.h"
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 #include "properties.h"
 #include "text_form.h"
 #include "toolkit/image.h"

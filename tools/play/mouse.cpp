@@ -57,7 +57,7 @@ class Gesture {
  public:
   using Step = std::function<void()>;
 
-  Gesture(World& world, std::vector<Step> steps) : world_(world), steps_(std::move(steps)) {}
+  Gesture(World& world, std::vector<Step> steps) : world_(world), start_(world.Starts()), steps_(std::move(steps)) {}
   Gesture(const Gesture&) = delete;
   Gesture& operator=(const Gesture&) = delete;
   ~Gesture() {
@@ -75,10 +75,13 @@ class Gesture {
 
  private:
   void Next() {
-    if (next_ < steps_.size()) steps_[next_++]();
+    if (next_ == steps_.size()) return;
+    const Step& step = steps_[next_++];
+    if (world_.Starts() == start_) step();
   }
 
   World& world_;
+  const int start_;
   std::vector<Step> steps_;
   std::size_t next_ = 0;
   std::vector<memory::Virtual_Time::Ticket> tickets_;
@@ -101,8 +104,9 @@ void Play_Hold(World& world, const Words& words) {
   if (!target) return;
   auto& time = world.Platform.Time;
   const std::int64_t end = time.Elapsed() + micros;
-  const auto ticket =
-      time.Schedule(end, [&world, target, event] { world.Run([&] { Release(world, *target, event); }); });
+  const auto ticket = time.Schedule(end, [&world, target, event, start = world.Starts()] {
+    if (world.Starts() == start) world.Run([&] { Release(world, *target, event); });
+  });
   world.Run([&] { Press(world, *target, event); });
   if (world.Has_Ended()) time.Cancel(ticket);
   else world.Wait(std::max<std::int64_t>(end - time.Elapsed(), 0));

@@ -70,6 +70,8 @@ void Player::Play_One(const Command& command) {
     throw Scenario_Error(command.Line, why.what());
   } catch (const basic::Run_Error& error) {
     throw Scenario_Error(command.Line, error.what());
+  } catch (const memory::Not_Supported& what) {
+    throw Scenario_Error(command.Line, what.what());
   } catch (const memory::Endless_Wait&) {
     throw Scenario_Error(command.Line, "the program waits for a time that doesn't come");
   }

@@ -42,6 +42,7 @@ void World::Start() {
     throw platform::Program_Quit();
   }
   Take_Down();
+  ++starts_;
   Platform.Begin_Program();
   ended_ = false;
   Run([this] {

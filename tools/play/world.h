@@ -36,6 +36,9 @@ class World {
   /// Starts the program, in place of one that runs. Within a handler of the program that one is unwound first.
   void Start();
 
+  /// How many programs have been started: a gesture that began in one doesn't go on in the next.
+  [[nodiscard]] int Starts() const { return starts_; }
+
   /// The program has been started and has ended since.
   [[nodiscard]] bool Has_Ended() const { return ended_; }
 
@@ -62,6 +65,7 @@ class World {
   Printer print_;
   std::unique_ptr<Meridex> program_;
   int depth_ = 0;  // of handlers within handlers
+  int starts_ = 0;
   bool ended_ = false;
   bool restart_ = false;
 };

@@ -1,4 +1,4 @@
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 
 namespace presentation {
 
@@ -15,24 +15,24 @@ void Set_Title_Font(toolkit::Label& label) {
 
 }  // namespace
 
-Arrangement::Arrangement(toolkit::Backend& backend)
-    : Main_Frm(backend, "Main_Frm"), Box_Lbl(Main_Frm, "Box_Lbl", box_count),
-      Box_Caption_Lbl(Main_Frm, "Box_Caption_Lbl", box_count), Day_Lbl(Main_Frm, "Day_Lbl", days_of_week),
-      Prev_Month_Lbl(Main_Frm, "Prev_Month_Lbl"), Which_Month_Lbl(Main_Frm, "Which_Month_Lbl"),
-      Next_Month_Lbl(Main_Frm, "Next_Month_Lbl"), DotDotDot_Lbl(Main_Frm, "DotDotDot_Lbl"),
-      Clear_Pic(Main_Frm, "Clear_Pic"), File_Pic(Main_Frm, "File_Pic"), Settings_Pic(Main_Frm, "Settings_Pic"),
-      Exit_Pic(Main_Frm, "Exit_Pic"), title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0],
-                                                 &Day_Lbl[1],     &Day_Lbl[2],      &Day_Lbl[3],     &Day_Lbl[4],
-                                                 &Day_Lbl[5],     &Day_Lbl[6]} {
-  Main_Frm.BackColor = first_back_colour;
-  Main_Frm.Width = 6450;
-  Main_Frm.Height = 6725;
+Main_Frm::Main_Frm(toolkit::Backend& backend)
+    : Window(backend, "Main_Frm"), Box_Lbl(Window, "Box_Lbl", box_count),
+      Box_Caption_Lbl(Window, "Box_Caption_Lbl", box_count), Day_Lbl(Window, "Day_Lbl", days_of_week),
+      Prev_Month_Lbl(Window, "Prev_Month_Lbl"), Which_Month_Lbl(Window, "Which_Month_Lbl"),
+      Next_Month_Lbl(Window, "Next_Month_Lbl"), DotDotDot_Lbl(Window, "DotDotDot_Lbl"), Clear_Pic(Window, "Clear_Pic"),
+      File_Pic(Window, "File_Pic"), Settings_Pic(Window, "Settings_Pic"),
+      Exit_Pic(Window, "Exit_Pic"), title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0],
+                                               &Day_Lbl[1],     &Day_Lbl[2],      &Day_Lbl[3],     &Day_Lbl[4],
+                                               &Day_Lbl[5],     &Day_Lbl[6]} {
+  Window.BackColor = first_back_colour;
+  Window.Width = 6450;
+  Window.Height = 6725;
   Make_Boxes();
   Make_Title_Row();
   Make_Hidden_Controls();
 }
 
-void Arrangement::Make_Boxes() {
+void Main_Frm::Make_Boxes() {
   for (int i = 0; i < box_count; ++i) {
     const double left = 90 + i % days_of_week * 900;
     const double top = 810 + i / days_of_week * 990;
@@ -49,7 +49,11 @@ void Arrangement::Make_Boxes() {
   }
 }
 
-void Arrangement::Make_Title_Row() {
+void Main_Frm::Clear_Tooltips() {
+  for (int i = 0; i < box_count; ++i) Box(i).Clear_Tips();
+}
+
+void Main_Frm::Make_Title_Row() {
   for (int i = 0; i < days_of_week; ++i) Day_Lbl[i].Place({90.0 + i * 900, 450, 825, 285});
   Prev_Month_Lbl.Place({90, 90, 285, 285});
   Prev_Month_Lbl.Caption = "<";
@@ -65,7 +69,7 @@ void Arrangement::Make_Title_Row() {
   }
 }
 
-void Arrangement::Make_Hidden_Controls() {
+void Main_Frm::Make_Hidden_Controls() {
   DotDotDot_Lbl.Place({4410, 6435, 1170, 195});
   DotDotDot_Lbl.Visible = false;
   Clear_Pic.Picture = platform::Stock_Picture::Clear;

@@ -1,19 +1,19 @@
-#include "presentation/arrangement.h"
+#include "presentation/main_frm.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/fake_backend.h"
 
-using presentation::Arrangement;
+using presentation::Main_Frm;
 using toolkit::Bounds;
 using toolkit::Label;
 
 namespace {
 
-class Arrangement_Test : public ::testing::Test {
+class Main_Frm_Test : public ::testing::Test {
  protected:
   Fake_Backend Backend;
-  Arrangement Made{Backend};
+  Main_Frm Made{Backend};
 };
 
 void Expect_Font(const Label& label, const std::string& name, double size, bool bold, bool italic) {
@@ -26,7 +26,7 @@ void Expect_Font(const Label& label, const std::string& name, double size, bool 
 
 }  // namespace
 
-TEST_F(Arrangement_Test, Is_made_as_the_square_box) {
+TEST_F(Main_Frm_Test, Is_made_as_the_square_box) {
   for (int i = 0; i < 37; ++i) {
     const double left = 90 + i % 7 * 900;
     const double top = 810 + i / 7 * 990;
@@ -40,22 +40,21 @@ TEST_F(Arrangement_Test, Is_made_as_the_square_box) {
   EXPECT_EQ(Made.DotDotDot_Lbl.In_Twips(), (Bounds{4410, 6435, 1170, 195}));
 }
 
-TEST_F(Arrangement_Test, Has_37_boxes_and_7_headers) {
+TEST_F(Main_Frm_Test, Has_37_boxes_and_7_headers) {
   EXPECT_EQ(Made.Box_Lbl.Count(), 37);
   EXPECT_EQ(Made.Box_Caption_Lbl.Count(), 37);
   EXPECT_EQ(Made.Day_Lbl.Count(), 7);
 }
 
-TEST_F(Arrangement_Test, Gives_its_labels_their_fonts) {
+TEST_F(Main_Frm_Test, Gives_its_labels_their_fonts) {
   Expect_Font(Made.Box_Lbl[36], "Arial", 9, true, false);
   for (const Label* const label : Made.Title_Row()) Expect_Font(*label, "Arial", 9.75, true, true);
   // These two are measured by the window's own font.
   for (const Label* const label : {&Made.Box_Caption_Lbl[0], &Made.DotDotDot_Lbl})
-    Expect_Font(*label, Made.Main_Frm.FontName, Made.Main_Frm.FontSize, Made.Main_Frm.FontBold,
-                Made.Main_Frm.FontItalic);
+    Expect_Font(*label, Made.Window.FontName, Made.Window.FontSize, Made.Window.FontBold, Made.Window.FontItalic);
 }
 
-TEST_F(Arrangement_Test, Aligns_texts_left_in_boxes_and_in_the_middle_elsewhere) {
+TEST_F(Main_Frm_Test, Aligns_texts_left_in_boxes_and_in_the_middle_elsewhere) {
   using toolkit::Alignment;
   EXPECT_EQ(Made.Box_Lbl[0].Alignment(), Alignment::Left);
   EXPECT_EQ(Made.DotDotDot_Lbl.Alignment(), Alignment::Left);
@@ -63,41 +62,41 @@ TEST_F(Arrangement_Test, Aligns_texts_left_in_boxes_and_in_the_middle_elsewhere)
   for (const Label* const label : Made.Title_Row()) EXPECT_EQ(label->Alignment(), Alignment::Centre) << label->Name;
 }
 
-TEST_F(Arrangement_Test, Shows_what_lies_under_captions_and_title_row) {
+TEST_F(Main_Frm_Test, Shows_what_lies_under_captions_and_title_row) {
   EXPECT_TRUE(Made.Box_Caption_Lbl[0].Transparent());
   EXPECT_FALSE(Made.Box_Lbl[0].Transparent());
   for (const Label* const label : Made.Title_Row()) EXPECT_TRUE(label->Transparent()) << label->Name;
 }
 
-TEST_F(Arrangement_Test, Borders_boxes_and_title_row_but_not_captions) {
+TEST_F(Main_Frm_Test, Borders_boxes_and_title_row_but_not_captions) {
   EXPECT_TRUE(Made.Box_Lbl[0].Fixed_Border());
   EXPECT_FALSE(Made.Box_Caption_Lbl[0].Fixed_Border());
   for (const Label* const label : Made.Title_Row()) EXPECT_TRUE(label->Fixed_Border()) << label->Name;
 }
 
-TEST_F(Arrangement_Test, Takes_the_ampersand_for_a_mark_in_boxes_and_captions_alone) {
+TEST_F(Main_Frm_Test, Takes_the_ampersand_for_a_mark_in_boxes_and_captions_alone) {
   EXPECT_TRUE(Made.Box_Lbl[0].Mnemonics());
   EXPECT_TRUE(Made.Box_Caption_Lbl[0].Mnemonics());
   for (const Label* const label : Made.Title_Row()) EXPECT_FALSE(label->Mnemonics()) << label->Name;
 }
 
-TEST_F(Arrangement_Test, Draws_each_caption_over_its_box) {
-  const auto& controls = Made.Main_Frm.Controls();
+TEST_F(Main_Frm_Test, Draws_each_caption_over_its_box) {
+  const auto& controls = Made.Window.Controls();
   const auto place_of = [&](const toolkit::Control& control) {
     return std::find(controls.begin(), controls.end(), &control);
   };
   for (int i = 0; i < 37; ++i) EXPECT_LT(place_of(Made.Box_Lbl[i]), place_of(Made.Box_Caption_Lbl[i])) << i;
 }
 
-TEST_F(Arrangement_Test, Shows_all_but_the_scratch_label_and_the_pictures) {
-  for (const toolkit::Control* const control : Made.Main_Frm.Controls()) {
+TEST_F(Main_Frm_Test, Shows_all_but_the_scratch_label_and_the_pictures) {
+  for (const toolkit::Control* const control : Made.Window.Controls()) {
     const bool hidden = control->Name == "DotDotDot_Lbl" || control->Name.ends_with("_Pic");
     EXPECT_EQ(control->Visible(), !hidden) << control->Name;
   }
 }
 
-TEST_F(Arrangement_Test, Starts_dark_grey) {
-  EXPECT_EQ(Made.Main_Frm.BackColor(), 0x4B4B4B);
+TEST_F(Main_Frm_Test, Starts_dark_grey) {
+  EXPECT_EQ(Made.Window.BackColor(), 0x4B4B4B);
   EXPECT_EQ(Made.Prev_Month_Lbl.Caption(), "<");
   EXPECT_EQ(Made.Next_Month_Lbl.Caption(), ">");
 }

@@ -1,0 +1,89 @@
+// What may be asked of the calendar, in the words of those who ask: the mouse, the keys, the menus, the tick, and the windows
+// that open from it. Nobody who asks needs to know the parts behind it.
+#pragma once
+
+#include <functional>
+
+#include "calendar/compact.h"
+#include "calendar/edit_box.h"
+#include "packs/wallpaper_stuff.h"
+
+namespace calendar {
+
+/// What only the whole program can do.
+struct Program_Calls {
+  std::function<void()> Exit;
+};
+
+class Desk {
+ public:
+  Desk(Month_View& view, Month_Grid& grid, Compact& compact, Edit_Box& edit_box, presentation::Placement& placement,
+       packs::Wallpaper_Stuff& wallpaper, Program_Calls calls);
+
+  // The month on view. Compact mode shows its title alone. A year outside 100 to 9999 throws error 5, one beyond 16 bits
+  // error 6.
+
+  void Show_Month(basic::Int16 month, basic::Int16 year);
+  void Previous_Month() { view_.Previous_Month(); }
+  void Next_Month() { view_.Next_Month(); }
+  void Show_Present_Month();
+  void Refresh_Calendar() { view_.Refresh_Calendar(); }
+  void Rebuild_Month() { view_.Redraw_Grid(); }
+
+  // The day boxes, of the month on view.
+
+  [[nodiscard]] bool Has_Event(basic::Int16 box) const { return grid_.Has_Event(box); }
+  [[nodiscard]] std::int32_t Days_From_Today(basic::Int16 box) const { return grid_.Days_From_Today(box); }
+
+  /// The day of a box, or today, becomes Selected_Date.
+  void Select_Day_Of_Box(basic::Int16 box) { grid_.Select_Day_Of_Box(box); }
+  void Select_Today() { grid_.Select_Today(); }
+
+  void Edit_Day(basic::Int16 box) { edit_box_.Open(box); }
+  void Clear_Day(basic::Int16 box) { edit_box_.Clear(box); }
+
+  // How the window looks and where it stands.
+
+  [[nodiscard]] basic::Int16 Style_In_Force() const { return grid_.Style_In_Force(); }
+
+  /// Lays the calendar out in a style, fits the captions anew and places the window again.
+  void Restyle(basic::Int16 style);
+
+  /// Opens the shrunk window or shrinks the open one.
+  void Compact_Mode() { compact_.Compact_Mode(); }
+  /// Opens it without drawing anything, for what is to be drawn next.
+  void Leave_Compact_Mode() { compact_.Leave_Without_Redraw(); }
+
+  /// The user is there: the idle time starts afresh.
+  void Idle_Restart() { compact_.Idle_Restart(); }
+  /// The pointer is over the title: a window that shrank by itself opens.
+  void Wake_Up() { compact_.Wake_Up(); }
+
+  // The course of time.
+
+  /// The load's drawing of the present month up to its colours, with the pack's wallpaper, and the colours.
+  void Draw_First_Month();
+  void Paint() { view_.Paint(); }
+  void Start_Idle_Time() { compact_.Start_Idle_Time(); }
+
+  void Follow_Active_State() { view_.Follow_Active_State(); }
+  void Follow_Idle_Time() { compact_.Auto_Compact_Check(edit_box_.Editor_Visible()); }
+  void Follow_Work_Area() { placement_.RePosition(); }
+  void Write_Title() { view_.Write_Title(); }
+
+  /// Goes to the present month, with its wallpaper and the new day's alert.
+  void Begin_New_Day();
+
+  void Exit() { calls_.Exit(); }
+
+ private:
+  Month_View& view_;
+  Month_Grid& grid_;
+  Compact& compact_;
+  Edit_Box& edit_box_;
+  presentation::Placement& placement_;
+  packs::Wallpaper_Stuff& wallpaper_;
+  const Program_Calls calls_;
+};
+
+}  // namespace calendar
