@@ -17,6 +17,7 @@ from .waiting import wait_for
 BUILD = ROOT / "build/windows-x64"
 PICTURES = ROOT / "build/desktop-pictures"  # where a failed test leaves what it saw last
 PROGRAM = "meridex.exe"
+PROBE = f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\")
 WHOLE_SCREEN = (0, 0, WIDTH, HEIGHT)
 
 # The ground of the virtual desktop, as scripts/lib/wine.sh sets it, and that of the stand-in for the shell's windows.
@@ -161,9 +162,14 @@ class Desktop:
 
     def probe(self):
         """All top windows of the prefix with their children, as they see themselves; see probe.cpp."""
-        status, output = self.prefix.run(f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\"))
+        status, output = self.prefix.run(PROBE)
         assert status == 0, "the probe didn't run"
         return [json.loads(line) for line in output.decode("latin-1").splitlines() if line.startswith("{")]
+
+    def post(self, window, message, first=0, second=0):
+        """Posts a message to a window of the prefix, named by its handle."""
+        status, _ = self.prefix.run(PROBE, "post", *map(str, (window, message, first, second)))
+        assert status == 0, "the message wasn't posted"
 
     def message_box(self, title="Meridex"):
         """Waits for a message box, until it takes keys, and reads it."""
