@@ -63,6 +63,9 @@ class Editor:
         """Waits until the title tells so many."""
         self.desktop.find_window(f"{self.TITLE}{characters} Characters - {words} Words.")
 
+    def has(self, characters):
+        self.desktop.find_window(f"{self.TITLE}{characters} Characters - ")
+
     def _window(self):
         return next((window for window in self.desktop.probe()
                      if window["visible"] and window["text"].startswith(self.TITLE)), None)
