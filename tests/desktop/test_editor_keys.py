@@ -77,7 +77,7 @@ class Editor_Keys(Desktop_Test):
         desktop = self.desktop()
         desktop.started()
         desktop.activate()
-        desktop.screen.key("alt+F9")
+        desktop.screen.hands("keydown", "alt", "key", "F9", "keyup", "alt")  # F9 goes up while Alt is held
         desktop.settings["Style"] = SMALL
         wait_for(lambda: desktop.calendar_window() and
                  desktop.calendar_window().rect.width == desktop.layout().window_size[0], "the small style")
