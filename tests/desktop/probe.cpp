@@ -3,7 +3,8 @@
 //   desktop_probe              one JSON object a line for each top window, with its child windows
 //   desktop_probe post WINDOW MESSAGE WPARAM LPARAM
 //   desktop_probe copy FILE    the file's bytes become the text of the clipboard
-//   desktop_probe watch        the visible windows' places as often as they change, one JSON array a line, until it is ended
+//   desktop_probe watch        the visible windows' places as often as they change, one JSON object a line, with the time in
+//                              milliseconds; until it is ended
 //
 // Texts are the bytes of the code page, each above 0x7E as \u00XX.
 #include <windows.h>
@@ -106,7 +107,7 @@ int Watch() {
     EnumWindows(Note_Places, reinterpret_cast<LPARAM>(&now));
     now += "]";
     if (now == before) continue;
-    std::printf("%s\n", now.c_str());
+    std::printf("{\"at\":%lu,\"places\":%s}\n", GetTickCount(), now.c_str());
     std::fflush(stdout);
     before = now;
   }
