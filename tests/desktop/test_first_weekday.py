@@ -18,7 +18,6 @@ class First_Weekday(Desktop_Test):
                 self.assertGreater(picture.count(rect.shrunk(2), WHITE) + (box == layout.box_of(5)) * 101, 100, f"box {box}")
             else:
                 self.assertTrue(picture.is_all(rect.shrunk(1), DESKTOP_COLOUR), f"box {box} is hidden")
-        desktop.close()
         return [picture.part(desktop.on_screen(layout.header_rect(column), layout).shrunk(2)) for column in range(7)]
 
     def test_american_weeks_start_on_sunday_and_british_ones_on_monday(self):
