@@ -39,6 +39,10 @@ class Memory_User : public User {
   }
   void Type(char letter) override { Key({{basic::Upper_Case({&letter, 1}).front()}, {&letter, 1}}); }
 
+  void Paste(toolkit::Text_Box& box, const std::string& text) override {
+    Run([&] { box.User_Character(text); });
+  }
+
   void Answer(Box_Answer answer, std::function<void()> meanwhile) override {
     platform_.Message_Box.Prepare(answer, while_open * micros_of_a_millisecond);
     Later(std::move(meanwhile));

@@ -1,6 +1,7 @@
 // The system's own services for the cases, and a user with a real mouse and real keys.
 #include <windows.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <vector>
 
@@ -63,6 +64,20 @@ class System_User : public User {
     }
   }
   void Type(char letter) override { Key(static_cast<BYTE>(letter - 'a' + 'A')); }
+
+  void Paste(toolkit::Text_Box&, const std::string& text) override {
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    std::copy_n(text.c_str(), text.size() + 1, static_cast<char*>(GlobalLock(memory)));
+    GlobalUnlock(memory);
+    OpenClipboard(nullptr);
+    EmptyClipboard();
+    SetClipboardData(CF_TEXT, memory);
+    CloseClipboard();
+    keybd_event(VK_CONTROL, 0x1D, 0, 0);
+    Key('V');
+    keybd_event(VK_CONTROL, 0x1D, KEYEVENTF_KEYUP, 0);
+    Wait(50);
+  }
 
   void Answer(Box_Answer answer, std::function<void()> meanwhile) override {
     Later([=, meanwhile = std::move(meanwhile)] {

@@ -6,6 +6,7 @@
 
 #include "platform/message_box.h"
 #include "toolkit/form.h"
+#include "toolkit/text_box.h"
 
 enum class Pressed_Key { Tab, Enter, Escape, Space, F9, Alt_O };
 
@@ -20,6 +21,9 @@ class User {
   virtual void Release(toolkit::Form& window, toolkit::Control* control, toolkit::Mouse_Button button) = 0;
   virtual void Press_Key(Pressed_Key key) = 0;
   virtual void Type(char letter) = 0;
+
+  /// Pastes a text from the clipboard into the box, which has the focus, in place of its selection.
+  virtual void Paste(toolkit::Text_Box& box, const std::string& text) = 0;
 
   void Click(toolkit::Form& window, toolkit::Control* control) {
     Press(window, control, toolkit::Mouse_Button::Left);

@@ -2,6 +2,9 @@
 //
 //   desktop_probe              one JSON object a line for each top window, with its child windows
 //   desktop_probe post WINDOW MESSAGE WPARAM LPARAM
+//   desktop_probe copy FILE    the file's bytes become the text of the clipboard
+//   desktop_probe watch        the visible windows' places as often as they change, one JSON object a line, with the time in
+//                              milliseconds; until it is ended
 //
 // Texts are the bytes of the code page, each above 0x7E as \u00XX.
 #include <windows.h>
@@ -9,6 +12,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -65,9 +69,55 @@ BOOL CALLBACK Print_Top_Window(HWND window, LPARAM) {
   return TRUE;
 }
 
+int Copy(const char* path) {
+  const HANDLE file = CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return 1;
+  const DWORD size = GetFileSize(file, nullptr);
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, size + 1);
+  DWORD read = 0;
+  const BOOL whole = ReadFile(file, GlobalLock(memory), size, &read, nullptr);
+  GlobalUnlock(memory);
+  CloseHandle(file);
+  if (whole == 0 || OpenClipboard(nullptr) == 0) return 1;
+  const bool done = EmptyClipboard() != 0 && SetClipboardData(CF_TEXT, memory) != nullptr;
+  CloseClipboard();
+  return done ? 0 : 1;
+}
+
+BOOL CALLBACK Note_Place(HWND window, LPARAM list) {
+  RECT place{};
+  if (IsWindowVisible(window) == 0 || GetWindowRect(window, &place) == 0) return TRUE;
+  auto& text = *reinterpret_cast<std::string*>(list);
+  char rect[80];
+  std::snprintf(rect, sizeof rect, "%s[%ld,%ld,%ld,%ld]", text.size() > 1 ? "," : "", place.left, place.top,
+                place.right, place.bottom);
+  text += rect;
+  return TRUE;
+}
+
+BOOL CALLBACK Note_Places(HWND window, LPARAM list) {
+  Note_Place(window, list);
+  EnumChildWindows(window, Note_Place, list);
+  return TRUE;
+}
+
+int Watch() {
+  for (std::string before;; Sleep(5)) {
+    std::string now = "[";
+    EnumWindows(Note_Places, reinterpret_cast<LPARAM>(&now));
+    now += "]";
+    if (now == before) continue;
+    std::printf("{\"at\":%lu,\"places\":%s}\n", GetTickCount(), now.c_str());
+    std::fflush(stdout);
+    before = now;
+  }
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
+  if (count == 3 && std::strcmp(arguments[1], "copy") == 0) return Copy(arguments[2]);
+  if (count == 2 && std::strcmp(arguments[1], "watch") == 0) return Watch();
   if (count == 6 && std::strcmp(arguments[1], "post") == 0) {
     const auto window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::atoll(arguments[2])));
     return PostMessageA(window, static_cast<UINT>(std::atoi(arguments[3])),

@@ -1,6 +1,6 @@
 """The program's start and its ends."""
 from harness.desktop import Desktop_Test
-from harness.picture import rgb
+from harness.hands import TITLE_COLOURS, wait_for_title
 from harness.waiting import wait_for
 
 
@@ -67,22 +67,12 @@ class Start(Desktop_Test):
 
 
 class Title_Row(Desktop_Test):
-    # Colours that no smoothing of a font gives by chance.
-    COLOURS = {"Fore": 65535, "Inactive": 65280, "Back": 0}
-
-    def colours_in_title(self, desktop, picture):
-        rect = desktop.on_screen(desktop.layout().title_rect).shrunk(2)
-        return [name for name in ("Fore", "Inactive") if picture.count(rect, rgb(self.COLOURS[name]), 40) > 10]
-
-    def wait_for_colour(self, desktop, name):
-        wait_for(lambda: self.colours_in_title(desktop, desktop.screen.picture()) == [name], f"the colour {name}")
-
     def test_the_title_row_follows_the_active_window(self):
-        desktop = self.desktop(colours=self.COLOURS)
+        desktop = self.desktop(colours=TITLE_COLOURS)
         desktop.started()
         x, y = desktop.box_rect(10).centre
         desktop.screen.click(x, y)
-        self.wait_for_colour(desktop, "Fore")
+        wait_for_title(desktop, "Fore")
         desktop.programs.append(desktop.prefix.start("notepad"))
         wait_for(lambda: desktop.screen.windows("notepad.exe"), "another program's window")
-        self.wait_for_colour(desktop, "Inactive")
+        wait_for_title(desktop, "Inactive")

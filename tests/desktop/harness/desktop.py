@@ -17,6 +17,7 @@ from .waiting import wait_for
 BUILD = ROOT / "build/windows-x64"
 PICTURES = ROOT / "build/desktop-pictures"  # where a failed test leaves what it saw last
 PROGRAM = "meridex.exe"
+PROBE = f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\")
 WHOLE_SCREEN = (0, 0, WIDTH, HEIGHT)
 
 # The ground of the virtual desktop, as scripts/lib/wine.sh sets it, and that of the stand-in for the shell's windows.
@@ -39,9 +40,10 @@ def record(line):
 
 class Desktop:
     def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
-                 keyboard="us", shell=False):
+                 keyboard="us", shell=False, permissions=False):
         """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values;
-        shell: with the stand-in for the desktop's own windows, under which the calendar then lives."""
+        shell: with the stand-in for the desktop's own windows, under which the calendar then lives; permissions: what is
+        read-only is so for root too."""
         self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, "Show Splash": 0, **(settings or {})}
         self.shell = shell
         self.now = datetime.datetime.fromisoformat(now)
@@ -49,7 +51,8 @@ class Desktop:
         self._temporary = tempfile.mkdtemp(prefix="meridex-")
         self.screen = Screen(keyboard)
         try:
-            self.prefix = Prefix(pathlib.Path(self._temporary, "prefix"), self.screen.environment, language)
+            self.prefix = Prefix(pathlib.Path(self._temporary, "prefix"), self.screen.environment, language,
+                                 permissions)
             self.folder = self.prefix.drive / "Meridex"
             self.folder.mkdir()
             shutil.copy2(BUILD / "src/main" / PROGRAM, self.folder)
@@ -86,10 +89,11 @@ class Desktop:
     def data_file(self):
         return self.folder / "calendar.dat"
 
-    def start(self):
-        """Starts the program, a further time too; returns its process without waiting for its window."""
+    def start(self, under=()):
+        """Starts the program, a further time too; returns its process without waiting for its window. `under`: what
+        Wine's command line begins with."""
         starter = ["C:\\Meridex\\meridex-desktop-start.exe"] if self.shell else []
-        self.programs.append(self.prefix.start(*starter, f"C:\\Meridex\\{PROGRAM}"))
+        self.programs.append(self.prefix.start(*starter, f"C:\\Meridex\\{PROGRAM}", under=under))
         return self.programs[-1]
 
     def exit_status(self, program, seconds=15):
@@ -161,9 +165,19 @@ class Desktop:
 
     def probe(self):
         """All top windows of the prefix with their children, as they see themselves; see probe.cpp."""
-        status, output = self.prefix.run(f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\"))
+        status, output = self.prefix.run(PROBE)
         assert status == 0, "the probe didn't run"
         return [json.loads(line) for line in output.decode("latin-1").splitlines() if line.startswith("{")]
+
+    def post(self, window, message, first=0, second=0):
+        """Posts a message to a window of the prefix, named by its handle."""
+        status, _ = self.prefix.run(PROBE, "post", *map(str, (window, message, first, second)))
+        assert status == 0, "the message wasn't posted"
+
+    def copy(self, path):
+        """Puts the text of a file of the prefix on the clipboard."""
+        status, _ = self.prefix.run(PROBE, "copy", path)
+        assert status == 0, "the text isn't on the clipboard"
 
     def message_box(self, title="Meridex"):
         """Waits for a message box, until it takes keys, and reads it."""

@@ -1,4 +1,5 @@
 """A Wine prefix for one test: a light copy of the one that scripts/lib/wine.sh makes."""
+import os
 import pathlib
 import shutil
 import subprocess
@@ -23,8 +24,13 @@ def registry_text(text):
     return "".join(c if " " <= c <= "~" else f"\\x{ord(c):04x}" for c in escaped)
 
 
+# For root no file is read-only unless it gives up the right to write them all.
+WITH_PERMISSIONS = ["setpriv", "--bounding-set=-dac_override"] if os.geteuid() == 0 else []
+
+
 class Prefix:
-    def __init__(self, folder, environment, language):
+    def __init__(self, folder, environment, language, permissions=False):
+        """permissions: the program's files have the permissions that their modes tell, for root too."""
         golden = golden_prefix()
         self.folder = pathlib.Path(folder)
         self.drive = self.folder / "drive_c"
@@ -37,6 +43,7 @@ class Prefix:
         self.clock = self.folder / "clock"
         self.environment = dict(environment, WINEPREFIX=str(self.folder), WINEDEBUG="-all", LC_ALL=f"{language}.UTF-8",
                                 WINEDLLOVERRIDES="mscoree,mshtml=")
+        self._server = [*(WITH_PERMISSIONS if permissions else []), SERVER]
         self.booted = False
         self._idle = None
 
@@ -50,7 +57,7 @@ class Prefix:
     def boot(self, stands):
         """On the real clock, so that only the program sees the false one; `stands` tells whether Wine's desktop has come
         up. It would go a second after the last program on it, so an idle command line stays there until the end."""
-        subprocess.run([SERVER, "-p60"], env=self.environment, timeout=60, check=True)
+        subprocess.run([*self._server, "-p60"], env=self.environment, timeout=60, check=True)
         self.booted = True
         self._idle = subprocess.Popen([WINE, "cmd"], env=self.environment, stdin=subprocess.PIPE,
                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -75,14 +82,15 @@ class Prefix:
         fresh.write_text(f"@{moment}\n", encoding="ascii")
         fresh.replace(self.clock)
 
-    def start(self, *command):
-        """Starts a program without waiting for it, on the false clock if there is one."""
+    def start(self, *command, under=(), output=subprocess.DEVNULL):
+        """Starts a program without waiting for it, on the false clock if there is one; `under` is the beginning of the
+        command line that Wine itself runs under, `output` the open file that takes what the program prints."""
         environment = dict(self.environment)
         if self.clock.exists():
             environment.update(TZ="UTC", LD_PRELOAD=FAKE_CLOCK, FAKETIME_TIMESTAMP_FILE=str(self.clock),
                                FAKETIME_NO_CACHE="1", FAKETIME_DONT_FAKE_MONOTONIC="1", NO_FAKE_STAT="1")
-        return subprocess.Popen([WINE, *command], env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                stderr=subprocess.DEVNULL)
+        return subprocess.Popen([*under, WINE, *command], env=environment, stdin=subprocess.DEVNULL,
+                                stdout=output, stderr=subprocess.DEVNULL)
 
     def registry_value(self, key, name):
         """The text of a value such as HKCU\\Software\\..., None if it isn't there."""
