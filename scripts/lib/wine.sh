@@ -14,6 +14,13 @@
 
 WINE64=${WINE64:-/usr/lib/wine/wine64}
 WINESERVER=${WINESERVER:-/usr/lib/wine/wineserver64}
+# Debian's Wine is linked at a fixed place just below 0x7ffe0000 and comes without a preloader. Its heap begins anywhere in
+# the gigabyte behind that place, and now and then lies where Windows programs need a page of the system's: such a program
+# ends before its first instruction. So memory isn't laid out at random; where a container forbids that, it stays as it is.
+wine=("$WINE64")
+if setarch -R true 2>/dev/null; then
+  wine=(setarch -R "$WINE64")
+fi
 faketime_library=/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1
 screen_size=1280x1024
 
@@ -59,12 +66,12 @@ end_display() {
 }
 
 add_value() { # KEY NAME KIND DATA
-  "$WINE64" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 </dev/null
+  "${wine[@]}" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 </dev/null
 }
 
 fill_golden_prefix() {
   export WINEPREFIX=$golden_prefix
-  timeout 180 "$WINE64" wineboot -i >/dev/null 2>&1 </dev/null
+  timeout 180 "${wine[@]}" wineboot -i >/dev/null 2>&1 </dev/null
   timeout 60 "$WINESERVER" -w
   # Debian's Wine looks for its own fonts in a folder where they aren't.
   cp /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$WINEPREFIX/drive_c/windows/Fonts/"

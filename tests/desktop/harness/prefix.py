@@ -1,13 +1,33 @@
 """A Wine prefix for one test: a light copy of the one that scripts/lib/wine.sh makes."""
+import contextlib
+import ctypes
+import os
 import pathlib
 import shutil
+import signal
 import subprocess
+import tempfile
 
 from .waiting import wait_for
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 WINE, SERVER = "/usr/lib/wine/wine64", "/usr/lib/wine/wineserver64"
 FAKE_CLOCK = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
+SHARED_MEMORY = pathlib.Path("/dev/shm")
+
+
+def fix_memory_layout():
+    """From now on programs that this process starts have their memory where it always is. Otherwise the heap of Debian's
+    Wine, which is linked at a fixed place just below 0x7ffe0000 and comes without a preloader, begins anywhere in the
+    gigabyte behind that place, and now and then lies where Windows programs need a page of the system's: such a program
+    ends before its first instruction. Where a container forbids this call, that stays as it is."""
+    no_randomising, as_it_is = 0x0040000, 0xffffffff
+    library = ctypes.CDLL(None)
+    library.personality.argtypes = [ctypes.c_ulong]
+    library.personality(library.personality(as_it_is) | no_randomising)
+
+
+fix_memory_layout()
 
 
 def golden_prefix():
