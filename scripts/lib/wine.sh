@@ -32,6 +32,7 @@ cache_folder=${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/meridex
 golden_prefix=$cache_folder/wine-prefix-2
 display_process=
 idle_input=
+idle_process=
 
 # Polls: tries the command every 50 ms until it succeeds; fails after SECONDS.
 #   wait_until SECONDS COMMAND...
@@ -125,11 +126,20 @@ store_setting() { # SECTION KEY VALUE
 # Wine's desktop goes a second after the last program on it: an idle command line stays there until the prefix ends.
 boot_prefix() {
   "$WINESERVER" -p60  # it goes by itself if a run is cut off
-  exec {idle_input}> >(exec "$WINE64" cmd >/dev/null 2>&1)
-  wait_until 60 xdotool search --onlyvisible --name 'Wine desktop' || {
+  exec {idle_input}> >(exec "${wine[@]}" cmd >/dev/null 2>&1)
+  idle_process=$!
+  wait_for_desktop 60 xdotool search --onlyvisible --name 'Wine desktop'
+}
+
+wait_for_desktop() { # SECONDS COMMAND...: until it succeeds, or the idle command line has ended without it
+  if ! wait_until "$1" idle_ended_or "${@:2}" || ! kill -0 "$idle_process" 2>/dev/null; then
     echo "Wine's desktop didn't come up." >&2
     return 1
-  }
+  fi
+}
+
+idle_ended_or() {
+  ! kill -0 "$idle_process" || "$@"
 }
 
 desktop_stands() {
@@ -137,8 +147,8 @@ desktop_stands() {
 }
 
 boot_desktop() {
-  boot_prefix
-  wait_until 30 desktop_stands
+  boot_prefix || return
+  wait_for_desktop 30 desktop_stands
 }
 
 # FILE holds '@YYYY-MM-DD HH:MM:SS' for a clock that runs on from there. Timers and the wait for them stay real.
@@ -150,11 +160,30 @@ on_clock() { # FILE COMMAND...
 }
 
 end_prefix() {
+  local folder
   [ -n "${WINEPREFIX:-}" ] && [ "$WINEPREFIX" != "$golden_prefix" ] || return 0
   [ -z "$idle_input" ] || exec {idle_input}>&-
   idle_input=
-  "$WINESERVER" -k 2>/dev/null || true
+  timeout 30 "$WINESERVER" -k 2>/dev/null || true
   timeout 20 "$WINESERVER" -w 2>/dev/null || true
+  end_stragglers
+  # Debian's server notes here which folder for its socket it has made.
+  folder=$(cat "$WINEPREFIX/wineserver" 2>/dev/null || true)
+  case $folder in
+    */*) ;;
+    wine-?*) rm -rf "/tmp/$folder" ;;
+  esac
+}
+
+# A program that is just starting as the server goes waits for its first answer for ever: the server doesn't know it yet
+# and doesn't end it.
+end_stragglers() {
+  local process
+  for process in $(grep -lszxaF "WINEPREFIX=$WINEPREFIX" /proc/[0-9]*/environ | cut -d / -f 3); do
+    if [ "$process" -ne $$ ] && grep -qsaE 'exe|wine' "/proc/$process/cmdline"; then
+      kill -KILL "$process" 2>/dev/null || true
+    fi
+  done
 }
 
 end_wine() {
