@@ -45,18 +45,23 @@ wait_until() {
   done
 }
 
-start_display() {
-  local file
+start_display() { # the server looks for a free number itself and tells it in one line
+  local file number
   file=$(mktemp)
   Xvfb -displayfd 7 -screen 0 "${screen_size}x24" -nolisten tcp -noreset 7>"$file" >/dev/null 2>&1 &
   display_process=$!
-  if ! wait_until 20 grep -q . "$file"; then
+  wait_until 20 display_told "$file" || true
+  number=$(cat "$file")
+  rm -f "$file"
+  if [ -z "$number" ] || ! kill -0 "$display_process" 2>/dev/null; then
     echo "No virtual display came up." >&2
     return 1
   fi
-  DISPLAY=:$(cat "$file")
-  export DISPLAY
-  rm -f "$file"
+  export DISPLAY=:$number
+}
+
+display_told() { # FILE: there is a whole line, or nobody who could still write one
+  [ "$(wc -l <"$1")" -gt 0 ] || ! kill -0 "$display_process"
 }
 
 end_display() {
