@@ -59,7 +59,6 @@ class Prefix:
                                 WINEDLLOVERRIDES="mscoree,mshtml=")
         self.booted = False
         self._idle = None
-        self._on_false_clock = []
         self._complaints = tempfile.TemporaryFile()
 
     def preset(self, key, values):
@@ -90,14 +89,19 @@ class Prefix:
 
     def end(self):
         """Ends every program of the prefix, and takes away what they leave outside it."""
+        started = self._processes()
         try:
             subprocess.run([SERVER, "-k"], env=self.environment, timeout=30, check=False)
             subprocess.run([SERVER, "-w"], env=self.environment, timeout=30, check=False)
         finally:
-            self._end_stragglers()
+            # A program that is just starting as the server goes waits for its first answer for ever: the server doesn't
+            # know it yet and doesn't end it.
+            for process in self._processes():
+                with contextlib.suppress(ProcessLookupError):
+                    os.kill(process, signal.SIGKILL)
         if self._idle:
             self._idle.communicate(timeout=30)
-        for process in self._on_false_clock:
+        for process in started:
             for name in (f"faketime_shm_{process}", f"sem.faketime_sem_{process}"):
                 (SHARED_MEMORY / name).unlink(missing_ok=True)
         note = self.folder / "wineserver"  # Debian's server notes here which folder for its socket it has made
@@ -106,16 +110,15 @@ class Prefix:
             shutil.rmtree(pathlib.Path("/tmp", name), ignore_errors=True)
         self._complaints.close()
 
-    def _end_stragglers(self):
-        """A program that is just starting as the server goes waits for its first answer for ever: the server doesn't know
-        it yet and doesn't end it."""
+    def _processes(self):
+        """Those of the prefix, also such as its server doesn't know."""
         mark = f"WINEPREFIX={self.folder}".encode()
+        found = []
         for process in pathlib.Path("/proc").glob("[0-9]*"):
             with contextlib.suppress(OSError):
-                arguments = (process / "cmdline").read_bytes()
-                if b"exe" in arguments or b"wine" in arguments:
-                    if mark in (process / "environ").read_bytes().split(b"\0"):
-                        os.kill(int(process.name), signal.SIGKILL)
+                if mark in (process / "environ").read_bytes().split(b"\0"):
+                    found.append(int(process.name))
+        return found
 
     def run(self, *command, seconds=60):
         """Runs a program to its end; returns its exit status and what it printed."""
@@ -135,10 +138,8 @@ class Prefix:
         if self.clock.exists():
             environment.update(TZ="UTC", LD_PRELOAD=FAKE_CLOCK, FAKETIME_TIMESTAMP_FILE=str(self.clock),
                                FAKETIME_NO_CACHE="1", FAKETIME_DONT_FAKE_MONOTONIC="1", NO_FAKE_STAT="1")
-        program = subprocess.Popen([WINE, *command], env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                   stderr=self._complaints)
-        self._on_false_clock.append(program.pid)
-        return program
+        return subprocess.Popen([WINE, *command], env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                stderr=self._complaints)
 
     def registry_value(self, key, name):
         """The text of a value such as HKCU\\Software\\..., None if it isn't there."""
