@@ -114,8 +114,8 @@ put_settings() {
 }
 
 start_program() {
-  local -a command=("$WINE64" 'C:\Meridex\meridex.exe')
-  [ -z "$desktop" ] || command=("$WINE64" 'C:\Meridex\meridex-desktop-start.exe' 'C:\Meridex\meridex.exe')
+  local -a command=("${wine[@]}" 'C:\Meridex\meridex.exe')
+  [ -z "$desktop" ] || command=("${wine[@]}" 'C:\Meridex\meridex-desktop-start.exe' 'C:\Meridex\meridex.exe')
   if [ -n "$now" ]; then
     echo "@$now" >"$scratch/clock"
     on_clock "$scratch/clock" "${command[@]}"

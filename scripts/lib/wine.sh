@@ -14,6 +14,13 @@
 
 WINE64=${WINE64:-/usr/lib/wine/wine64}
 WINESERVER=${WINESERVER:-/usr/lib/wine/wineserver64}
+# Debian's Wine is linked at a fixed place just below 0x7ffe0000 and comes without a preloader. Its heap begins anywhere in
+# the gigabyte behind that place, and now and then lies where Windows programs need a page of the system's: such a program
+# ends before its first instruction. So memory isn't laid out at random; where a container forbids that, it stays as it is.
+wine=("$WINE64")
+if setarch -R true 2>/dev/null; then
+  wine=(setarch -R "$WINE64")
+fi
 faketime_library=/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1
 screen_size=1280x1024
 
@@ -25,6 +32,7 @@ cache_folder=${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/meridex
 golden_prefix=$cache_folder/wine-prefix-2
 display_process=
 idle_input=
+idle_process=
 
 # Polls: tries the command every 50 ms until it succeeds; fails after SECONDS.
 #   wait_until SECONDS COMMAND...
@@ -37,18 +45,23 @@ wait_until() {
   done
 }
 
-start_display() {
-  local file
+start_display() { # the server looks for a free number itself and tells it in one line
+  local file number
   file=$(mktemp)
   Xvfb -displayfd 7 -screen 0 "${screen_size}x24" -nolisten tcp -noreset 7>"$file" >/dev/null 2>&1 &
   display_process=$!
-  if ! wait_until 20 grep -q . "$file"; then
+  wait_until 20 display_told "$file" || true
+  number=$(cat "$file")
+  rm -f "$file"
+  if [ -z "$number" ] || ! kill -0 "$display_process" 2>/dev/null; then
     echo "No virtual display came up." >&2
     return 1
   fi
-  DISPLAY=:$(cat "$file")
-  export DISPLAY
-  rm -f "$file"
+  export DISPLAY=:$number
+}
+
+display_told() { # FILE: there is a whole line, or nobody who could still write one
+  [ "$(wc -l <"$1")" -gt 0 ] || ! kill -0 "$display_process"
 }
 
 end_display() {
@@ -59,12 +72,12 @@ end_display() {
 }
 
 add_value() { # KEY NAME KIND DATA
-  "$WINE64" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 </dev/null
+  "${wine[@]}" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 </dev/null
 }
 
 fill_golden_prefix() {
   export WINEPREFIX=$golden_prefix
-  timeout 180 "$WINE64" wineboot -i >/dev/null 2>&1 </dev/null
+  timeout 180 "${wine[@]}" wineboot -i >/dev/null 2>&1 </dev/null
   timeout 60 "$WINESERVER" -w
   # Debian's Wine looks for its own fonts in a folder where they aren't.
   cp /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$WINEPREFIX/drive_c/windows/Fonts/"
@@ -118,11 +131,20 @@ store_setting() { # SECTION KEY VALUE
 # Wine's desktop goes a second after the last program on it: an idle command line stays there until the prefix ends.
 boot_prefix() {
   "$WINESERVER" -p60  # it goes by itself if a run is cut off
-  exec {idle_input}> >(exec "$WINE64" cmd >/dev/null 2>&1)
-  wait_until 60 xdotool search --onlyvisible --name 'Wine desktop' || {
+  exec {idle_input}> >(exec "${wine[@]}" cmd >/dev/null 2>&1)
+  idle_process=$!
+  wait_for_desktop 60 xdotool search --onlyvisible --name 'Wine desktop'
+}
+
+wait_for_desktop() { # SECONDS COMMAND...: until it succeeds, or the idle command line has ended without it
+  if ! wait_until "$1" idle_ended_or "${@:2}" || ! kill -0 "$idle_process" 2>/dev/null; then
     echo "Wine's desktop didn't come up." >&2
     return 1
-  }
+  fi
+}
+
+idle_ended_or() {
+  ! kill -0 "$idle_process" || "$@"
 }
 
 desktop_stands() {
@@ -130,8 +152,8 @@ desktop_stands() {
 }
 
 boot_desktop() {
-  boot_prefix
-  wait_until 30 desktop_stands
+  boot_prefix || return
+  wait_for_desktop 30 desktop_stands
 }
 
 # FILE holds '@YYYY-MM-DD HH:MM:SS' for a clock that runs on from there. Timers and the wait for them stay real.
@@ -143,11 +165,30 @@ on_clock() { # FILE COMMAND...
 }
 
 end_prefix() {
+  local folder
   [ -n "${WINEPREFIX:-}" ] && [ "$WINEPREFIX" != "$golden_prefix" ] || return 0
   [ -z "$idle_input" ] || exec {idle_input}>&-
   idle_input=
-  "$WINESERVER" -k 2>/dev/null || true
+  timeout 30 "$WINESERVER" -k 2>/dev/null || true
   timeout 20 "$WINESERVER" -w 2>/dev/null || true
+  end_stragglers
+  # Debian's server notes here which folder for its socket it has made.
+  folder=$(cat "$WINEPREFIX/wineserver" 2>/dev/null || true)
+  case $folder in
+    */*) ;;
+    wine-?*) rm -rf "/tmp/$folder" ;;
+  esac
+}
+
+# A program that is just starting as the server goes waits for its first answer for ever: the server doesn't know it yet
+# and doesn't end it.
+end_stragglers() {
+  local process
+  for process in $(grep -lszxaF "WINEPREFIX=$WINEPREFIX" /proc/[0-9]*/environ | cut -d / -f 3); do
+    if [ "$process" -ne $$ ] && grep -qsaE 'exe|wine' "/proc/$process/cmdline"; then
+      kill -KILL "$process" 2>/dev/null || true
+    fi
+  done
 }
 
 end_wine() {

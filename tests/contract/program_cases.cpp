@@ -9,11 +9,26 @@ namespace {
 
 constexpr basic::Serial_Day last_of_march_2004 = 38077;
 
+/// Runs as the world's clock does, from the moment that was set last.
 class Set_Clock : public platform::Clock {
  public:
-  basic::Moment Now() override { return Moment; }
+  explicit Set_Clock(platform::Clock& real) : real_(real) {
+    Set({last_of_march_2004, 12 * std::int64_t{3'600'000'000}});
+  }
 
-  basic::Moment Moment{last_of_march_2004, 12 * std::int64_t{3'600'000'000}};
+  void Set(const basic::Moment& moment) {
+    moment_ = moment;
+    set_at_ = real_.Now();
+  }
+  basic::Moment Now() override {
+    const basic::Moment now = real_.Now();
+    const std::int64_t passed = (now.Day - set_at_.Day) * std::int64_t{86'400'000'000} + now.Micros - set_at_.Micros;
+    return {moment_.Day, moment_.Micros + passed};
+  }
+
+ private:
+  platform::Clock& real_;
+  basic::Moment moment_, set_at_;
 };
 
 class Program_Cases : public Service_Cases {
@@ -56,7 +71,17 @@ class Program_Cases : public Service_Cases {
     throw std::logic_error("no title");
   }
 
-  void Turn_The_Day() { Clock.Moment = {last_of_march_2004 + 1, 0}; }
+  /// The box of a day of the month on view.
+  toolkit::Control* Box_Of(int day) {
+    for (toolkit::Control* const control : Main_Frm->Controls()) {
+      auto* const label = dynamic_cast<toolkit::Label*>(control);
+      if (label != nullptr && label->Name == "Box_Lbl" && label->Caption == " " + std::to_string(day) + " ")
+        return label;
+    }
+    return nullptr;
+  }
+
+  void Turn_The_Day() { Clock.Set({last_of_march_2004 + 1, 0}); }
 
   /// The alert of 31 March comes up in the start.
   void Start_Behind_The_Alert() {
@@ -64,7 +89,7 @@ class Program_Cases : public Service_Cases {
     Start();
   }
 
-  Set_Clock Clock;
+  Set_Clock Clock{World->System().Clock};
   ::User& User = World->The_User();
   std::unique_ptr<Meridex> Program = std::make_unique<Meridex>(World->Backend(), System_With_Clock());
   toolkit::Form* Main_Frm = nullptr;
@@ -104,6 +129,22 @@ TEST_F(Program_Cases, A_midnight_under_an_alert_is_followed_by_the_new_days_own)
   EXPECT_EQ(Title().Caption(), "1st April - 2004");
   EXPECT_EQ(Program->State().View_Month, 4);
   EXPECT_TRUE(Main_Frm->Accepts_Input());
+}
+
+TEST_F(Program_Cases, An_alert_over_a_balloon_waits_for_its_answer) {
+  World->System().Store.Save("Meridex", "Settings", "Tooltips", "2");
+  Start_Behind_The_Alert();
+  World->System().Store.Save("Meridex", "Settings", "Tooltips", "0");
+  User.Press(*Main_Frm, Box_Of(31), toolkit::Mouse_Button::Left);
+  User.Wait(500);
+  User.Release(*Main_Frm, Box_Of(31), toolkit::Mouse_Button::Left);
+  ASSERT_TRUE(Program->State().Tip_Showing);
+  bool open = false;
+  User.Answer(Box_Answer::OK, [&] { open = true; });
+  Turn_The_Day();
+  User.Wait(1500);
+  EXPECT_TRUE(open);
+  EXPECT_TRUE(Program->State().Alerted_Today);
 }
 
 TEST_F(Program_Cases, The_tick_follows_the_active_window) {

@@ -181,6 +181,28 @@ TEST_F(Window_Cases, Moves_of_a_press_go_to_its_control_also_over_another_window
   EXPECT_EQ(Take(), "Adown1 Aup1 ");
 }
 
+TEST_F(Window_Cases, A_second_button_over_another_window_goes_to_the_pressed_control) {
+  Labels_Window other(Backend, "Other", 7500);
+  Listen(other.A);
+  World->Run([&] { other.Window.Show(false); });
+  Take();
+  User.Press(Main.Window, &Main.A, Mouse_Button::Left);
+  User.Press(other.Window, &other.A, Mouse_Button::Right);
+  User.Release(other.Window, &other.A, Mouse_Button::Right);
+  User.Release(other.Window, &other.A, Mouse_Button::Left);
+  EXPECT_EQ(Take(), "Adown1 Adown2 Aup2 Aup1 ");
+  EXPECT_TRUE(Active(Main.Window));
+}
+
+TEST_F(Window_Cases, A_press_on_the_ground_that_is_released_over_another_window_is_no_click) {
+  Labels_Window other(Backend, "Other", 7500);
+  World->Run([&] { other.Window.Show(false); });
+  Take();
+  User.Press(Main.Window, nullptr, Mouse_Button::Left);
+  User.Release(other.Window, &other.A, Mouse_Button::Left);
+  EXPECT_EQ(Take(), "");
+}
+
 TEST_F(Window_Cases, Only_the_left_button_clicks) {
   Take();
   for (const auto button : {Mouse_Button::Right, Mouse_Button::Middle}) {
@@ -242,6 +264,24 @@ TEST_F(Window_Cases, The_window_that_was_active_is_so_again_after_a_message_box)
   Take();
   User.Press_Key(Pressed_Key::F9);
   EXPECT_EQ(Take(), "key120 ");
+}
+
+TEST_F(Window_Cases, A_box_over_a_window_that_goes_when_it_loses_the_activity_stays_and_so_does_the_window) {
+  Labels_Window tip(Backend, "Tip", 7500, &Main.Window);
+  tip.Window.On_Deactivate = [&] { tip.Window.Unload(); };
+  Show(tip.Window);
+  bool open = false;
+  User.Answer(Box_Answer::Yes, [&] {
+    open = true;
+    EXPECT_TRUE(tip.Window.Loaded());
+    EXPECT_TRUE(Active(tip.Window));
+  });
+  EXPECT_EQ(Ask(Box_Buttons::Yes_No), Box_Answer::Yes);
+  EXPECT_TRUE(open);
+  User.Wait(100);
+  EXPECT_TRUE(Active(tip.Window));
+  User.Click(Main.Window, nullptr);
+  EXPECT_FALSE(tip.Window.Loaded());
 }
 
 TEST_F(Window_Cases, A_window_that_the_program_disabled_is_active_after_its_message_box) {

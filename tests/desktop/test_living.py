@@ -98,8 +98,13 @@ class Dragging(Desktop_Test):
         desktop = self.desktop(settings={"Alignment": 7, "Manual_PosX": 3000, "Manual_PosY": 3000, "Use Theme Pos": 0})
         before = desktop.started()
         x, y = desktop.on_screen(desktop.layout().title_rect).centre
-        desktop.screen.drag((x, y), (x + 120, y + 80))
-        wait_for(lambda: desktop.calendar_window().rect == before.moved(120, 80), "the window at its new place")
+
+        def window_is_moved(across, down):
+            wait_for(lambda: desktop.calendar_window() and desktop.calendar_window().rect == before.moved(across, down),
+                     f"the window {across} to the right and {down} down")
+
+        desktop.screen.drag((x, y), (x + 120, y + 80), followed=window_is_moved)
+        window_is_moved(120, 80)
         self.assertEqual(wait_for(lambda: desktop.stored("Settings", "Manual_PosX"), "the stored place"), str(3000 + 120 * 15))
         self.assertEqual(desktop.stored("Settings", "Manual_PosY"), str(3000 + 80 * 15))
 

@@ -18,4 +18,4 @@ boot_desktop
 mkdir "$WINEPREFIX/drive_c/Meridex"
 cp "$program" "$WINEPREFIX/drive_c/Meridex/"
 cd "$WINEPREFIX/drive_c/Meridex"
-timeout --kill-after=5 270 "$WINE64" "C:\\Meridex\\${program##*/}" "$@" </dev/null
+timeout --kill-after=5 270 "${wine[@]}" "C:\\Meridex\\${program##*/}" "$@" </dev/null

@@ -166,7 +166,7 @@ class Desktop:
     def probe(self):
         """All top windows of the prefix with their children, as they see themselves; see probe.cpp."""
         status, output = self.prefix.run(PROBE)
-        assert status == 0, "the probe didn't run"
+        assert status == 0, f"the probe ended with status {status}; {self.prefix.complaints()}"
         return [json.loads(line) for line in output.decode("latin-1").splitlines() if line.startswith("{")]
 
     def post(self, window, message, first=0, second=0):

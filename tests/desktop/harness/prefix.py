@@ -1,14 +1,33 @@
 """A Wine prefix for one test: a light copy of the one that scripts/lib/wine.sh makes."""
+import contextlib
+import ctypes
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
+import tempfile
 
 from .waiting import wait_for
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 WINE, SERVER = "/usr/lib/wine/wine64", "/usr/lib/wine/wineserver64"
 FAKE_CLOCK = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
+SHARED_MEMORY = pathlib.Path("/dev/shm")
+
+
+def fix_memory_layout():
+    """From now on programs that this process starts have their memory where it always is. Otherwise the heap of Debian's
+    Wine, which is linked at a fixed place just below 0x7ffe0000 and comes without a preloader, begins anywhere in the
+    gigabyte behind that place, and now and then lies where Windows programs need a page of the system's: such a program
+    ends before its first instruction. Where a container forbids this call, that stays as it is."""
+    no_randomising, as_it_is = 0x0040000, 0xffffffff
+    library = ctypes.CDLL(None)
+    library.personality.argtypes = [ctypes.c_ulong]
+    library.personality(library.personality(as_it_is) | no_randomising)
+
+
+fix_memory_layout()
 
 
 def golden_prefix():
@@ -41,11 +60,12 @@ class Prefix:
         shutil.copytree(golden / "drive_c/users", self.drive / "users", symlinks=True)
         (self.drive / "windows").symlink_to(golden / "drive_c/windows")
         self.clock = self.folder / "clock"
-        self.environment = dict(environment, WINEPREFIX=str(self.folder), WINEDEBUG="-all", LC_ALL=f"{language}.UTF-8",
+        self.environment = dict(environment, WINEPREFIX=str(self.folder), WINEDEBUG="fixme-all", LC_ALL=f"{language}.UTF-8",
                                 WINEDLLOVERRIDES="mscoree,mshtml=")
         self._server = [*(WITH_PERMISSIONS if permissions else []), SERVER]
         self.booted = False
         self._idle = None
+        self._complaints = tempfile.TemporaryFile()
 
     def preset(self, key, values):
         """Values below HKEY_CURRENT_USER, before the prefix is booted."""
@@ -57,23 +77,59 @@ class Prefix:
     def boot(self, stands):
         """On the real clock, so that only the program sees the false one; `stands` tells whether Wine's desktop has come
         up. It would go a second after the last program on it, so an idle command line stays there until the end."""
-        subprocess.run([*self._server, "-p60"], env=self.environment, timeout=60, check=True)
+        subprocess.run([*self._server, "-p60"], env=self.environment, timeout=60, check=True, stderr=self._complaints)
         self.booted = True
         self._idle = subprocess.Popen([WINE, "cmd"], env=self.environment, stdin=subprocess.PIPE,
-                                      stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_for(stands, "Wine's desktop", seconds=30)
+                                      stdout=subprocess.DEVNULL, stderr=self._complaints)
+        try:
+            wait_for(lambda: self._idle.poll() is not None or stands(), "Wine's desktop", seconds=30)
+        except AssertionError as failure:
+            raise AssertionError(f"{failure}; {self.complaints()}") from None
+        assert self._idle.poll() is None, f"Wine's command line ended; {self.complaints()}"
+
+    def complaints(self):
+        """The last that Wine has said of the programs of this prefix."""
+        size = os.fstat(self._complaints.fileno()).st_size
+        said = os.pread(self._complaints.fileno(), 2000, max(size - 2000, 0))
+        return "Wine said: " + (said.decode("utf-8", "replace").strip() or "nothing")
 
     def end(self):
-        """Ends every program of the prefix."""
-        subprocess.run([SERVER, "-k"], env=self.environment, timeout=30, check=False)
-        subprocess.run([SERVER, "-w"], env=self.environment, timeout=30, check=False)
+        """Ends every program of the prefix, and takes away what they leave outside it."""
+        started = self._processes()
+        try:
+            subprocess.run([SERVER, "-k"], env=self.environment, timeout=30, check=False)
+            subprocess.run([SERVER, "-w"], env=self.environment, timeout=30, check=False)
+        finally:
+            # A program that is just starting as the server goes waits for its first answer for ever: the server doesn't
+            # know it yet and doesn't end it.
+            for process in self._processes():
+                with contextlib.suppress(ProcessLookupError):
+                    os.kill(process, signal.SIGKILL)
         if self._idle:
             self._idle.communicate(timeout=30)
+        for process in started:
+            for name in (f"faketime_shm_{process}", f"sem.faketime_sem_{process}"):
+                (SHARED_MEMORY / name).unlink(missing_ok=True)
+        note = self.folder / "wineserver"  # Debian's server notes here which folder for its socket it has made
+        name = note.read_text(encoding="ascii").strip() if note.exists() else ""
+        if name.startswith("wine-") and "/" not in name:
+            shutil.rmtree(pathlib.Path("/tmp", name), ignore_errors=True)
+        self._complaints.close()
+
+    def _processes(self):
+        """Those of the prefix, also such as its server doesn't know."""
+        mark = f"WINEPREFIX={self.folder}".encode()
+        found = []
+        for process in pathlib.Path("/proc").glob("[0-9]*"):
+            with contextlib.suppress(OSError):
+                if mark in (process / "environ").read_bytes().split(b"\0"):
+                    found.append(int(process.name))
+        return found
 
     def run(self, *command, seconds=60):
         """Runs a program to its end; returns its exit status and what it printed."""
         result = subprocess.run([WINE, *command], env=self.environment, timeout=seconds, stdin=subprocess.DEVNULL,
-                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False)
+                                stdout=subprocess.PIPE, stderr=self._complaints, check=False)
         return result.returncode, result.stdout
 
     def set_clock(self, moment):
@@ -89,8 +145,8 @@ class Prefix:
         if self.clock.exists():
             environment.update(TZ="UTC", LD_PRELOAD=FAKE_CLOCK, FAKETIME_TIMESTAMP_FILE=str(self.clock),
                                FAKETIME_NO_CACHE="1", FAKETIME_DONT_FAKE_MONOTONIC="1", NO_FAKE_STAT="1")
-        return subprocess.Popen([*under, WINE, *command], env=environment, stdin=subprocess.DEVNULL,
-                                stdout=output, stderr=subprocess.DEVNULL)
+        return subprocess.Popen([*under, WINE, *command], env=environment, stdin=subprocess.DEVNULL, stdout=output,
+                                stderr=self._complaints)
 
     def registry_value(self, key, name):
         """The text of a value such as HKCU\\Software\\..., None if it isn't there."""

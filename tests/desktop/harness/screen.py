@@ -113,10 +113,15 @@ class Screen:
         self.move(x, y)
         self.hands("click", "--repeat", 2, "--delay", 50, 1)
 
-    def drag(self, start, end, steps=8, button=1):
+    def drag(self, start, end, followed, steps=8, button=1):
+        """followed: called after each step with the way across and down so far, waits until what is dragged is there. On a
+        desktop of Wine's own a window gets the pointer's places as they were within it; if it moves while one of them is on
+        its way, Wine takes that place for one within the moved window, a step too far."""
         self.press(*start, button)
         for step in range(1, steps + 1):
-            self.move(*(a + (b - a) * step // steps for a, b in zip(start, end)))
+            across, down = ((b - a) * step // steps for a, b in zip(start, end))
+            self.move(start[0] + across, start[1] + down)
+            followed(across, down)
         self.release(button)
 
     def focus(self, name):
