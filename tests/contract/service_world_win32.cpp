@@ -17,13 +17,17 @@ using toolkit::Mouse_Button;
 
 constexpr UINT while_open = 500;  // milliseconds
 
-/// What is to be done when a box or a menu has been open for a while. The system serves one at a time.
-std::function<void()> due;
+/// What is to be done when a box or a menu has been open for a while; returns false to be asked again a moment later. The
+/// system serves one at a time.
+std::function<bool()> due;
 
 void CALLBACK Do_What_Is_Due(HWND, UINT, UINT_PTR timer, DWORD) {
   KillTimer(nullptr, timer);
-  const std::function<void()> work = std::exchange(due, nullptr);
-  if (work) work();
+  const std::function<bool()> work = std::exchange(due, nullptr);
+  if (!work || work()) return;
+  due = work;
+  constexpr UINT a_moment = 50;  // milliseconds
+  SetTimer(nullptr, 0, a_moment, Do_What_Is_Due);
 }
 
 BOOL CALLBACK Find_Box(HWND window, LPARAM found) {
@@ -32,6 +36,13 @@ BOOL CALLBACK Find_Box(HWND window, LPARAM found) {
   if (std::string(window_class) != "#32770" || IsWindowVisible(window) == 0) return TRUE;
   *reinterpret_cast<HWND*>(found) = window;
   return FALSE;
+}
+
+/// The foremost box of the program that is on the screen, nullptr if there is none.
+HWND Open_Box() {
+  HWND box = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), Find_Box, reinterpret_cast<LPARAM>(&box));
+  return box;
 }
 
 class System_User : public User {
@@ -81,10 +92,12 @@ class System_User : public User {
 
   void Answer(Box_Answer answer, std::function<void()> meanwhile) override {
     Later([=, meanwhile = std::move(meanwhile)] {
+      const HWND box = Open_Box();
+      // The first message that a box serves may come before it is on the screen.
+      if (box == nullptr) return false;
       meanwhile();
-      HWND box = nullptr;
-      EnumThreadWindows(GetCurrentThreadId(), Find_Box, reinterpret_cast<LPARAM>(&box));
-      PostMessageA(box, WM_COMMAND, Id_Of(answer), 0);
+      PostMessageA(Open_Box(), WM_COMMAND, Id_Of(answer), 0);
+      return true;
     });
   }
   void Choose(int place, int, std::function<void()> meanwhile) override {
@@ -93,6 +106,7 @@ class System_User : public User {
       const HWND any = GetActiveWindow();
       for (int i = 0; i < place; ++i) PostMessageA(any, WM_KEYDOWN, VK_DOWN, 0);
       PostMessageA(any, WM_KEYDOWN, place == 0 ? VK_ESCAPE : VK_RETURN, 0);
+      return true;
     });
   }
   void Wait(std::int64_t milliseconds) override {
@@ -137,7 +151,7 @@ class System_User : public User {
       Wait(30);
     }
   }
-  static void Later(std::function<void()> work) {
+  static void Later(std::function<bool()> work) {
     due = std::move(work);
     SetTimer(nullptr, 0, while_open, Do_What_Is_Due);
   }
