@@ -26,7 +26,7 @@ struct Date_Words {
   [[nodiscard]] const std::string& Month_Name(int month) const;
 };
 
-/// Appends the moment as the pattern tells. The pieces: d, dd, dddd (weekday), m, mm (minutes behind an hour piece), yyyy,
+/// Appends the moment as the pattern tells. The pieces: d, dd, dddd (weekday), m, mm (minutes after an hour piece), yyyy,
 /// H, HH, h, hh, ss, AM/PM (which makes the hours of the pattern run from 1 to 12); "/" and ":" become the locale's
 /// separators, and every other character stands for itself.
 void Append_Date(std::string& to, const Moment& moment, std::string_view pattern, const Date_Words& words);

@@ -1,6 +1,6 @@
 // The one file number through which the calendar reads and writes all its text files.
 //
-// A procedure opens it, works and closes it. One that fails behind a successful open leaves it taken, and from then on
+// A procedure opens it, works and closes it. One that fails after a successful open leaves it taken, and from then on
 // every open fails, until the program is started again: the files are safe from a program that has lost its way.
 #pragma once
 
@@ -51,7 +51,7 @@ class File_Channel {
   /// Empties the file or makes it, and takes the number. Throws as above.
   void Open_For_Writing(const std::string& path);
 
-  /// Adds a record: the line in double quotes, and CR LF. Throws error 61 on a full disk, and the file then ends behind
+  /// Adds a record: the line in double quotes, and CR LF. Throws error 61 on a full disk, and the file then ends after
   /// the last record that found room.
   void Write_Record(std::string_view line);
 

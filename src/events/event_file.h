@@ -1,7 +1,7 @@
 // calendar.dat: every reading and every change of it. It is read whole whenever a month is drawn and written whole
 // whenever an event changes.
 //
-// A change goes: set Selected_Date, Load_File, Check_For_Pre. A failure behind a successful open leaves the one file
+// A change goes: set Selected_Date, Load_File, Check_For_Pre. A failure after a successful open leaves the one file
 // number taken, so that all later openings fail with their message until the program is started again.
 #pragma once
 

@@ -24,8 +24,8 @@ Word Load(const char* at) {
   return word;
 }
 
-/// Takes a number of one digit or two and the slash behind it, and gives its two digits, the higher one in the low byte.
-/// How many there are is anybody's guess, so nothing branches on it.
+/// Takes a number of one digit or two and the slash after it, and gives its two digits, the higher one in the low byte.
+/// One digit or two are equally likely, so a branch would be mispredicted half the time.
 std::uint64_t Take_Two_Digits(const char*& at, bool& plain) {
   const unsigned one = at[1] == '/' ? 1 : 0;
   const unsigned digits = Load<std::uint16_t>(at) << 8U * one | '0' * one;
@@ -35,7 +35,7 @@ std::uint64_t Take_Two_Digits(const char*& at, bool& plain) {
 }
 
 /// The short cut for a date as the program writes it: every line of the file passes here on every reading of it, so its
-/// eight digits are looked at in one go. Says no where anything about the line is unusual.
+/// eight digits are looked at in one go. Returns false where anything about the line is unusual.
 bool Read_Plain_Line(std::string_view line, Event_Line& event) {
   if (line.size() < longest_plain_date) return false;
   const char* at = line.data();

@@ -21,7 +21,7 @@ class Temp_List {
   /// Throws error 6 when the list holds 32767 lines already.
   void Append(std::string_view line);
 
-  /// The lines behind it close up.
+  /// The lines after it close up.
   void Remove(basic::Int16 index);
   void Clear() { lines_.clear(); }
 

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "memory/memory_windows.h"
+#include "memory/memory_peer.h"
 #include "platform/screen.h"
 #include "toolkit/backend.h"
 

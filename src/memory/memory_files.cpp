@@ -88,7 +88,7 @@ Memory_Files::Entry* Memory_Files::Find(std::string_view path) {
   return const_cast<Entry*>(std::as_const(*this).Find(path));
 }
 
-/// Says by its error why a path can't be opened: a missing folder, or a folder in its place.
+/// Throws the error that tells why a path can't be opened: a missing folder, or a folder in its place.
 void Memory_Files::Check_Place(const std::string& path) const {
   const Entry* const folder = Find(Above(Tidy(path)));
   if (folder == nullptr || !folder->Is_Folder) throw Run_Error(Error_Number::Path_Not_Found);

@@ -18,7 +18,7 @@ class Memory_Locale : public platform::Locale {
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
 
-  /// Says whether there is a locale of that name. A running program goes on in the one that it was started in.
+  /// Returns whether there is a locale of that name. A running program goes on in the one that it was started in.
   bool Choose(std::string_view name);
 
   /// A program starts: it takes the chosen locale.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "memory/memory_windows.h"
 #include "memory/round_region.h"
 #include "toolkit/form.h"
 

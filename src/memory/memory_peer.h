@@ -3,18 +3,17 @@
 
 #include <optional>
 
+#include "memory/memory_windows.h"
 #include "toolkit/backend.h"
 
 namespace memory {
-
-class Memory_Windows;
 
 /// How often a window was told something.
 struct Peer_Counts {
   int Shows = 0, Hides = 0, Form_Changes = 0, Control_Changes = 0, Regions = 0;
 };
 
-class Memory_Peer : public toolkit::Form_Peer {
+class Memory_Peer : public toolkit::Form_Peer, public Memory_Window {
  public:
   Memory_Peer(Memory_Windows& windows, toolkit::Form& form, platform::Window_Handle handle);
   Memory_Peer(const Memory_Peer&) = delete;
@@ -38,8 +37,8 @@ class Memory_Peer : public toolkit::Form_Peer {
   void Release_Mouse() override;
   [[nodiscard]] platform::Window_Handle Handle() const override { return handle_; }
 
-  [[nodiscard]] toolkit::Form& Form() const { return form_; }
-  [[nodiscard]] const std::optional<toolkit::Region>& Region() const { return region_; }
+  [[nodiscard]] toolkit::Form& Form() const override { return form_; }
+  [[nodiscard]] const std::optional<toolkit::Region>& Region() const override { return region_; }
 
   /// The control that was given the keys last, to be compared alone.
   [[nodiscard]] const toolkit::Control* Focused() const { return focused_; }

@@ -24,7 +24,7 @@ void Expect(std::string_view& bytes, std::string_view piece) {
   bytes.remove_prefix(piece.size());
 }
 
-/// Takes a number and the blank behind it off the front; throws error 481 if it isn't there or out of its range.
+/// Takes a number and the blank after it off the front; throws error 481 if it isn't there or out of its range.
 int Expect_Number(std::string_view& bytes, int least, int most) {
   int number = 0;
   const auto [end, failure] = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);

@@ -18,7 +18,7 @@ class Memory_Profiles : public platform::Profile_Files {
   std::string Get_Text(const std::string& section, const std::string& entry, const std::string& default_text,
                        unsigned room, const std::string& file) override;
 
-  /// The digits at the text's start, behind a sign or none; 0 if it starts otherwise, the default if it is empty.
+  /// The digits at the text's start, after a sign or none; 0 if it starts otherwise, the default if it is empty.
   int Get_Number(const std::string& section, const std::string& entry, int default_number,
                  const std::string& file) override;
 

@@ -5,13 +5,27 @@
 // an owner or to the next window; that may be a window of another program.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "memory/memory_loop.h"
-#include "memory/memory_peer.h"
+#include "toolkit/form.h"
 
 namespace memory {
+
+/// A window as the others know it.
+class Memory_Window {
+ public:
+  [[nodiscard]] virtual toolkit::Form& Form() const = 0;
+  [[nodiscard]] virtual platform::Window_Handle Handle() const = 0;
+
+  /// What it was cut to last, if it was.
+  [[nodiscard]] virtual const std::optional<toolkit::Region>& Region() const = 0;
+
+ protected:
+  ~Memory_Window() = default;
+};
 
 class Memory_Windows {
  public:
@@ -19,25 +33,25 @@ class Memory_Windows {
       : time_(time), loop_(loop), input_(input) {}
 
   // From the peers.
-  void Add(Memory_Peer& peer) { loaded_.push_back(&peer); }
-  void Remove(Memory_Peer& peer);
-  void Shown(Memory_Peer& peer, bool activate);
-  void Hidden(Memory_Peer& peer);
-  void Give_Mouse(const Memory_Peer* peer) { mouse_ = peer; }
+  void Add(Memory_Window& peer) { loaded_.push_back(&peer); }
+  void Remove(Memory_Window& peer);
+  void Shown(Memory_Window& peer, bool activate);
+  void Hidden(Memory_Window& peer);
+  void Give_Mouse(const Memory_Window* peer) { mouse_ = peer; }
 
   /// The form becomes the active window; nullptr: another program's window does. Both forms concerned are told.
   void Activate(toolkit::Form* form);
   [[nodiscard]] toolkit::Form* Active() const;
 
   /// The window that all moves and releases of the mouse come to; nullptr if each comes to the one under the pointer.
-  [[nodiscard]] const Memory_Peer* Mouse() const { return mouse_; }
+  [[nodiscard]] const Memory_Window* Mouse() const { return mouse_; }
 
   /// The newest loaded form of that name, nullptr if there is none.
   [[nodiscard]] toolkit::Form* Find(std::string_view name) const;
   [[nodiscard]] toolkit::Form* Find(platform::Window_Handle handle) const;
 
   /// The window of a loaded form, nullptr of any other.
-  [[nodiscard]] Memory_Peer* Peer_Of(const toolkit::Form& form) const;
+  [[nodiscard]] Memory_Window* Peer_Of(const toolkit::Form& form) const;
 
   /// The visible forms in the order in which they became so.
   [[nodiscard]] std::vector<toolkit::Form*> In_Order_Of_Showing() const;
@@ -52,14 +66,14 @@ class Memory_Windows {
   void Begin();
 
  private:
-  using Peers = std::vector<Memory_Peer*>;
+  using Peers = std::vector<Memory_Window*>;
 
-  [[nodiscard]] bool Is_Loaded(const Memory_Peer* peer) const;
-  [[nodiscard]] Memory_Peer* Active_Peer() const { return activations_.empty() ? nullptr : activations_.back(); }
-  void Make_Active(Memory_Peer* peer);
-  void Tell_Activated(Memory_Peer* peer);
-  void Tell_Deactivated(Memory_Peer* peer);
-  void Take_Off(Memory_Peer& peer);
+  [[nodiscard]] bool Is_Loaded(const Memory_Window* peer) const;
+  [[nodiscard]] Memory_Window* Active_Peer() const { return activations_.empty() ? nullptr : activations_.back(); }
+  void Make_Active(Memory_Window* peer);
+  void Tell_Activated(Memory_Window* peer);
+  void Tell_Deactivated(Memory_Window* peer);
+  void Take_Off(Memory_Window& peer);
 
   Virtual_Time& time_;
   Memory_Loop& loop_;
@@ -68,7 +82,7 @@ class Memory_Windows {
   Peers shown_;        // the visible ones in the order of showing
   Peers front_;        // the visible ones, the foremost last
   Peers activations_;  // the visible ones that were active, the active one last; nullptr is another program
-  const Memory_Peer* mouse_ = nullptr;
+  const Memory_Window* mouse_ = nullptr;
   bool silent_ = false;
 };
 

@@ -41,11 +41,11 @@ class Virtual_Time {
   /// An action that has run or was cancelled before is no longer there, and nothing happens.
   void Cancel(const Ticket& ticket);
 
-  /// Runs the next action that is due up to and including `end`. If there is none, moves on to `end` and says no. An
+  /// Runs the next action that is due up to and including `end`. If there is none, moves on to `end` and returns false. An
   /// action may itself move time on, past `end` too.
   bool Step(std::int64_t end);
 
-  /// Runs all that is due up to and including `end`, and stands there or, after a longer wait within, behind it.
+  /// Runs all that is due up to and including `end`, and stands there, or later after a longer wait within.
   void Run_Until(std::int64_t end);
 
  private:

@@ -16,7 +16,7 @@ namespace packs {
 std::string Find_Month_Value(std::string_view file_bytes, basic::Int16 month);
 
 /// The three fields of a value: box style, position number, display mode. Throw error 5 where a "-" is missing, error 13
-/// where a field is no whole number and error 6 where it is beyond 16 bits. The display mode is everything behind the
+/// where a field is no whole number and error 6 where it is beyond 16 bits. The display mode is everything after the
 /// second "-".
 basic::Int16 Get_Paper_BoxStyle(std::string_view value);
 basic::Int16 Get_Paper_Pos(std::string_view value);

@@ -1,4 +1,4 @@
-// What the user's locale says of dates.
+// Dates as the user's locale has them.
 #pragma once
 
 #include <string>

@@ -17,7 +17,7 @@ class Profile_Files {
   virtual int Get_Number(const std::string& section, const std::string& entry, int default_number,
                          const std::string& file) = 0;
 
-  /// Says whether it was written.
+  /// Returns whether it was written.
   virtual bool Write_Text(const std::string& section, const std::string& entry, const std::string& text,
                           const std::string& file) = 0;
 };

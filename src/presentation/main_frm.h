@@ -1,6 +1,6 @@
 // The calendar window and its labels, as they are before any box style has laid them out.
 //
-// The captions come behind the boxes, so each lies on top of its box.
+// The captions come after the boxes, so each lies on top of its box.
 #pragma once
 
 #include <array>

@@ -117,7 +117,7 @@ void Registry::Get_From_Registry(const Address& address, char kind, Registry_Val
   status = keys_.Close(key);
 }
 
-/// Asks for the size first, by a buffer without room. Says whether there is a text.
+/// Asks for the size first, by a buffer without room. Returns whether there is a text.
 bool Registry::Query_Text(Key key, const std::string& name, Registry_Value& result, int& status) {
   std::string buffer;
   std::uint32_t size = 0;
@@ -134,7 +134,7 @@ bool Registry::Query_Text(Key key, const std::string& name, Registry_Value& resu
   return true;
 }
 
-/// Says whether there is a value that fits.
+/// Returns whether there is a value that fits.
 bool Registry::Query_Number(Key key, const std::string& name, char kind, Registry_Value& result, int& status) {
   char bytes[number_room] = {};
   std::uint32_t size = kind == 'B' ? binary_size : number_room;

@@ -42,7 +42,7 @@ class Length {
 
 class Control : public Property_Owner {
  public:
-  /// Joins its window behind the controls that are already there, and so lies on top of them. `index` is the place in a
+  /// Joins its window after the controls that are already there, and so lies on top of them. `index` is the place in a
   /// control array, -1 for a control that stands alone.
   Control(Form& window, std::string name, int index = -1);
   Control(const Control&) = delete;

@@ -64,7 +64,7 @@ class Input {
   /// A character typed with Alt, which may be the accelerator of a control. Returns true if it is one.
   bool Accelerator(Form& form, char character);
 
-  void Key_Up(Form& form, const Key& key);
+  void Key_Up(Form& form, const Key& key) const;
 
   // Activity and focus.
 

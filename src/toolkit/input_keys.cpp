@@ -30,7 +30,7 @@ bool Input::Key_Down(Form& form, const Key& key) {
   return key.Code == key_escape && Press_Escape(form);
 }
 
-void Input::Key_Up(Form& form, const Key& key) {
+void Input::Key_Up(Form& form, const Key& key) const {
   if (!form.Accepts_Input()) return;
   Control* const focused = form.Focused();
   if (focused != nullptr) focused->Key_Up(key);

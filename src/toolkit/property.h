@@ -29,7 +29,7 @@ class Property_Owner {
   ~Property_Owner() = default;
 };
 
-/// A value that reads like a member and tells of a change; setting it to what it is tells nobody.
+/// A value that reads like a member and tells of a change. Setting it to its present value does nothing.
 template <class T>
 class Property {
  public:
@@ -47,7 +47,7 @@ class Property {
     return *this;
   }
 
-  /// Takes a value that the user gave it: the window system shows it already, and is told nothing.
+  /// Takes a value that the user gave it. The window system shows it already and isn't notified.
   void Keep(T value) { value_ = std::move(value); }
 
   operator const T&() const { return value_; }  // NOLINT: a property stands for its value

@@ -21,7 +21,7 @@ Frame_Style Style_Of(toolkit::Form_Border border);
 /// The topmost visible control of the form at a pixel of its client area: the one that is painted there.
 toolkit::Control* Control_At(const toolkit::Form& form, const Scale& scale, POINT pixel);
 
-class Form_Window final : public toolkit::Form_Peer {
+class Form_Window final : public toolkit::Form_Peer, public Program_Window {
  public:
   Form_Window(toolkit::Form& form, Window_Context& context);
   Form_Window(const Form_Window&) = delete;
@@ -41,15 +41,12 @@ class Form_Window final : public toolkit::Form_Peer {
   void Release_Mouse() override;
   [[nodiscard]] platform::Window_Handle Handle() const override { return To_Handle(Window()); }
 
-  [[nodiscard]] HWND Window() const { return window_.Get(); }
-  [[nodiscard]] toolkit::Form& Form() const { return form_; }
+  [[nodiscard]] HWND Window() const override { return window_.Get(); }
+  [[nodiscard]] toolkit::Form& Form() const override { return form_; }
 
   /// Brings the window to where the form says, cuts it to its region and marks for painting what has changed.
-  void Settle();
-
-  /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this window:
-  /// touch no member after calling one.**
-  bool Take_Key(const MSG& message);
+  void Settle() override;
+  bool Take_Key(const MSG& message) override;
 
  private:
   static void Register_Class(HINSTANCE instance);

@@ -12,7 +12,7 @@ class Guard {
   /// What follows each work that ran to its end.
   std::function<void()> Afterwards;
 
-  /// Runs what the system called for and says whether it ran to its end. Once the program is ending nothing runs any more.
+  /// Runs what the system called for. Returns whether it ran to its end. Once the program is ending nothing runs any more.
   template <class Work>
   bool Run(Work&& work) noexcept {
     if (ending_) return false;

@@ -19,7 +19,7 @@ class Hidden_Window {
  protected:
   ~Hidden_Window();
 
-  /// Says whether it took the message.
+  /// Returns true if the message is handled.
   virtual bool Message(UINT message, WPARAM w) = 0;
 
  private:

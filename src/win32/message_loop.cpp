@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "win32/form_window.h"
-
 namespace win32 {
 
 void Message_Loop::Run() {
@@ -21,7 +19,7 @@ void Message_Loop::Wait_Events(std::int64_t micros) {
   Serve_Waiting();
 }
 
-/// Serves what is in the queue, and says whether there was anything.
+/// Serves what is in the queue. Returns whether there was anything.
 bool Message_Loop::Serve_Waiting() {
   bool any = false;
   MSG message;
@@ -38,7 +36,7 @@ bool Message_Loop::Serve_Waiting() {
 void Message_Loop::Dispatch(MSG& message) {
   bool taken = false;
   if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
-    Form_Window* const window = context_.Windows.Around(message.hwnd);
+    Program_Window* const window = context_.Windows.Around(message.hwnd);
     if (window != nullptr) context_.Guard.Run([&] { taken = window->Take_Key(message); });
   }
   if (taken) return;

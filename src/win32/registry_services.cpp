@@ -95,7 +95,7 @@ int System_Registry::Query(Key key, const std::string& name, char* data, std::ui
 }
 
 int System_Registry::Set(Key key, const std::string& name, platform::Value_Type type, std::string_view bytes) {
-  // The system looks at the byte behind a text for a terminator.
+  // The system looks at the byte after a text for a terminator.
   const std::string copy(bytes);
   return RegSetValueExA(To_Key(key), name.c_str(), 0, static_cast<DWORD>(type),
                         reinterpret_cast<const BYTE*>(copy.c_str()), static_cast<DWORD>(copy.size()));

@@ -16,7 +16,7 @@ class Registry_Store final : public platform::Settings_Store {
             const std::string& text) override;
 
  private:
-  // The section read last stays open: the settings are read one behind the other.
+  // The section read last stays open: the settings are read one after the other.
   Key_Owner section_;
   std::string section_path_;
 };

@@ -10,7 +10,7 @@ struct Scale {
   double X = 15, Y = 15;  ///< twips per pixel, across and down
   int Dpi = 96;           ///< dots an inch, down
 
-  /// What the display says; the same for as long as the process runs.
+  /// That of the display; the same for as long as the process runs.
   static Scale Of_Screen();
 
   [[nodiscard]] int Pixels_X(double twips) const { return toolkit::Round_To_Even(twips / X); }

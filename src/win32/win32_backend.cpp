@@ -16,7 +16,7 @@ toolkit::Form* Win32_Backend::Active_Form() {
   if (context_.Behind_Box != nullptr) return GetActiveWindow() != nullptr ? &context_.Behind_Box->Form() : nullptr;
   if (!context_.Embedded) return context_.Active != nullptr ? &context_.Active->Form() : nullptr;
   const HWND active = GetActiveWindow();
-  for (const Form_Window* const window : context_.Windows.All())
+  for (const Program_Window* const window : context_.Windows.All())
     if (window->Window() == active) return &window->Form();
   return nullptr;
 }

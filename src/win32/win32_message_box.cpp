@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "win32/form_window.h"
+#include "toolkit/form.h"
 
 namespace win32 {
 
@@ -43,16 +43,16 @@ platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
 
 /// The window that a box belongs to, of which it is destroyed with: the active dialog or the calendar, never a window that
 /// closes by itself. The calendar is the program's first window.
-const Form_Window* Owner_Of_Box(const Window_List& windows, const Form_Window* active) {
+const Program_Window* Owner_Of_Box(const Window_List& windows, const Program_Window* active) {
   if (active == nullptr || active->Form().Border != toolkit::Form_Border::None) return active;
-  const Form_Window* const calendar = windows.All().front();
+  const Program_Window* const calendar = windows.All().front();
   return calendar->Form().Visible() ? calendar : nullptr;
 }
 
 /// The window that is active, and stays so to the program while its boxes are open: the first one notes it.
 class Behind_Box {
  public:
-  Behind_Box(Window_Context& context, Form_Window* active)
+  Behind_Box(Window_Context& context, Program_Window* active)
       : context_(context), first_(context.Behind_Box == nullptr && active != nullptr) {
     if (first_) context_.Behind_Box = active;
   }
@@ -75,8 +75,8 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
   context_.Windows.Settle();
   // Another box may be active; then it is the owner.
   const HWND active = GetActiveWindow();
-  Form_Window* const active_form = context_.Windows.Around(active);
-  const Form_Window* const owner = Owner_Of_Box(context_.Windows, active_form);
+  Program_Window* const active_form = context_.Windows.Around(active);
+  const Program_Window* const owner = Owner_Of_Box(context_.Windows, active_form);
   const HWND owner_window = active_form == nullptr ? active : owner != nullptr ? owner->Window() : nullptr;
   int result = 0;
   {
@@ -92,7 +92,7 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
 }
 
 /// The system hands the activity to the owner, and to nobody where that is disabled.
-void Win32_Message_Box::Give_Back_To(Form_Window* window) {
+void Win32_Message_Box::Give_Back_To(Program_Window* window) {
   const auto& all = context_.Windows.All();
   if (std::find(all.begin(), all.end(), window) == all.end()) return;
   toolkit::Form& form = window->Form();

@@ -8,7 +8,7 @@ namespace {
 
 void Insert(HMENU menu, UINT position, const platform::Menu_Item& item) {
   MENUITEMINFOA record = {};
-  // The size up to the text's length: what came behind it later isn't known to the older systems.
+  // The size up to the text's length: what was added after it later isn't known to the older systems.
   record.cbSize = sizeof(void*) == 4 ? 44 : sizeof record;
   record.fMask = MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_TYPE;
   record.fType = MFT_STRING;

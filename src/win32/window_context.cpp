@@ -1,7 +1,6 @@
 #include "win32/window_context.h"
 
 #include "toolkit/input.h"
-#include "win32/form_window.h"
 
 namespace win32 {
 
@@ -10,9 +9,9 @@ void Window_List::Settle() {
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
 }
 
-Form_Window* Window_List::Around(HWND window) const {
+Program_Window* Window_List::Around(HWND window) const {
   if (window == nullptr) return nullptr;
-  for (Form_Window* const form : windows_)
+  for (Program_Window* const form : windows_)
     if (form->Window() == window || IsChild(form->Window(), window) != 0) return form;
   return nullptr;
 }

@@ -8,29 +8,45 @@
 #include "win32/scale.h"
 
 namespace toolkit {
+class Form;
 class Input;
-}
+}  // namespace toolkit
 
 namespace win32 {
 
-class Form_Window;
+/// A window of the program, as the loop and the services see it.
+class Program_Window {
+ public:
+  [[nodiscard]] virtual HWND Window() const = 0;
+  [[nodiscard]] virtual toolkit::Form& Form() const = 0;
+
+  /// Shows what the form has become since the last time.
+  virtual void Settle() = 0;
+
+  /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this window:
+  /// touch no member after calling one.**
+  virtual bool Take_Key(const MSG& message) = 0;
+
+ protected:
+  ~Program_Window() = default;
+};
 
 /// The open windows, in the order in which they were made.
 class Window_List {
  public:
-  void Add(Form_Window& window) { windows_.push_back(&window); }
-  void Remove(Form_Window& window) { std::erase(windows_, &window); }
-  [[nodiscard]] const std::vector<Form_Window*>& All() const { return windows_; }
+  void Add(Program_Window& window) { windows_.push_back(&window); }
+  void Remove(Program_Window& window) { std::erase(windows_, &window); }
+  [[nodiscard]] const std::vector<Program_Window*>& All() const { return windows_; }
 
-  /// Shows what the forms have become since the last time. Comes behind each callback of the system and before each
-  /// wait, so that however many properties change in between, the display is told once.
+  /// Comes after each callback of the system and before each wait, so that however many properties change in between,
+  /// the display is told once.
   void Settle();
 
-  /// The form's window that is or holds this one; nullptr if it belongs to none.
-  [[nodiscard]] Form_Window* Around(HWND window) const;
+  /// The program's window that is or holds this one; nullptr if it belongs to none.
+  [[nodiscard]] Program_Window* Around(HWND window) const;
 
  private:
-  std::vector<Form_Window*> windows_;
+  std::vector<Program_Window*> windows_;
 };
 
 struct Window_Context {
@@ -48,9 +64,9 @@ struct Window_Context {
   Window_List Windows;
 
   /// The active window as the system's messages have told, nullptr if it is none of ours.
-  Form_Window* Active = nullptr;
+  Program_Window* Active = nullptr;
   /// The window that was active when the message box that is open came up.
-  Form_Window* Behind_Box = nullptr;
+  Program_Window* Behind_Box = nullptr;
   /// A window of ours belongs to another program's window. The two programs share one state of input then, and the messages
   /// don't tell all of its changes.
   bool Embedded = false;

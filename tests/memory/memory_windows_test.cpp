@@ -151,7 +151,7 @@ TEST_F(Memory_Windows_Test, A_new_program_begins_without_an_active_window) {
 
 TEST_F(Memory_Windows_Test, A_window_remembers_what_it_was_told) {
   Main.Load();
-  auto& peer = *Platform.Windows().Peer_Of(Main);
+  auto& peer = dynamic_cast<memory::Memory_Peer&>(*Platform.Windows().Peer_Of(Main));
   EXPECT_FALSE(peer.Region());
   Main.Set_Region(toolkit::Region({{0, 0, 5, 5}}));
   EXPECT_EQ(peer.Region()->Rects().size(), 1U);

@@ -15,7 +15,7 @@ using Words = std::vector<std::string>;
 
 struct Entry {
   std::string_view Name;
-  std::size_t Least, Most;  ///< how many words stand behind the name
+  std::size_t Least, Most;  ///< how many words stand after the name
   void (*Play)(World& world, const Words& words);
 };
 

@@ -13,7 +13,7 @@ namespace {
 
 using toolkit::Form;
 
-/// Where the property starts behind its control: the last point outside parentheses.
+/// Where the property starts after its control: the last point outside parentheses.
 std::size_t Property_Point(const std::string& word) {
   const std::size_t end = word.ends_with(')') ? word.rfind('(') : std::string::npos;
   return word.rfind('.', end);

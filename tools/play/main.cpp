@@ -30,7 +30,7 @@ void Print(const std::string& line) {
   std::fputc('\n', stdout);
 }
 
-/// Says whether it could be played.
+/// Returns whether it could be played.
 bool Play(const std::string& name) {
   const auto text = Read_File(name);
   if (!text) {

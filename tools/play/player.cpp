@@ -43,7 +43,7 @@ Found Find(const Command& command) {
 
 bool Is_Later(const Command& command) { return command.Name == "later"; }
 
-/// The command behind `later` and its seconds.
+/// The command after `later` and its seconds.
 Command Inner(const Command& later) {
   if (later.Words.size() < 2) throw Scenario_Error(later.Line, "later wants seconds and a command");
   return {later.Words[1], Words(later.Words.begin() + 2, later.Words.end()), later.Line};

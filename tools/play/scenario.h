@@ -11,7 +11,7 @@ namespace play {
 
 struct Command {
   std::string Name;
-  std::vector<std::string> Words;  ///< what stands behind the name, without quotes and escapes
+  std::vector<std::string> Words;  ///< what stands after the name, without quotes and escapes
   int Line = 0;                    ///< from 1 on
 };
 
@@ -22,7 +22,7 @@ struct Scenario_Error : Cannot_Play {
   int Line;
 };
 
-/// Throws Scenario_Error. A last word `<<END` (any word behind the signs) of a line that begins with `put` stands for
+/// Throws Scenario_Error. A last word `<<END` (any word after the signs) of a line that begins with `put` stands for
 /// the lines that follow up to a line END, each ended by CR LF.
 std::vector<Command> Read_Scenario(std::string_view text);
 

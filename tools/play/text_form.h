@@ -18,7 +18,7 @@ struct Cannot_Play : std::runtime_error {
 /// The text between double quotes, in printable characters alone.
 std::string Quoted(std::string_view text);
 
-/// In decimal, at most six digits behind the point and no zeros at the end.
+/// In decimal, at most six digits after the point and no zeros at the end.
 std::string Number_Text(double number);
 
 /// "True" or "False".
