@@ -55,7 +55,7 @@ void Compact::Leave_Without_Redraw() {
 void Compact::Shrink() {
   main_frm_.Prev_Month_Lbl.Visible = false;
   main_frm_.Next_Month_Lbl.Visible = false;
-  const toolkit::Label& title = main_frm_.Which_Month_Lbl;
+  const toolkit::Bounds& title = main_frm_.Which_Month_Lbl.In_Twips();
   main_frm_.Window.Height = title.Top + title.Height + 50;
   calendar_.Compact_On = true;
   presentation::TransparentForm(main_frm_.Window);

@@ -50,7 +50,7 @@ class Desk {
   void Restyle(basic::Int16 style);
 
   /// Opens the shrunk window or shrinks the open one.
-  void Compact_Mode() { compact_.Compact_Mode(); }
+  void Compact_Mode() { compact_.Which_Month_Lbl_DblClick(); }
   /// Opens it without drawing anything, for what is to be drawn next.
   void Leave_Compact_Mode() { compact_.Leave_Without_Redraw(); }
 

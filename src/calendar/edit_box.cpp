@@ -20,7 +20,7 @@ void Edit_Box::Open(basic::Int16 index) {
     return;
   }
   calendar_.Current_Box = index;
-  // The day as it was before the question, in the month on view now.
+  // The day counts from before the question, the month and year from after it: a midnight may lie between.
   calendar_.Selected_Date = events::Date_Key(day, calendar_.View_Month, calendar_.View_Year);
   Fill();
   editor_.Date_Lbl.Caption = Long_Date(serial, day);

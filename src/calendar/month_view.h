@@ -13,9 +13,13 @@ class Month_View {
   Month_View(Month_Grid& grid, Title_Text& title, events::Event_File& event_file, presentation::Colours& colours,
              Dates& dates, state::Calendar_State& calendar);
 
-  /// The load's drawing of the present month: the empty grid, then its events and title, and last its colours.
+  // The load's drawing of the present month, in its order.
+
+  /// The grid without events; View_Month and View_Year.
   void Build_First_Month();
+  /// Events, title and headers.
   void Fill_First_Month();
+  /// All colours, and the mark of today.
   void Paint();
 
   void Write_Title() { title_.Write(); }

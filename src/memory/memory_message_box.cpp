@@ -40,8 +40,11 @@ platform::Box_Answer Memory_Message_Box::Show(const std::string& title, const st
                                               platform::Box_Icon icon, platform::Box_Buttons buttons) {
   const Prepared taken = Answer_For(buttons);
   shown_.push_back({title, text, icon, buttons, taken.answer});
-  const toolkit::Input::Modal modal(input_);
-  if (taken.micros > 0) loop_.Serve(taken.micros);
+  {
+    const toolkit::Input::Modal modal(input_);
+    if (taken.micros > 0) loop_.Serve(taken.micros);
+  }
+  loop_.Dispatch([this] { input_.Catch_Up(); });
   return taken.answer;
 }
 

@@ -117,7 +117,8 @@ void Memory_User::Press_Key(Form& window, const Typed_Key& key) {
   const bool taken = input_.Key_Down(window, key.Key) ||
                      (alt_alone && key.Text.size() == 1 && input_.Accelerator(window, key.Text.front()));
   if (!taken && alt_alone && key.Key.Code == toolkit::key_f4) window.Close_Requested();
-  if (!taken && input_.Is_There(&window) && window.Accepts_Input() && !key.Key.Alt && !key.Key.Ctrl)
+  const bool types = !key.Key.Alt && (!key.Key.Ctrl || key.Key.Code == toolkit::key_enter);
+  if (!taken && input_.Is_There(&window) && window.Accepts_Input() && types)
     if (auto* const box = dynamic_cast<toolkit::Text_Box*>(window.Focused())) Key_In_Text_Box(*box, key);
   if (Form* const active = windows_.Active()) input_.Key_Up(*active, key.Key);
 }

@@ -8,8 +8,7 @@ namespace presentation {
 
 enum Box_Style { thin_box = 0, square_box = 1, small_box = 2 };
 
-/// The small style looks at the setting alone: a pack that brings style 2 of its own doesn't make it so, and under a pack
-/// that rules the style the setting doesn't either.
+/// Whether the setting is the small box and no pack rules the style. A pack's own style 2 doesn't count.
 bool Small_Style(const settings::Settings& settings);
 
 /// The box style in force, for the layout of the grid.

@@ -25,8 +25,8 @@ class Text_Measure {
 };
 
 /// The part at the front of the text that makes one line of that width: as many whole words as fit, with the blank after
-/// the last, or of a first word that is too wide as much as fits. A text that runs out of blanks before the line
-/// overflows comes back whole, however wide it is.
+/// the last, or of a first word that is too wide as much as fits. A text whose last blank still lies
+/// on the line comes back whole, however wide it is.
 std::string_view Get_Line(std::string_view text, double width, const Text_Measure& measure);
 
 /// Up to three lines, with two line breaks always; dots stand for the end of a third line that isn't the last.

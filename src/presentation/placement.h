@@ -35,8 +35,8 @@ class Placement {
   /// Notes the present work area. Throws error 6 if a length of it is beyond 32767 twips.
   void Set_Repos();
 
-  /// Places the window again for one changed value of the work area; further ones wait for the next calls. Throws as
-  /// Set_Repos.
+  /// If a value of the work area has changed, places the window again and notes that value. Others that have changed wait for
+  /// the next calls. Throws as Set_Repos.
   void RePosition();
 
   /// The drag by the title, x and y in twips within it. Throws error 6 for a place beyond 32767 twips.
@@ -45,10 +45,11 @@ class Placement {
   void End_Drag();
 
  private:
-  /// Work area, or the drag's start, as 16-bit numbers in twips.
+  /// 16-bit numbers, in twips.
   struct Work_Area {
     basic::Int16 Height, Width, Left, Top;
   };
+  /// The pointer within the title and the window's place at the press, alike.
   struct Drag_Point {
     basic::Int16 X, Y, Left, Top;
   };

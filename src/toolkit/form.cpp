@@ -58,7 +58,8 @@ void Form::Unload() {
   {
     const Flag_Set unloading(unloading_);
     if (On_Unload) On_Unload();
-    if (Owner != nullptr && Owner->Visible() && backend_.Active_Form() == this) Owner->Activate();
+    if (Owner != nullptr && Owner->Visible() && backend_.Active_Form() == this && !backend_.Input.Modal_Open())
+      Owner->Activate();
   }
   visible_ = false;
   backend_.Input.Remove(*this);

@@ -110,7 +110,7 @@ void Input::Take_Mouse() {
 void Input::Activity_Came(Form& form) {
   if (form.Focused() == nullptr) Focus_Refused(form);
   else Move_Focus(form, form.Focused());
-  if (told_active_ == &form) return;
+  if (told_active_ == &form || Modal_Open()) return;
   told_active_ = &form;
   untold_.push_back({&form, true});
 }
@@ -129,6 +129,14 @@ void Input::Tell_Of_Activity() {
     const auto& handler = next.came ? next.form->On_Activate : next.form->On_Deactivate;
     if (handler) handler();
   }
+}
+
+void Input::Catch_Up() {
+  if (Modal_Open()) return;
+  Form* const active = backend_.Active_Form();
+  if (told_active_ != nullptr && told_active_ != active) Activity_Went(*told_active_);
+  if (active != nullptr) Activity_Came(*active);
+  Tell_Of_Activity();
 }
 
 void Input::Let_Go_Of_Space(const Form& form) {

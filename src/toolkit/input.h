@@ -68,13 +68,18 @@ class Input {
 
   // Activity and focus.
 
-  /// The window has become active: its focus comes back, or goes to the first control that takes it. Or it is active no
-  /// longer. The system may report both in the middle of its own work on the windows, so the forms hear of it in
-  /// Tell_Of_Activity, in order, which a backend calls when that work is done. That a message box takes the activity for a
-  /// while and gives it back they don't hear.
+  // A backend may report a change of activity in the middle of the system's work on the windows. The forms hear of it in
+  // order when Tell_Of_Activity is called after that work. Of a message box that takes the activity and gives it back they
+  // hear nothing.
+
+  /// The window has become active: its focus comes back, or goes to the first control that takes it.
   void Activity_Came(Form& form);
+  /// The window is active no longer.
   void Activity_Went(Form& form);
   void Tell_Of_Activity();
+
+  /// After a message box or a menu: tells of what has become of the activity meanwhile, if it isn't as it was.
+  void Catch_Up();
 
   /// The system has given a control the focus.
   void Focus_Came(Control& control);
@@ -132,7 +137,7 @@ class Input {
     bool came;
   };
   std::vector<Activity> untold_;
-  const Form* told_active_ = nullptr;
+  Form* told_active_ = nullptr;
 
   // What has the mouse. The buttons that it holds are a sum of Mouse_Button numbers.
   Form* pressed_window_ = nullptr;

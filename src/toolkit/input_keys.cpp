@@ -26,7 +26,8 @@ bool Input::Key_Down(Form& form, const Key& key) {
   if (key.Code == key_tab && !key.Ctrl) return Focus_Next(form, key.Shift);
   Control* const focused = form.Focused();
   if (focused != nullptr && focused->Key_Down(key)) return true;
-  if (key.Code == key_enter) return Press_Enter(form);
+  // With Ctrl it breaks a line of text even where a button is the default one.
+  if (key.Code == key_enter && !key.Ctrl) return Press_Enter(form);
   return key.Code == key_escape && Press_Escape(form);
 }
 

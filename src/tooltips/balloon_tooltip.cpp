@@ -18,7 +18,7 @@ Balloons::Balloons(toolkit::Backend& backend, platform::Screen& screen, presenta
 
 void Balloons::Balloon_Tooltip(const std::string& text, std::int32_t days) {
   Drop_Closed();
-  // Rebuilding the month can bring up a message, and under it another balloon can open.
+  // Shared: rebuilding the month can bring up a message, under which another balloon may open and drop those that closed.
   const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, main_frm_, calendar_, calls_);
   balloons_.push_back(balloon);
   balloon->SetBalloon(Balloon_Title(days), text, 0, 0, "i", "Tahoma, if exists", 8);

@@ -13,7 +13,7 @@ std::unique_ptr<toolkit::Form_Peer> Win32_Backend::Make_Peer(toolkit::Form& form
 // Asked ten times a second: as long as messages tell every change, the system needn't be. A message box of ours changes
 // nothing, unless another program is active meanwhile.
 toolkit::Form* Win32_Backend::Active_Form() {
-  if (context_.Behind_Box != nullptr) return GetActiveWindow() != nullptr ? &context_.Behind_Box->Form() : nullptr;
+  if (context_.Behind_Box != nullptr) return Own_Active_Window() != nullptr ? &context_.Behind_Box->Form() : nullptr;
   if (!context_.Embedded) return context_.Active != nullptr ? &context_.Active->Form() : nullptr;
   const HWND active = GetActiveWindow();
   for (const Program_Window* const window : context_.Windows.All())

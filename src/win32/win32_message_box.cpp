@@ -41,8 +41,8 @@ platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
   return buttons == platform::Box_Buttons::Yes_No ? Box_Answer::No : Box_Answer::Cancel;
 }
 
-/// The window that a box belongs to, of which it is destroyed with: the active dialog or the calendar, never a window that
-/// closes by itself. The calendar is the program's first window.
+/// The window that a box belongs to, with which it would be destroyed: the active dialog or the calendar, never a window
+/// that closes by itself. The calendar is the program's first window.
 const Program_Window* Owner_Of_Box(const Window_List& windows, const Program_Window* active) {
   if (active == nullptr || active->Form().Border != toolkit::Form_Border::None) return active;
   const Program_Window* const calendar = windows.All().front();
@@ -74,7 +74,7 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
   context_.Guard.Throw_If_Ending();
   context_.Windows.Settle();
   // Another box may be active; then it is the owner.
-  const HWND active = GetActiveWindow();
+  const HWND active = Own_Active_Window();
   Program_Window* const active_form = context_.Windows.Around(active);
   const Program_Window* const owner = Owner_Of_Box(context_.Windows, active_form);
   const HWND owner_window = active_form == nullptr ? active : owner != nullptr ? owner->Window() : nullptr;
@@ -88,6 +88,7 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
   }
   context_.Guard.Throw_If_Ending();
   if (active_form != nullptr) Give_Back_To(active_form);
+  backend_.Input.Catch_Up();
   return Answer_Of(result, buttons);
 }
 
@@ -97,7 +98,6 @@ void Win32_Message_Box::Give_Back_To(Program_Window* window) {
   if (std::find(all.begin(), all.end(), window) == all.end()) return;
   toolkit::Form& form = window->Form();
   if (form.Visible()) form.Activate();
-  if (backend_.Active_Form() != &form) backend_.Input.Activity_Went(form);
 }
 
 }  // namespace win32

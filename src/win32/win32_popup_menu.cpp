@@ -38,6 +38,7 @@ int Win32_Popup_Menu::Track(platform::Window_Handle owner, const std::vector<pla
   constexpr UINT flags = TPM_RETURNCMD | TPM_NONOTIFY | TPM_CENTERALIGN | TPM_RIGHTBUTTON;
   const int chosen = TrackPopupMenu(menu.Get(), flags, at.x, at.y, 0, To_Window(owner), nullptr);
   context_.Guard.Throw_If_Ending();
+  input_.Catch_Up();
   return chosen;
 }
 

@@ -12,6 +12,12 @@ namespace win32 {
 inline platform::Window_Handle To_Handle(HWND window) { return reinterpret_cast<platform::Window_Handle>(window); }
 inline HWND To_Window(platform::Window_Handle handle) { return reinterpret_cast<HWND>(handle); }
 
+/// The active window of this thread, nullptr where another thread's is: below the shell's window the two share one state.
+inline HWND Own_Active_Window() {
+  const HWND active = GetActiveWindow();
+  return active != nullptr && GetWindowThreadProcessId(active, nullptr) == GetCurrentThreadId() ? active : nullptr;
+}
+
 /// A function of a library that may be missing there; nullptr then.
 template <class Function>
 Function* Find_Function(HMODULE library, const char* name) {

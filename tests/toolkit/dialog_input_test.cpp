@@ -100,6 +100,12 @@ TEST_F(Dialog_Test, Enter_presses_the_button_that_has_the_focus_else_the_default
   EXPECT_EQ(Take(), (Words{"ok", "close", "ok"}));
 }
 
+TEST_F(Dialog_Test, Enter_with_ctrl_is_left_to_the_text) {
+  Ok.Default = true;
+  EXPECT_FALSE(In.Key_Down(Window, {toolkit::key_enter, false, true, false}));
+  EXPECT_EQ(Take(), Words{});
+}
+
 TEST_F(Dialog_Test, The_look_of_the_default_button_follows_the_focus) {
   Ok.Default = true;
   Backend.Take();

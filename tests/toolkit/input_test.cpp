@@ -144,6 +144,40 @@ TEST_F(Input_Test, A_box_that_takes_the_activity_and_gives_it_back_is_not_heard_
   EXPECT_EQ(Take(), Words{"-"});
 }
 
+TEST_F(Input_Test, What_has_become_of_the_activity_under_a_box_is_told_after_it) {
+  Form other(Backend, "Tip");
+  for (Form* const form : {&Window, &other}) {
+    form->On_Activate = [this, form] { Heard.push_back("+" + form->Name); };
+    form->On_Deactivate = [this, form] { Heard.push_back("-" + form->Name); };
+  }
+  {
+    const Input::Modal modal(In);
+    In.Activity_Went(Window);
+    Backend.Active = nullptr;
+  }
+  In.Catch_Up();
+  EXPECT_EQ(Take(), Words{"-Main_Frm"});
+  {
+    const Input::Modal modal(In);
+    other.Show(false);
+    other.Activate();
+    EXPECT_EQ(Take(), Words{});
+  }
+  In.Catch_Up();
+  In.Catch_Up();
+  EXPECT_EQ(Take(), Words{"+Tip"});
+}
+
+TEST_F(Input_Test, A_window_that_goes_under_a_box_leaves_the_activity_to_the_box) {
+  Form owned(Backend, "frmBalloon", toolkit::Form_Border::None, &Window);
+  owned.Show(false);
+  owned.Activate();
+  Backend.Take();
+  const Input::Modal modal(In);
+  owned.Unload();
+  EXPECT_NE(Backend.Active, &Window);
+}
+
 TEST_F(Input_Test, Only_the_left_button_clicks_on_controls_and_on_the_bare_ground) {
   for (const auto& event : {Right(110, 120), Middle(110, 120)}) {
     Press(&A, event);

@@ -69,3 +69,22 @@ TEST_F(Label_Test, Sizes_itself_once_for_a_change_and_not_for_a_move) {
   Text.Caption = "ten chars.";
   EXPECT_EQ(Backend.Take(), (Words{"Text_Lbl caption", "Text_Lbl bounds"}));
 }
+
+TEST_F(Label_Test, Is_as_high_as_its_text_is_drawn_where_ampersands_mark_the_next_character) {
+  Text.AutoSize = true;
+  Text.Caption = "&&&&&&&&&&&&&&&&&&&&";  // ten are drawn
+  EXPECT_EQ(Height(), 247.5);
+  Text.Caption = "&t&e&n& &c&h&a&r&s&.";
+  EXPECT_EQ(Height(), 247.5);
+  Text.Caption = "ten chars.&";
+  EXPECT_EQ(Height(), 247.5);
+  Text.Caption = "eleven &&&& chars";
+  EXPECT_EQ(Height(), 495.0);
+}
+
+TEST_F(Label_Test, Counts_each_ampersand_that_it_draws) {
+  Text.Mnemonics = false;
+  Text.AutoSize = true;
+  Text.Caption = "&&&&&&&&&&&&&&&&&&&&";
+  EXPECT_EQ(Height(), 495.0);
+}
