@@ -18,10 +18,6 @@ struct Bounds {
   friend bool operator==(const Bounds&, const Bounds&) = default;
 };
 
-struct Point {
-  double X = 0, Y = 0;
-};
-
 /// The rounding of a coordinate to a whole number: to the nearest, halves to the even one.
 int Round_To_Even(double value);
 

@@ -65,7 +65,7 @@ void Input::Move(Form& form, std::optional<Control*> over, const Mouse_Event& ev
   Control* target = over.value_or(nullptr);
   if (held_ != 0) {
     target = pressed_;
-    if (target != nullptr && may_click_ && (held_ & Bit(Mouse_Button::Left)) != 0) target->Show_Held(over == target);
+    if (target != nullptr && may_click_ && Holds(Mouse_Button::Left)) target->Show_Held(over == target);
   } else if (!form.Accepts_Input()) {
     return;
   }

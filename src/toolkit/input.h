@@ -18,7 +18,6 @@
 namespace toolkit {
 
 class Backend;
-class Command_Button;
 class Form;
 
 class Input {
