@@ -20,14 +20,10 @@ class Date_Watch {
  private:
   void Tick();
 
-  /// The present day by the pattern that the key has.
-  const std::string& Present_Day_Key();
-
   Desk& desk_;
   presentation::Desktop_Embedding& embedding_;
   Dates& dates_;
-  std::string last_day_key_;
-  std::string day_key_;
+  basic::Serial_Day last_day_key_ = 0;
 };
 
 }  // namespace calendar

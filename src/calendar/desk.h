@@ -69,7 +69,7 @@ class Desk {
   void Follow_Active_State() { view_.Follow_Active_State(); }
   void Follow_Idle_Time() { compact_.Auto_Compact_Check(edit_box_.Editor_Visible()); }
   void Follow_Work_Area() { placement_.RePosition(); }
-  void Write_Title() { view_.Write_Title(); }
+  void Keep_Title() { view_.Keep_Title(); }
 
   /// Goes to the present month, with its wallpaper and the new day's alert.
   void Begin_New_Day();

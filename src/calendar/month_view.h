@@ -22,7 +22,8 @@ class Month_View {
   /// All colours, and the mark of today.
   void Paint();
 
-  void Write_Title() { title_.Write(); }
+  /// On each tick.
+  void Keep_Title() { title_.Keep_Written(); }
 
   /// The title, and the grid unless compact mode hides it.
   void Refresh_Calendar();

@@ -9,6 +9,30 @@ Title_Text::Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const set
                        const state::Calendar_State& calendar)
     : main_frm_(main_frm), dates_(dates), settings_(settings), calendar_(calendar) {}
 
+void Title_Text::Write() {
+  const basic::Moment now = dates_.Now();
+  main_frm_.Which_Month_Lbl.Caption = Get_Bar_Text();
+  written_ = {now.Day,
+              now.Seconds(),
+              calendar_.View_Month,
+              calendar_.View_Year,
+              presentation::Small_Style(settings_),
+              settings_.Bar_Time,
+              settings_.Bar_Time_Format,
+              settings_.Bar_Date_Format};
+}
+
+void Title_Text::Keep_Written() {
+  if (!Is_Written_For(dates_.Now())) Write();
+}
+
+bool Title_Text::Is_Written_For(const basic::Moment& now) const {
+  return written_.Second == now.Seconds() && written_.Day == now.Day && written_.Month == calendar_.View_Month &&
+         written_.Year == calendar_.View_Year && written_.Small == presentation::Small_Style(settings_) &&
+         written_.Time == settings_.Bar_Time && written_.Time_Format == settings_.Bar_Time_Format &&
+         written_.Date_Format == settings_.Bar_Date_Format;
+}
+
 const std::string& Title_Text::Get_Bar_Text() {
   const basic::Moment now = dates_.Now();
   const int today = basic::Civil_From_Serial(now.Day).Day;

@@ -14,22 +14,36 @@ class Title_Text {
              const state::Calendar_State& calendar);
 
   /// Writes it into the title.
-  void Write() { main_frm_.Which_Month_Lbl.Caption = Get_Bar_Text(); }
+  void Write();
+
+  /// Writes it unless what it is made of is as it was the last time; the locale is looked at anew with each second. Ten
+  /// ticks a second ask, and to compose the text each time would be half of what the idle calendar costs.
+  void Keep_Written();
 
   /// The title of the month on view, by the settings Bar_Time, Bar_Time_Format and Bar_Date_Format. The text stays until
-  /// the next call: the tick asks for it ten times a second, so its memory is kept.
+  /// the next call.
   const std::string& Get_Bar_Text();
 
  private:
   void Append_Month_And_Year(const basic::Moment& day_of_view);
   void Append_Day_With_Suffix(basic::Serial_Day day);
   void Append_Date(const basic::Moment& now, const basic::Moment& day_of_view);
+  [[nodiscard]] bool Is_Written_For(const basic::Moment& now) const;
 
   presentation::Main_Frm& main_frm_;
   Dates& dates_;
   const settings::Settings& settings_;
   const state::Calendar_State& calendar_;
   std::string text_;
+
+  /// What the text that stands in the title was made of.
+  struct {
+    basic::Serial_Day Day = 0;
+    int Second = -1;
+    basic::Int16 Month, Year;
+    bool Small = false, Time = false;
+    std::string Time_Format, Date_Format;
+  } written_;
 };
 
 }  // namespace calendar
