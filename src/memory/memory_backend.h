@@ -26,6 +26,9 @@ class Memory_Backend : public toolkit::Backend {
   double Frame_Size(toolkit::Form_Border /*border*/, toolkit::Axis /*axis*/) override { return 0; }
   double Screen_Size(toolkit::Axis axis) override;
 
+  void Show_Busy(bool busy) override { busy_ = busy; }
+  [[nodiscard]] bool Busy() const { return busy_; }
+
   /// It has every font.
   std::string Font_Given_For(const std::string& name) override { return name; }
   double Text_Width(const toolkit::Font& font, std::string_view text) override;
@@ -47,6 +50,7 @@ class Memory_Backend : public toolkit::Backend {
   Memory_Loop& loop_;
   platform::Screen& screen_;
   double character_width_ = 90;
+  bool busy_ = false;
   platform::Window_Handle last_handle_;
   std::map<toolkit::Timer*, Virtual_Time::Ticket> ticking_;
 };

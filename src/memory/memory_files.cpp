@@ -141,10 +141,14 @@ std::vector<Memory_Files::Listed> Memory_Files::List(const std::string& folder) 
   return listed;
 }
 
-std::vector<std::string> Memory_Files::File_Names(const std::string& folder) {
+std::vector<std::string> Memory_Files::File_Names(const std::string& folder) { return Names(folder, false); }
+
+std::vector<std::string> Memory_Files::Folder_Names(const std::string& folder) { return Names(folder, true); }
+
+std::vector<std::string> Memory_Files::Names(const std::string& folder, bool of_folders) const {
   std::vector<std::string> names;
   for (Listed& listed : List(folder))
-    if (!listed.Is_Folder) names.push_back(std::move(listed.Name));
+    if (listed.Is_Folder == of_folders) names.push_back(std::move(listed.Name));
   std::sort(names.begin(), names.end(),
             [](const std::string& a, const std::string& b) { return Folded(a) < Folded(b); });
   return names;

@@ -23,6 +23,7 @@ class Memory_Files : public platform::Files {
   bool File_Exists(const std::string& path) override;
   bool Folder_Exists(const std::string& path) override;
   std::vector<std::string> File_Names(const std::string& folder) override;
+  std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
   std::string Program_Folder() override;
   std::string Program_Path() override;
@@ -71,6 +72,7 @@ class Memory_Files : public platform::Files {
     int Writers = 0;  // open for writing that often
   };
 
+  [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool of_folders) const;
   [[nodiscard]] const Entry* Find(std::string_view path) const;
   Entry* Find(std::string_view path);
   Entry& Make_File(const std::string& path);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "basic/date_reading.h"
+
 namespace memory {
 
 struct Locale_Data {
@@ -10,6 +12,7 @@ struct Locale_Data {
   basic::Date_Words Words;
   basic::Weekday First_Weekday;
   std::string_view Short_Date;
+  basic::Date_Order Order;
   std::string_view Before_Month, After_Month;  // the long date around the month's name
 };
 
@@ -37,9 +40,9 @@ basic::Date_Words German() {
 
 const std::array<Locale_Data, 3>& All() {
   static const std::array<Locale_Data, 3> locales{{
-      {"en-GB", English(), Weekday::Monday, "dd/mm/yyyy", "d ", " yyyy"},
-      {"en-US", English(), Weekday::Sunday, "m/d/yyyy", "dddd, ", " d, yyyy"},
-      {"de-DE", German(), Weekday::Monday, "dd/mm/yyyy", "dddd, d. ", " yyyy"},
+      {"en-GB", English(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "d ", " yyyy"},
+      {"en-US", English(), Weekday::Sunday, "m/d/yyyy", basic::Date_Order::Month_First, "dddd, ", " d, yyyy"},
+      {"de-DE", German(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "dddd, d. ", " yyyy"},
   }};
   return locales;
 }
@@ -68,6 +71,12 @@ void Memory_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
   basic::Append_Date(to, {day, 0}, present_->Before_Month, present_->Words);
   to += present_->Words.Month_Name(basic::Civil_From_Serial(day).Month);
   basic::Append_Date(to, {day, 0}, present_->After_Month, present_->Words);
+}
+
+basic::Serial_Day Memory_Locale::Read_Date(const std::string& text) {
+  const auto day = basic::Read_Numeric_Date(text, present_->Order);
+  if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
+  return *day;
 }
 
 }  // namespace memory

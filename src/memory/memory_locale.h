@@ -17,6 +17,7 @@ class Memory_Locale : public platform::Locale {
   basic::Weekday First_Weekday() override;
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
+  basic::Serial_Day Read_Date(const std::string& text) override;
 
   /// Returns whether there is a locale of that name. A running program goes on in the one that it was started in.
   bool Choose(std::string_view name);

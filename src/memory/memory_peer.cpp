@@ -25,6 +25,11 @@ void Memory_Peer::Hide() {
   windows_.Hidden(*this);
 }
 
+void Memory_Peer::Set_Minimised(bool minimised) {
+  minimised_ = minimised;
+  windows_.Minimised(*this, minimised);
+}
+
 void Memory_Peer::Form_Changed(toolkit::Aspect /*aspect*/) { ++counts_.Form_Changes; }
 
 bool Memory_Peer::Has(const toolkit::Control& control) const {

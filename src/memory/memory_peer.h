@@ -30,6 +30,7 @@ class Memory_Peer : public toolkit::Form_Peer, public Memory_Window {
   void Set_Region(const toolkit::Region& region) override;
   void Set_Round_Region(int width, int height, int corner) override;
   [[nodiscard]] bool Minimised() const override { return minimised_; }
+  void Set_Minimised(bool minimised) override;
 
   /// Throws std::logic_error for a control of another window, and while this one isn't active.
   void Focus(toolkit::Control* control) override;
@@ -44,7 +45,6 @@ class Memory_Peer : public toolkit::Form_Peer, public Memory_Window {
   [[nodiscard]] const toolkit::Control* Focused() const { return focused_; }
   [[nodiscard]] const Peer_Counts& Counts() const { return counts_; }
 
-  void Set_Minimised(bool minimised) { minimised_ = minimised; }
 
  private:
   [[nodiscard]] bool Has(const toolkit::Control& control) const;

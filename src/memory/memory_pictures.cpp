@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <vector>
 
 #include "basic/convert.h"
 
@@ -93,6 +94,56 @@ void Write_All(basic::Output_File& file, const std::string& bytes) {
   if (file.Write(bytes) < bytes.size()) throw basic::Run_Error(basic::Error_Number::Disk_Full);
 }
 
+class One_Colour final : public platform::Picture {
+ public:
+  explicit One_Colour(const Plain_Picture& plain) : plain_(plain) {}
+
+  [[nodiscard]] int Width() const override { return plain_.Width; }
+  [[nodiscard]] int Height() const override { return plain_.Height; }
+  [[nodiscard]] int Pixel(int x, int y) const override {
+    if (x < 0 || x >= plain_.Width || y < 0 || y >= plain_.Height) return -1;
+    return plain_.Red | plain_.Green << 8 | plain_.Blue << 16;
+  }
+
+ private:
+  const Plain_Picture plain_;
+};
+
+class Pixel_Picture final : public platform::Picture {
+ public:
+  Pixel_Picture(int width, int height, const std::function<int(int x, int y)>& pixel) : width_(width), height_(height) {
+    for (int y = 0; y < height; ++y)
+      for (int x = 0; x < width; ++x) pixels_.push_back(pixel(x, y));
+  }
+
+  [[nodiscard]] int Width() const override { return width_; }
+  [[nodiscard]] int Height() const override { return height_; }
+  [[nodiscard]] int Pixel(int x, int y) const override {
+    if (x < 0 || x >= width_ || y < 0 || y >= height_) return -1;
+    return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)];
+  }
+
+ private:
+  const int width_, height_;
+  std::vector<int> pixels_;
+};
+
+/// A number of four bytes, the lowest first. Throws error 481 where the bytes end.
+int Dword_At(std::string_view bytes, std::size_t at) {
+  if (at + 4 > bytes.size()) throw basic::Run_Error(basic::Error_Number::Invalid_Picture);
+  std::uint32_t number = 0;
+  for (std::size_t i = 4; i-- > 0;) number = number << 8 | static_cast<unsigned char>(bytes[at + i]);
+  return static_cast<int>(number);
+}
+
+Plain_Picture Read_Bitmap(std::string_view bytes) {
+  const auto byte = [&](std::size_t at) { return static_cast<int>(static_cast<unsigned char>(bytes[at])); };
+  const Plain_Picture picture{Dword_At(bytes, 18), Dword_At(bytes, 22), 0, 0, 0};
+  const bool plain = Dword_At(bytes, 26) == (1 | 24 << 16) && bytes.size() > bitmap_head_size + 2;
+  if (!plain || picture.Width < 1 || picture.Height < 1) throw basic::Run_Error(basic::Error_Number::Invalid_Picture);
+  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1), byte(bitmap_head_size)};
+}
+
 }  // namespace
 
 std::string Jpeg_Of(const Plain_Picture& picture) {
@@ -111,6 +162,17 @@ void Memory_Pictures::Convert_To_Bitmap(const std::string& jpeg, const std::stri
     if (error.Number() == static_cast<int>(basic::Error_Number::Disk_Full)) files_.Delete(bitmap);
     throw;
   }
+}
+
+platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+  std::string bytes;
+  files_.Read_Whole(path, bytes);
+  return std::make_shared<One_Colour>(bytes.starts_with("BM") ? Read_Bitmap(bytes) : Read_Jpeg(bytes));
+}
+
+platform::Shared_Picture Memory_Pictures::Make(int width, int height,
+                                               const std::function<int(int x, int y)>& pixel) {
+  return std::make_shared<Pixel_Picture>(width, height, pixel);
 }
 
 void Memory_Pictures::Write_Bitmap(const Plain_Picture& picture, const std::string& path) {

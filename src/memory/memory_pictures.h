@@ -24,6 +24,10 @@ class Memory_Pictures : public platform::Pictures {
   /// Takes pictures of at most 65,500 pixels a side and 100 million in all.
   void Convert_To_Bitmap(const std::string& jpeg, const std::string& bitmap) override;
 
+  /// Of the bitmaps it takes those of 24 bits a pixel that it writes itself, by the colour of their first pixel.
+  platform::Shared_Picture Load(const std::string& path) override;
+  platform::Shared_Picture Make(int width, int height, const std::function<int(int x, int y)>& pixel) override;
+
  private:
   void Write_Bitmap(const Plain_Picture& picture, const std::string& path);
 

@@ -16,7 +16,8 @@ platform::System Memory_Platform::System() {
           .Registry = Registry,
           .Profiles = Profiles,
           .Wallpaper = Wallpaper,
-          .Pictures = Pictures};
+          .Pictures = Pictures,
+          .Shell_Open = Shell_Open};
 }
 
 void Memory_Platform::Begin_Program() {

@@ -14,6 +14,7 @@
 #include "memory/memory_registry.h"
 #include "memory/memory_screen.h"
 #include "memory/memory_shell.h"
+#include "memory/memory_shell_open.h"
 #include "memory/memory_store.h"
 #include "memory/memory_user.h"
 #include "memory/memory_wallpaper.h"
@@ -37,6 +38,7 @@ class Memory_Platform {
   Memory_Profiles Profiles{Files};
   Memory_Wallpaper Wallpaper{Registry};
   Memory_Pictures Pictures{Files};
+  Memory_Shell_Open Shell_Open;
   Memory_Backend Windows_And_Timers{Time, Loop, Screen};
   Memory_Message_Box Message_Box{Loop, Windows_And_Timers.Input};
   Memory_Menu Menu{Windows_And_Timers.Windows, Loop, Windows_And_Timers.Input};

@@ -15,8 +15,9 @@ using toolkit::Mouse_Event;
 /// The place as seen from the top left of a window's client area, which is that of the window.
 Mouse_Event In_Window(const Control* control, Mouse_Event event) {
   if (control == nullptr) return event;
-  event.X += control->In_Twips().Left;
-  event.Y += control->In_Twips().Top;
+  const toolkit::Bounds place = control->In_Window();
+  event.X += place.Left;
+  event.Y += place.Top;
   return event;
 }
 
@@ -32,7 +33,7 @@ std::optional<Control*> Under(const Form& window, Control* control, const Mouse_
   const toolkit::Bounds place =
       control != nullptr ? control->In_Twips() : toolkit::Bounds{0, 0, window.Width, window.Height};
   const bool inside = toolkit::Bounds{0, 0, place.Width, place.Height}.Contains(event.X, event.Y);
-  if (!inside || (control != nullptr && !control->Visible)) return std::nullopt;
+  if (!inside || (control != nullptr && !control->On_View())) return std::nullopt;
   return control;
 }
 
@@ -130,6 +131,25 @@ void Memory_User::Type(toolkit::Text_Box& box, const std::string& text) {
   box.SelStart.Keep(static_cast<int>(text.size()));
   box.SelLength.Keep(0);
   box.User_Text(text);
+}
+
+void Memory_User::Pick(Control& control, int item) {
+  if (auto* const list = dynamic_cast<toolkit::Item_List*>(&control)) list->User_Select(item);
+  if (auto* const strip = dynamic_cast<toolkit::Tab_Strip*>(&control)) strip->User_Select(item);
+}
+
+void Memory_User::Choose(toolkit::Combo_Box& box, int item) {
+  Form& window = box.Window;
+  window.Set_Focus(box);
+  if (input_.Is_There(&window, &box)) box.User_Select(item);
+}
+
+void Memory_User::Slide(toolkit::Slider& slider, int value) {
+  Form& window = slider.Window;
+  window.Set_Focus(slider);
+  if (input_.Is_There(&window, &slider)) slider.User_Press();
+  if (input_.Is_There(&window, &slider)) slider.User_Scroll(value);
+  if (input_.Is_There(&window, &slider)) slider.User_Release();
 }
 
 void Memory_User::Key_In_Text_Box(toolkit::Text_Box& box, const Typed_Key& key) {

@@ -8,6 +8,9 @@
 
 #include "memory/memory_windows.h"
 #include "toolkit/input.h"
+#include "toolkit/item_list.h"
+#include "toolkit/slider.h"
+#include "toolkit/tab_strip.h"
 #include "toolkit/text_box.h"
 
 namespace memory {
@@ -37,6 +40,15 @@ class Memory_User {
   /// A key is pressed in a window and released in the one that is active then. Throws Not_Supported for what the in-memory
   /// text box can't do.
   void Press_Key(toolkit::Form& window, const Typed_Key& key);
+
+  /// The user's click has come to an item of a list, or to a tab (from 1 on).
+  static void Pick(toolkit::Control& control, int item);
+
+  /// The user opens a drop-down list and picks an item of it.
+  void Choose(toolkit::Combo_Box& box, int item);
+
+  /// The user takes hold of a slider, drags it to a place and lets it go.
+  void Slide(toolkit::Slider& slider, int value);
 
   /// The user replaces the whole text of a box.
   void Type(toolkit::Text_Box& box, const std::string& text);

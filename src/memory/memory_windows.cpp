@@ -73,6 +73,16 @@ void Memory_Windows::Hidden(Memory_Window& peer) {
   Tell_Activated(Active_Peer());
 }
 
+/// A window that becomes an icon stays visible, but is active no more; one that comes back is active.
+void Memory_Windows::Minimised(Memory_Window& peer, bool minimised) {
+  if (!minimised) return Make_Active(&peer);
+  const bool was_active = Active_Peer() == &peer;
+  std::erase(activations_, &peer);
+  if (!was_active) return;
+  Tell_Deactivated(&peer);
+  Tell_Activated(Active_Peer());
+}
+
 void Memory_Windows::Remove(Memory_Window& peer) {
   const bool was_active = Active_Peer() == &peer;
   if (mouse_ == &peer) mouse_ = nullptr;

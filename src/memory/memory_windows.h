@@ -37,6 +37,7 @@ class Memory_Windows {
   void Remove(Memory_Window& peer);
   void Shown(Memory_Window& peer, bool activate);
   void Hidden(Memory_Window& peer);
+  void Minimised(Memory_Window& peer, bool minimised);
   void Give_Mouse(const Memory_Window* peer) { mouse_ = peer; }
 
   /// The form becomes the active window; nullptr: another program's window does. Both forms concerned are told.

@@ -19,6 +19,9 @@ class Files : public basic::Disk {
   /// The names of the files of a folder, sorted without regard to case; throws error 76 if the folder isn't there.
   virtual std::vector<std::string> File_Names(const std::string& folder) = 0;
 
+  /// The same of the folders in a folder.
+  virtual std::vector<std::string> Folder_Names(const std::string& folder) = 0;
+
   /// Throws error 53, 70 or 75.
   virtual void Delete(const std::string& path) = 0;
 

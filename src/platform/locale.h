@@ -20,6 +20,10 @@ class Locale {
   /// Append the day in the locale's short or long form.
   virtual void Append_Short_Date(std::string& to, basic::Serial_Day day) = 0;
   virtual void Append_Long_Date(std::string& to, basic::Serial_Day day) = 0;
+
+  /// Reads a date as the locale writes it: its own short form, and numbers joined by "/", "." or "-". Throws error 13 for
+  /// any other text.
+  virtual basic::Serial_Day Read_Date(const std::string& text) = 0;
 };
 
 }  // namespace platform

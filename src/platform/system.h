@@ -14,6 +14,7 @@
 #include "platform/registry_keys.h"
 #include "platform/screen.h"
 #include "platform/settings_store.h"
+#include "platform/shell_open.h"
 #include "platform/wallpaper.h"
 
 namespace platform {
@@ -33,6 +34,7 @@ struct System {
   platform::Profile_Files& Profiles;
   platform::Wallpaper& Wallpaper;
   platform::Pictures& Pictures;
+  platform::Shell_Open& Shell_Open;
 };
 
 }  // namespace platform

@@ -9,8 +9,6 @@ namespace {
 using settings::Settings;
 using toolkit::Round_To_Even;
 
-constexpr int default_pointer = 0;
-constexpr int move_pointer = 5;
 
 constexpr const char* manual_question =
     "Manual Positioning is not selected. This means that next time the program is started or the month is changed the "
@@ -85,7 +83,7 @@ bool Placement::Dragging_Allowed() const {
 void Placement::Start_Drag(double x, double y) {
   if (!Dragging_Allowed()) return;
   toolkit::Form& form = main_frm_.Window;
-  form.MousePointer = move_pointer;
+  form.MousePointer = toolkit::Pointer::Four_Arrows;
   drag_start_ = {Round_To_Even(x), Round_To_Even(y), Round_To_Even(form.Left), Round_To_Even(form.Top)};
 }
 
@@ -97,7 +95,7 @@ void Placement::Drag(double x, double y) {
 
 void Placement::End_Drag() {
   if (!Dragging_Allowed()) return;
-  main_frm_.Window.MousePointer = default_pointer;
+  main_frm_.Window.MousePointer = toolkit::Pointer::Default;
   Keep_Place();
   if (Place_Would_Be_Lost()) Ask_For_Manual_Position();
 }

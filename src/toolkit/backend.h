@@ -48,6 +48,7 @@ class Form_Peer {
   virtual void Set_Round_Region(int width, int height, int corner) = 0;
 
   [[nodiscard]] virtual bool Minimised() const = 0;
+  virtual void Set_Minimised(bool minimised) = 0;
 
   /// Gives the keys to a control of the window that is active, nullptr: to the window itself.
   virtual void Focus(Control* control) = 0;
@@ -92,6 +93,9 @@ class Backend {
 
   /// The size of the screen in twips.
   virtual double Screen_Size(Axis axis) = 0;
+
+  /// Shows the hourglass in place of every other pointer, until it is told otherwise.
+  virtual void Show_Busy(bool busy) = 0;
 
   /// The name of the font that the system gives for a name: another one where it has none of that name.
   virtual std::string Font_Given_For(const std::string& name) = 0;

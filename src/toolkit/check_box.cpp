@@ -4,11 +4,11 @@
 
 namespace toolkit {
 
-Check_Box::Check_Box(Form& window, std::string name, int index)
-    : Control(window, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
+Check_Box::Check_Box(const Container& container, std::string name, int index)
+    : Control(container, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
 
 void Check_Box::User_Click() {
-  if (Enabled && Visible) Value = Value() == 1 ? 0 : 1;
+  if (Usable() && On_View()) Value = Value() == 1 ? 0 : 1;
 }
 
 bool Check_Box::Key_Down(const Key& key) {

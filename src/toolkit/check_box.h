@@ -7,7 +7,7 @@ namespace toolkit {
 
 class Check_Box : public Control, public Font_Properties {
  public:
-  Check_Box(Form& window, std::string name, int index = -1);
+  Check_Box(const Container& container, std::string name, int index = -1);
 
   Property<std::string> Caption{*this, Aspect::Caption};
   Property<int> Value{*this, Aspect::Value};  ///< 1 when ticked, else 0
@@ -21,6 +21,7 @@ class Check_Box : public Control, public Font_Properties {
 
   [[nodiscard]] bool Takes_Focus() const override { return true; }
   [[nodiscard]] bool Double_Clicks() const override { return false; }
+  [[nodiscard]] bool Clicks_Before_Release() const override { return true; }
   bool Key_Down(const Key& key) override;
   void Key_Up(const Key& key) override;
   void Show_Held(bool held) override { Held = held; }

@@ -4,11 +4,11 @@
 
 namespace toolkit {
 
-Command_Button::Command_Button(Form& window, std::string name, int index)
-    : Control(window, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
+Command_Button::Command_Button(const Container& container, std::string name, int index)
+    : Control(container, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
 
 void Command_Button::User_Click() {
-  if (Enabled && Visible) Control::User_Click();
+  if (Usable() && On_View()) Control::User_Click();
 }
 
 bool Command_Button::Key_Down(const Key& key) {

@@ -1,15 +1,17 @@
 // A push button.
 #pragma once
 
+#include "platform/stock_picture.h"
 #include "toolkit/label.h"
 
 namespace toolkit {
 
 class Command_Button : public Control, public Font_Properties {
  public:
-  Command_Button(Form& window, std::string name, int index = -1);
+  Command_Button(const Container& container, std::string name, int index = -1);
 
   Property<std::string> Caption{*this, Aspect::Caption};  ///< "&" marks the shortcut
+  Property<platform::Stock_Picture> Picture{*this, Aspect::Appearance, platform::Stock_Picture::None};  ///< above the caption
   Property<bool> Default{*this, Aspect::Default_Button};  ///< the Enter key presses it
   Property<bool> Cancel{*this, Aspect::Default_Button};   ///< the Escape key presses it
 

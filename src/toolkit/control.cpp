@@ -3,8 +3,11 @@
 #include <utility>
 
 #include "toolkit/form.h"
+#include "toolkit/frame.h"
 
 namespace toolkit {
+
+Container::Container(toolkit::Frame& frame) : Window(frame.Window), Frame(&frame) {}
 
 Length::operator double() const { return owner_.bounds_.*which_ / owner_.Window.Twips_Per_Unit(axis_); }
 
@@ -17,8 +20,8 @@ Length& Length::operator=(double value) {
   return *this;
 }
 
-Control::Control(Form& window, std::string name, int index)
-    : Name(std::move(name)), Index(index), Window(window), Left(*this, &Bounds::Left, Axis::Across),
+Control::Control(const Container& container, std::string name, int index)
+    : Name(std::move(name)), Index(index), Window(container.Window), In(container.Frame), Left(*this, &Bounds::Left, Axis::Across),
       Top(*this, &Bounds::Top, Axis::Down), Width(*this, &Bounds::Width, Axis::Across),
       Height(*this, &Bounds::Height, Axis::Down) {
   Window.Add(*this);
@@ -31,6 +34,19 @@ void Control::Place(const Bounds& twips) {
   bounds_ = twips;
   Changed(Aspect::Bounds);
 }
+
+Bounds Control::In_Window() const {
+  Bounds place = bounds_;
+  for (const toolkit::Frame* around = In; around != nullptr; around = around->In) {
+    place.Left += around->In_Twips().Left;
+    place.Top += around->In_Twips().Top;
+  }
+  return place;
+}
+
+bool Control::On_View() const { return Visible && (In == nullptr || In->On_View()); }
+
+bool Control::Usable() const { return Enabled && (In == nullptr || In->Usable()); }
 
 void Control::User_Click() {
   if (On_Click) On_Click();

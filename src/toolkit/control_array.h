@@ -12,8 +12,8 @@ namespace toolkit {
 template <class Kind>
 class Control_Array {
  public:
-  Control_Array(Form& window, const std::string& name, int count) {
-    for (int i = 0; i < count; ++i) controls_.push_back(std::make_unique<Kind>(window, name, i));
+  Control_Array(const Container& container, const std::string& name, int count) {
+    for (int i = 0; i < count; ++i) controls_.push_back(std::make_unique<Kind>(container, name, i));
   }
 
   /// Throws error 9 for an index outside the array.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/command_button.h"
+#include "toolkit/frame.h"
 
 namespace toolkit {
 
@@ -101,6 +102,12 @@ void Form::Set_Round_Region(int width, int height, int corner) {
 
 bool Form::Minimised() const { return peer_ != nullptr && peer_->Minimised(); }
 
+void Form::Set_Minimised(bool minimised) {
+  if (!visible_ || Minimised() == minimised) return;
+  peer_->Set_Minimised(minimised);
+  backend_.Input.Tell_Of_Activity();
+}
+
 void Form::Set_Focus(Control& control) {
   if (&control.Window != this) throw std::logic_error("the focus for a control of another window");
   if (peer_ == nullptr) return;
@@ -188,6 +195,14 @@ void Form::Control_Changed(Control& control, Aspect aspect) {
   if (peer_ == nullptr) return;
   peer_->Control_Changed(control, aspect);
   if (&control == focus_ && !control.Can_Have_Focus()) backend_.Input.Focus_Refused(*this);
+}
+
+void Form::Contents_Changed(const Frame& frame, Aspect aspect) {
+  for (Control* const control : controls_) {
+    if (control->In != &frame) continue;
+    Control_Changed(*control, aspect);
+    if (const auto* const inner = dynamic_cast<const Frame*>(control)) Contents_Changed(*inner, aspect);
+  }
 }
 
 void Form::Add(Control& control) { controls_.push_back(&control); }

@@ -30,7 +30,7 @@ class Form : public Property_Owner, public Font_Properties {
   Property<bool> Enabled{*this, Aspect::Enabled, true};
   Property<Colour> BackColor{*this, Aspect::Appearance, System_Colour(15)};
   Property<Colour> ForeColor{*this, Aspect::Appearance, System_Colour(18)};
-  Property<int> MousePointer{*this, Aspect::Pointer, 0};       ///< 0 the default arrow, 5 the four-headed arrow
+  Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
   Property<int> Outline_Corner{*this, Aspect::Appearance, 0};  ///< corners of a rounded outline, pixels; 0 for none
   Scale_Unit Scale = Scale_Unit::Twips;  ///< the unit in which the controls' lengths read and write
 
@@ -64,6 +64,8 @@ class Form : public Property_Owner, public Font_Properties {
   /// Cuts the window to a rectangle with rounded corners, in pixels.
   void Set_Round_Region(int width, int height, int corner);
   [[nodiscard]] bool Minimised() const;
+  /// Shrinks a visible window to its icon, or brings it back.
+  void Set_Minimised(bool minimised);
 
   /// Gives the keys to one of its controls. A window that is visible becomes active by it. Throws std::logic_error for a
   /// control of another window.
@@ -106,6 +108,8 @@ class Form : public Property_Owner, public Font_Properties {
 
   void Changed(Aspect aspect) override;
   void Control_Changed(Control& control, Aspect aspect);
+  /// The same for all that lies in a frame, and in frames within it.
+  void Contents_Changed(const Frame& frame, Aspect aspect);
   void Add(Control& control);
   void Remove(Control& control);
 

@@ -13,8 +13,9 @@ int Bit(Mouse_Button button) { return static_cast<int>(button); }
 
 /// The same place as seen from a control's top left.
 Mouse_Event Within(const Control& control, Mouse_Event event) {
-  event.X -= control.In_Twips().Left;
-  event.Y -= control.In_Twips().Top;
+  const Bounds place = control.In_Window();
+  event.X -= place.Left;
+  event.Y -= place.Top;
   return event;
 }
 
@@ -34,7 +35,7 @@ void Input::Begin_Press(Form& form, Control* over, const Mouse_Event& event, boo
   }
   const bool double_click = twice && event.Button == Mouse_Button::Left && (over == nullptr || over->Double_Clicks());
   Hold(form, over, event.Button, double_click);
-  if (over == nullptr || !over->Enabled) return;
+  if (over == nullptr || !over->Usable()) return;
   if (double_click) {
     if (over->On_Double_Click) over->On_Double_Click();
   } else if (over->On_Mouse_Down) {
@@ -58,7 +59,7 @@ void Input::Hold(Form& form, Control* over, Mouse_Button button, bool twice) {
   form.Capture_Mouse();
   if (button != Mouse_Button::Left) return;
   may_click_ = !twice;
-  if (over != nullptr && over->Enabled) over->Show_Held(true);
+  if (over != nullptr && over->Usable()) over->Show_Held(true);
 }
 
 void Input::Move(Form& form, std::optional<Control*> over, const Mouse_Event& event) {
@@ -69,7 +70,7 @@ void Input::Move(Form& form, std::optional<Control*> over, const Mouse_Event& ev
   } else if (!form.Accepts_Input()) {
     return;
   }
-  if (target != nullptr && target->Enabled && target->On_Mouse_Move) target->On_Mouse_Move(Within(*target, event));
+  if (target != nullptr && target->Usable() && target->On_Mouse_Move) target->On_Mouse_Move(Within(*target, event));
 }
 
 void Input::Release(Form& form, std::optional<Control*> over, const Mouse_Event& event) {
@@ -86,9 +87,12 @@ void Input::Release(Form& form, std::optional<Control*> over, const Mouse_Event&
     if (click && form.On_Click) form.On_Click();
     return;
   }
-  if (!target->Enabled) return;
+  if (!target->Usable()) return;
+  const bool click_first = click && target->Clicks_Before_Release();
+  if (click_first) target->User_Click();
+  if (!Is_There(&form, target)) return;
   if (target->On_Mouse_Up) target->On_Mouse_Up(Within(*target, event));
-  if (click && Is_There(&form, target)) target->User_Click();
+  if (click && !click_first && Is_There(&form, target)) target->User_Click();
 }
 
 void Input::Drop_Press() {

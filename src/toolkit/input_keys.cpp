@@ -58,7 +58,7 @@ bool Input::Accelerator(Form& form, char character) {
   const auto& controls = form.Controls();
   const auto found = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
     const std::string* const caption = control->Caption_With_Accelerator();
-    return caption != nullptr && control->Visible && control->Enabled && Accelerator_Of(*caption) == wanted;
+    return caption != nullptr && control->On_View() && control->Usable() && Accelerator_Of(*caption) == wanted;
   });
   if (found == controls.end()) return false;
   Control& control = **found;
@@ -74,7 +74,7 @@ bool Input::Accelerator(Form& form, char character) {
 bool Input::Focus_Next(Form& form, bool backwards) {
   std::vector<Control*> takers;
   for (Control* const control : form.Controls())
-    if (control->Can_Have_Focus()) takers.push_back(control);
+    if (control == form.Focused() || (control->Can_Have_Focus() && control->Tab_Stop())) takers.push_back(control);
   if (takers.empty()) return false;
   if (backwards) std::reverse(takers.begin(), takers.end());
   const auto now = std::find(takers.begin(), takers.end(), form.Focused());

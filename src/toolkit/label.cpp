@@ -6,8 +6,8 @@
 
 namespace toolkit {
 
-Label::Label(Form& window, std::string name, int index)
-    : Control(window, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
+Label::Label(const Container& container, std::string name, int index)
+    : Control(container, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
 
 void Label::Changed(Aspect aspect) {
   Control::Changed(aspect);

@@ -21,7 +21,7 @@ struct Font_Properties {
 
 class Label : public Control, public Font_Properties {
  public:
-  Label(Form& window, std::string name, int index = -1);
+  Label(const Container& container, std::string name, int index = -1);
 
   Property<std::string> Caption{*this, Aspect::Caption};
   Property<Colour> BackColor{*this, Aspect::Appearance, System_Colour(15)};

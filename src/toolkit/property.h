@@ -12,13 +12,15 @@ enum class Aspect {
   Visible,
   Enabled,
   Caption,     ///< of a text box its text
-  Value,       ///< a check box's tick
+  Value,       ///< the tick of a check box or option, a slider's place, the selected tab
+  Items,       ///< of a list, however many
   Appearance,  ///< colours, font, alignment, border, background, picture
   Tool_Tip,
   Selection,
   Default_Button,
   Held,
   Pointer,
+  Drag_Tip,  ///< the text beside a slider that is being dragged
 };
 
 class Property_Owner {

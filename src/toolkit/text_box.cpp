@@ -5,8 +5,8 @@
 
 namespace toolkit {
 
-Text_Box::Text_Box(Form& window, std::string name, int index)
-    : Control(window, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
+Text_Box::Text_Box(const Container& container, std::string name, int index)
+    : Control(container, std::move(name), index), Font_Properties(static_cast<Property_Owner&>(*this)) {}
 
 void Text_Box::User_Text(std::string text) {
   Text.Keep(std::move(text));

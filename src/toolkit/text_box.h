@@ -7,7 +7,7 @@ namespace toolkit {
 
 class Text_Box : public Control, public Font_Properties {
  public:
-  Text_Box(Form& window, std::string name, int index = -1);
+  Text_Box(const Container& container, std::string name, int index = -1);
 
   Property<std::string> Text{*this, Aspect::Caption};
   /// The selection. What lies outside the text is cut off.

@@ -163,7 +163,7 @@ TEST(Form, Tells_of_its_changed_properties_once_and_of_the_same_values_never) {
   form.Window.Caption = "Meridex";
   form.Window.BackColor = 0;
   form.Window.Enabled = false;
-  form.Window.MousePointer = 5;
+  form.Window.MousePointer = toolkit::Pointer::Four_Arrows;
   form.Window.FontSize = 10.0;
   form.Window.Outline_Corner = 26;
   const Words told = {"form caption", "form appearance", "form enabled",
@@ -172,7 +172,7 @@ TEST(Form, Tells_of_its_changed_properties_once_and_of_the_same_values_never) {
   form.Window.Caption = "Meridex";
   form.Window.BackColor = 0;
   form.Window.Enabled = false;
-  form.Window.MousePointer = 5;
+  form.Window.MousePointer = toolkit::Pointer::Four_Arrows;
   form.Window.FontSize = 10.0;
   form.Window.Outline_Corner = 26;
   EXPECT_EQ(form.Backend.Take(), Words{});

@@ -75,7 +75,7 @@ void Play_Key(World& world, const Words& words) {
   const Typed_Key key = Key_Of(words[0]);
   toolkit::Form* const active = world.Platform.Windows().Active();
   toolkit::Form* const window = active != nullptr ? active : world.Find_Window("Main_Frm");
-  const Target target{window != nullptr ? window->Name : "Main_Frm", window, nullptr};
+  const Target target{window != nullptr ? window->Name : "Main_Frm", window, nullptr, {}};
   if (!Can_Be_Reached(world, target)) return world.Print("refused " + target.Name);
   world.Run([&] {
     if (active == nullptr) world.Platform.Windows().Activate(window);
@@ -92,12 +92,24 @@ void Play_Type(World& world, const Words& words) {
 }
 
 void Play_Select(World& world, const Words& words) {
-  if (Reach(world, words[0])) throw Cannot_Play("no drop-down list: " + words[0]);
+  const auto target = Reach(world, words[0]);
+  if (!target) return;
+  auto* const box = dynamic_cast<toolkit::Combo_Box*>(target->Control);
+  if (box == nullptr) throw Cannot_Play("no drop-down list: " + words[0]);
+  int item = 0;
+  while (item < box->ListCount() && box->List(item) != words[1]) ++item;
+  if (item == box->ListCount()) throw Cannot_Play(words[0] + " has no entry " + Quoted(words[1]));
+  world.Run([&] { world.Platform.User.Choose(*box, item); });
 }
 
 void Play_Slide(World& world, const Words& words) {
-  To_Whole(words[1]);
-  if (Reach(world, words[0])) throw Cannot_Play("no slider: " + words[0]);
+  const int value = To_Whole(words[1]);
+  const auto target = Reach(world, words[0]);
+  if (!target) return;
+  auto* const slider = dynamic_cast<toolkit::Slider*>(target->Control);
+  if (slider == nullptr) throw Cannot_Play("no slider: " + words[0]);
+  if (value < slider->Min || value > slider->Max) throw Cannot_Play("no place of the slider: " + words[1]);
+  world.Run([&] { world.Platform.User.Slide(*slider, value); });
 }
 
 /// The target must be a window.

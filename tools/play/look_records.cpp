@@ -43,8 +43,12 @@ void Play_Menus(World& world, const Words& /*words*/) {
   }
 }
 
-/// No part of the program opens a file dialog or starts a browser yet.
-void Play_Nothing(World& /*world*/, const Words& /*words*/) {}
+/// No part of the program opens a file dialog yet.
+void Play_Dialogs(World& /*world*/, const Words& /*words*/) {}
+
+void Play_Launched(World& world, const Words& /*words*/) {
+  for (const std::string& address : world.Platform.Shell_Open.Take_Launched()) world.Print("launched " + Quoted(address));
+}
 
 /// The path without the program folder, if it lies in that.
 std::string Relative_Path(World& world, const std::string& path) {
@@ -82,8 +86,8 @@ void Play_Say(World& world, const Words& words) {
 std::span<const Entry> Record_Looks() {
   static constexpr std::array<Entry, 9> entries{{{"messages", 0, 0, Play_Messages},
                                                  {"menus", 0, 0, Play_Menus},
-                                                 {"dialogs", 0, 0, Play_Nothing},
-                                                 {"launched", 0, 0, Play_Nothing},
+                                                 {"dialogs", 0, 0, Play_Dialogs},
+                                                 {"launched", 0, 0, Play_Launched},
                                                  {"wallpaper", 0, 0, Play_Wallpaper},
                                                  {"posted", 0, 0, Play_Posted},
                                                  {"iconlist", 0, 0, Play_Icon_List},

@@ -42,7 +42,10 @@ void Press(World& world, const Target& target, const Mouse_Event& event, bool tw
 }
 
 void Release(World& world, const Target& target, const Mouse_Event& event) {
-  if (world.Is_There(target.Window, target.Control)) world.Platform.User.Release(*target.Window, target.Control, event);
+  if (!world.Is_There(target.Window, target.Control)) return;
+  world.Platform.User.Release(*target.Window, target.Control, event);
+  if (target.Item && event.Button == Mouse_Button::Left && Can_Be_Reached(world, target))
+    memory::Memory_User::Pick(*target.Control, *target.Item);
 }
 
 /// The place of a move or a release. A control that has the mouse sees it also over what can't be reached.

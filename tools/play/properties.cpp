@@ -6,6 +6,12 @@
 #include "text_form.h"
 #include "toolkit/check_box.h"
 #include "toolkit/command_button.h"
+#include "toolkit/frame.h"
+#include "toolkit/image.h"
+#include "toolkit/item_list.h"
+#include "toolkit/option_button.h"
+#include "toolkit/slider.h"
+#include "toolkit/tab_strip.h"
 #include "toolkit/text_box.h"
 
 namespace play {
@@ -20,6 +26,10 @@ std::string In_Form(const std::string& text) { return Quoted(text); }
 std::string In_Form(double number) { return Number_Text(number); }
 std::string In_Form(int number) { return std::to_string(number); }
 std::string In_Form(bool value) { return Truth_Text(value); }
+std::string In_Form(toolkit::Pointer pointer) {
+  // The program's own shapes are all of the kind of a custom one.
+  return std::to_string(std::min(static_cast<int>(pointer), static_cast<int>(toolkit::Pointer::Cross_Hair)));
+}
 std::string In_Form(toolkit::Alignment alignment) { return std::to_string(static_cast<int>(alignment)); }
 
 /// The property of a control that is of the kind that has it, else nothing.
@@ -41,7 +51,13 @@ Value Any_Of(const Control& control, Properties... properties) {
 using toolkit::Check_Box;
 using toolkit::Command_Button;
 using toolkit::Font_Properties;
+using toolkit::Frame;
+using toolkit::Item_List;
 using toolkit::Label;
+using toolkit::Option_Button;
+using toolkit::Picture_Box;
+using toolkit::Slider;
+using toolkit::Tab_Strip;
 using toolkit::Text_Box;
 
 struct Property_Entry {
@@ -60,6 +76,19 @@ std::string Window_Property(const Form& window) {
   return In_Form((window.*Member)());
 }
 
+/// What a list tells by a function.
+template <auto Function>
+Value List_Property(const Control& control) {
+  const auto* const list = dynamic_cast<const Item_List*>(&control);
+  if (list == nullptr) return std::nullopt;
+  return In_Form((list->*Function)());
+}
+
+Value Text_Property(const Control& control) {
+  if (auto text = Any_Of(control, &Text_Box::Text, &Slider::Text)) return text;
+  return List_Property<&Item_List::Text>(control);
+}
+
 template <auto... Members>
 Value Control_Property(const Control& control) {
   return Any_Of(control, Members...);
@@ -67,7 +96,6 @@ Value Control_Property(const Control& control) {
 
 using toolkit::Bounds;
 
-// The lists will get theirs when there are lists.
 constexpr std::array<Property_Entry, 20> entries{
     {{"Left", Control_Length<&Bounds::Left>, Window_Property<&Form::Left>},
      {"Top", Control_Length<&Bounds::Top>, Window_Property<&Form::Top>},
@@ -75,24 +103,33 @@ constexpr std::array<Property_Entry, 20> entries{
      {"Height", Control_Length<&Bounds::Height>, Window_Property<&Form::Height>},
      {"Visible", Control_Property<&Control::Visible>, Window_Property<&Form::Visible>},
      {"Enabled", Control_Property<&Control::Enabled>, Window_Property<&Form::Enabled>},
-     {"Caption", Control_Property<&Label::Caption, &Check_Box::Caption, &Command_Button::Caption>,
+     {"Caption", Control_Property<&Label::Caption, &Check_Box::Caption, &Command_Button::Caption, &Option_Button::Caption,
+                                  &Frame::Caption>,
       Window_Property<&Form::Caption>},
-     {"Text", Control_Property<&Text_Box::Text>, nullptr},
-     {"Value", Control_Property<&Check_Box::Value>, nullptr},
+     {"Text", Text_Property, nullptr},
+     {"Value", Control_Property<&Check_Box::Value, &Option_Button::Value, &Slider::Value, &Tab_Strip::Selected>, nullptr},
      {"ToolTipText", Control_Property<&Control::ToolTipText>, nullptr},
-     {"BackColor", Control_Property<&Label::BackColor>, Window_Property<&Form::BackColor>},
+     {"BackColor", Control_Property<&Label::BackColor, &Picture_Box::BackColor>, Window_Property<&Form::BackColor>},
      {"ForeColor", Control_Property<&Label::ForeColor>, Window_Property<&Form::ForeColor>},
      {"Alignment", Control_Property<&Label::Alignment>, nullptr},
      {"FontBold", Control_Property<&Font_Properties::FontBold>, nullptr},
      {"FontUnderline", Control_Property<&Font_Properties::FontUnderline>, nullptr},
-     {"ListCount", nullptr, nullptr},
-     {"ListIndex", nullptr, nullptr},
+     {"ListCount", List_Property<&Item_List::ListCount>, nullptr},
+     {"ListIndex", List_Property<&Item_List::ListIndex>, nullptr},
      {"SelStart", Control_Property<&Text_Box::SelStart>, nullptr},
      {"SelLength", Control_Property<&Text_Box::SelLength>, nullptr},
-     {"MousePointer", nullptr, Window_Property<&Form::MousePointer>}}};
+     {"MousePointer", Control_Property<&Control::MousePointer>, Window_Property<&Form::MousePointer>}}};
 
 bool Is_List_Item(const std::string& property) {
   return property.starts_with("List(") && property.ends_with(')') && property.size() > 6;
+}
+
+/// `List(i)`; an empty text where the list has no such item.
+std::string List_Item(const Target& target, const std::string& property) {
+  const auto* const list = dynamic_cast<const Item_List*>(target.Control);
+  if (list == nullptr) throw Cannot_Play(target.Name + " has no " + property);
+  const int index = To_Whole(property.substr(5, property.size() - 6));
+  return Quoted(index >= 0 && index < list->ListCount() ? list->List(index) : std::string());
 }
 
 }  // namespace
@@ -105,6 +142,7 @@ void Check_Property(const std::string& property) {
 
 std::string Property_Text(const Target& target, const std::string& property) {
   Check_Property(property);
+  if (Is_List_Item(property)) return List_Item(target, property);
   for (const Property_Entry& entry : entries) {
     if (entry.name != property) continue;
     if (target.Control == nullptr && entry.of_window != nullptr) return entry.of_window(*target.Window);

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "text_form.h"
+#include "toolkit/item_list.h"
+#include "toolkit/tab_strip.h"
 
 namespace play {
 
@@ -29,12 +31,27 @@ Name_Parts Split(std::string_view name) {
   return parts;
 }
 
-toolkit::Control* Find_Control(const toolkit::Form& window, const Name_Parts& parts) {
-  const auto& controls = window.Controls();
-  const auto found = std::find_if(controls.begin(), controls.end(), [&](const toolkit::Control* control) {
-    return control->Name == parts.control && control->Index == parts.index;
-  });
-  return found == controls.end() ? nullptr : *found;
+bool Has_Items(const toolkit::Control& control) {
+  return dynamic_cast<const toolkit::Item_List*>(&control) != nullptr ||
+         dynamic_cast<const toolkit::Tab_Strip*>(&control) != nullptr;
+}
+
+std::optional<Target> Find_Control(const std::string& name, toolkit::Form& window, const Name_Parts& parts) {
+  for (toolkit::Control* const control : window.Controls()) {
+    if (control->Name != parts.control) continue;
+    if (control->Index == parts.index) return Target{name, &window, control, {}};
+    if (control->Index == -1 && Has_Items(*control)) return Target{name, &window, control, parts.index};
+  }
+  return std::nullopt;
+}
+
+/// Whether the item that is named is there.
+bool Item_Is_There(const Target& target) {
+  if (!target.Item) return true;
+  if (const auto* const list = dynamic_cast<const toolkit::Item_List*>(target.Control))
+    return *target.Item >= 0 && *target.Item < list->ListCount();
+  const auto& tabs = dynamic_cast<const toolkit::Tab_Strip&>(*target.Control).Captions;
+  return *target.Item >= 1 && *target.Item <= static_cast<int>(tabs.size());
 }
 
 }  // namespace
@@ -43,20 +60,21 @@ std::optional<Target> Find_Target(const World& world, const std::string& name) {
   const Name_Parts parts = Split(name);
   std::vector<toolkit::Form*> windows;
   if (parts.window.empty()) {
-    if (toolkit::Form* const window = world.Find_Window(name); window != nullptr) return Target{name, window, nullptr};
+    if (toolkit::Form* const window = world.Find_Window(name); window != nullptr) return Target{name, window, nullptr, {}};
     windows = world.Platform.Windows().From_The_Front();
   } else if (toolkit::Form* const window = world.Find_Window(parts.window); window != nullptr) {
     windows.push_back(window);
   }
   for (toolkit::Form* const window : windows)
-    if (toolkit::Control* const control = Find_Control(*window, parts)) return Target{name, window, control};
+    if (auto target = Find_Control(name, *window, parts)) return target;
   return std::nullopt;
 }
 
 bool Can_Be_Reached(const World& world, const Target& target) {
   if (!world.Is_There(target.Window, target.Control)) return false;
   if (!target.Window->Visible() || !target.Window->Accepts_Input()) return false;
-  return target.Control == nullptr || (target.Control->Visible && target.Control->Enabled);
+  if (target.Control == nullptr) return true;
+  return target.Control->On_View() && target.Control->Usable() && Item_Is_There(target);
 }
 
 std::optional<Target> Reach(const World& world, const std::string& name) {

@@ -13,9 +13,10 @@ struct Target {
   std::string Name;  ///< as the scenario gives it
   toolkit::Form* Window = nullptr;
   toolkit::Control* Control = nullptr;  ///< nullptr: the window itself
+  std::optional<int> Item;              ///< an item of a list (from 0 on), or a tab (from 1 on)
 };
 
-/// A word such as `Ok_Btn`, `Box_Lbl(5)`, `Edit_Frm.Ok_Btn` or `Edit_Frm`. A name that stands in several windows means
+/// A word such as `Ok_Btn`, `Box_Lbl(5)`, `Events_Lst(0)`, `Edit_Frm.Ok_Btn` or `Edit_Frm`. A name that stands in several windows means
 /// the one in front, and a window only counts while it is loaded.
 std::optional<Target> Find_Target(const World& world, const std::string& name);
 
