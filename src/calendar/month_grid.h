@@ -34,6 +34,9 @@ class Month_Grid {
   /// fitting of the captions are the caller's.
   void Restyle(basic::Int16 style);
 
+  /// The same without the headers.
+  void Lay_Out(basic::Int16 style);
+
   /// Takes the tips off before a reading of the event file, and the present day: all lines are tested in one moment.
   void Begin_Reading();
 
@@ -60,6 +63,7 @@ class Month_Grid {
   /// The day of a box of the month on view, or today, becomes the one under work.
   void Select_Day_Of_Box(basic::Int16 box);
   void Select_Today();
+  void Select_Day(basic::Serial_Day day);
 
   /// How many days from today on the day of a box lies.
   [[nodiscard]] std::int32_t Days_From_Today(basic::Int16 box) const;

@@ -7,7 +7,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
       channel_(system.Files), stored_(system.Store), registry_(system.Registry, system.Profiles, system.Files),
       run_at_startup_(registry_, system.Files), set_wallpaper_(system.Registry, system.Wallpaper),
       pack_lookup_(system.Files, channel_, system.Pictures, system.Message_Box, stored_, set_wallpaper_),
-      wallpaper_(pack_lookup_, set_wallpaper_, system.Clock, stored_.Values, calendar_),
+      wallpaper_(pack_lookup_, set_wallpaper_, registry_, system.Clock, stored_.Values, calendar_),
       event_file_(system.Files, channel_, system.Message_Box, calendar_),
 
       main_frm_(backend), placement_(main_frm_, system.Screen, system.Message_Box, stored_, calendar_),
