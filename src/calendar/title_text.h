@@ -16,7 +16,7 @@ class Title_Text {
   /// Writes it into the title.
   void Write();
 
-  /// Writes it unless what it is made of is as it was the last time; the locale is looked at anew with each second. Ten
+  /// Writes it unless it stands there and what it is made of is as it was the last time; the locale is looked at anew with each second. Ten
   /// ticks a second ask, and to compose the text each time would be half of what the idle calendar costs.
   void Keep_Written();
 
@@ -41,7 +41,7 @@ class Title_Text {
     int Second = -1;
     basic::Int16 Month, Year;
     bool Small = false, Time = false;
-    std::string Time_Format, Date_Format;
+    std::string Time_Format, Date_Format, Text;
   } written_;
 };
 
