@@ -10,6 +10,8 @@ class Compact {
   Compact(presentation::Main_Frm& main_frm, presentation::Placement& placement, Month_View& view, Dates& dates,
           const settings::Settings& settings, state::Calendar_State& calendar);
 
+  [[nodiscard]] bool On() const { return calendar_.Compact_On; }
+
   /// Starts the idle time afresh. Throws error 6 for a time of more than 546 minutes.
   void Update_Timeout();
 

@@ -19,9 +19,17 @@ void Desk::Show_Present_Month() {
   view_.Refresh_Calendar();
 }
 
-void Desk::Restyle(basic::Int16 style) {
+void Desk::Refresh_Unless_Compact() {
+  if (!compact_.On()) view_.Refresh_Calendar();
+}
+
+void Desk::Take_Style(basic::Int16 style) {
   grid_.Restyle(style);
   view_.Load_Dates();
+}
+
+void Desk::Restyle(basic::Int16 style) {
+  Take_Style(style);
   placement_.Position_In_Force();
 }
 

@@ -27,6 +27,7 @@ void Function_Keys::Key_Up(int code) {
     case toolkit::key_f3: desk_.Show_Present_Month(); break;
     case toolkit::key_f4: desk_.Next_Month(); break;
     case toolkit::key_f5: desk_.Refresh_Calendar(); break;
+    case toolkit::key_f8: desk_.Show_Settings(); break;
     case toolkit::key_f9: Change_Box_Style(); break;
     case toolkit::key_f12: desk_.Compact_Mode(); break;
     default: break;

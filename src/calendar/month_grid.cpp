@@ -49,6 +49,10 @@ void Month_Grid::Set_Day_Headers() {
 
 void Month_Grid::Restyle(basic::Int16 style) {
   Set_Day_Headers();
+  Lay_Out(style);
+}
+
+void Month_Grid::Lay_Out(basic::Int16 style) {
   presentation::Which_Style(main_frm_, style);
   presentation::TransparentForm(main_frm_.Window);
 }
@@ -87,9 +91,11 @@ void Month_Grid::Select_Day_Of_Box(basic::Int16 box) {
   calendar_.Selected_Date = events::Date_Key(Day_Of_Box(box), calendar_.View_Month, calendar_.View_Year);
 }
 
-void Month_Grid::Select_Today() {
-  const basic::Civil_Date today = dates_.Today();
-  calendar_.Selected_Date = events::Date_Key(today.Day, today.Month, today.Year);
+void Month_Grid::Select_Today() { Select_Day(dates_.Present_Day()); }
+
+void Month_Grid::Select_Day(basic::Serial_Day day) {
+  const basic::Civil_Date date = basic::Civil_From_Serial(day);
+  calendar_.Selected_Date = events::Date_Key(date.Day, date.Month, date.Year);
 }
 
 std::int32_t Month_Grid::Days_From_Today(basic::Int16 box) const {

@@ -34,6 +34,9 @@ class Month_Grid {
   /// fitting of the captions are the caller's.
   void Restyle(basic::Int16 style);
 
+  /// The same without the headers.
+  void Lay_Out(basic::Int16 style);
+
   /// Takes the tips off before a reading of the event file, and the present day: all lines are tested in one moment.
   void Begin_Reading();
 
@@ -53,6 +56,8 @@ class Month_Grid {
   /// The box style in force: the setting's, or the pack's.
   [[nodiscard]] basic::Int16 Style_In_Force() const { return presentation::Style_In_Force(settings_, calendar_); }
 
+  [[nodiscard]] basic::Int16 Pack_Box_Style() const { return calendar_.Pack_Box_Style; }
+
   /// The box of the first day of the month on view, and the day of a box of that month.
   [[nodiscard]] basic::Int16 First_Box() const;
   [[nodiscard]] basic::Int16 Day_Of_Box(basic::Int16 box) const;
@@ -60,6 +65,7 @@ class Month_Grid {
   /// The day of a box of the month on view, or today, becomes the one under work.
   void Select_Day_Of_Box(basic::Int16 box);
   void Select_Today();
+  void Select_Day(basic::Serial_Day day);
 
   /// How many days from today on the day of a box lies.
   [[nodiscard]] std::int32_t Days_From_Today(basic::Int16 box) const;

@@ -36,6 +36,17 @@ void Month_View::Redraw_Grid() {
   Paint();
 }
 
+void Month_View::Recolour(Colour_Part part) {
+  switch (part) {
+    case Colour_Part::Boxes: colours_.Colour_Boxes(); break;
+    case Colour_Part::Today: grid_.Mark_Today(); break;
+    case Colour_Part::Numbers: colours_.Colour_Nums(); break;
+    case Colour_Part::Texts: colours_.Colour_Texts(); break;
+    case Colour_Part::Title_Row: colours_.Colour_Menus(); break;
+    case Colour_Part::Inactive_Title: colours_.Colour_Inactive(); break;
+  }
+}
+
 void Month_View::Load_Dates() {
   grid_.Begin_Reading();
   event_file_.Load_Dates([this](std::string_view line) { grid_.Enter_Date(line); });

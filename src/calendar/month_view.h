@@ -8,6 +8,9 @@
 
 namespace calendar {
 
+/// The parts of the window that a colour setting paints.
+enum class Colour_Part { Boxes, Today, Numbers, Texts, Title_Row, Inactive_Title };
+
 class Month_View {
  public:
   Month_View(Month_Grid& grid, Title_Text& title, events::Event_File& event_file, presentation::Colours& colours,
@@ -37,6 +40,14 @@ class Month_View {
   /// One month back or on. Throw error 6 beyond 16 bits, error 5 outside the years 100 to 9999.
   void Previous_Month();
   void Next_Month();
+
+  /// One part of the window alone, from the settings.
+  void Recolour(Colour_Part part);
+
+  /// The text that the title would have by these formats.
+  const std::string& Title_By(bool show_time, const std::string& time_format, const std::string& date_format) {
+    return title_.Get_Bar_Text(show_time, time_format, date_format);
+  }
 
   /// On each tick: paints the title row anew if the window has become active or inactive.
   void Follow_Active_State() { colours_.Follow_Active_State(); }

@@ -25,6 +25,7 @@ void Popup_Menus::Popup_Menu(basic::Int16 index) {
   switch (Track(presentation::Box_Menu(main_frm_))) {
     case presentation::clear_event: desk_.Clear_Day(index); break;
     case presentation::edit_event: desk_.Edit_Day(index); break;
+    case presentation::open_settings: desk_.Show_Settings(); break;
     case presentation::exit_program: desk_.Exit(); break;
     default: break;
   }

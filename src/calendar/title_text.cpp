@@ -11,7 +11,8 @@ Title_Text::Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const set
 
 void Title_Text::Write() {
   const basic::Moment now = dates_.Now();
-  main_frm_.Which_Month_Lbl.Caption = Get_Bar_Text();
+  main_frm_.Which_Month_Lbl.Caption =
+      Get_Bar_Text(settings_.Bar_Time, settings_.Bar_Time_Format, settings_.Bar_Date_Format);
   written_ = {now.Day,
               now.Seconds(),
               calendar_.View_Month,
@@ -19,7 +20,8 @@ void Title_Text::Write() {
               presentation::Small_Style(settings_),
               settings_.Bar_Time,
               settings_.Bar_Time_Format,
-              settings_.Bar_Date_Format};
+              settings_.Bar_Date_Format,
+              text_};
 }
 
 void Title_Text::Keep_Written() {
@@ -30,10 +32,11 @@ bool Title_Text::Is_Written_For(const basic::Moment& now) const {
   return written_.Second == now.Seconds() && written_.Day == now.Day && written_.Month == calendar_.View_Month &&
          written_.Year == calendar_.View_Year && written_.Small == presentation::Small_Style(settings_) &&
          written_.Time == settings_.Bar_Time && written_.Time_Format == settings_.Bar_Time_Format &&
-         written_.Date_Format == settings_.Bar_Date_Format;
+         written_.Date_Format == settings_.Bar_Date_Format && main_frm_.Which_Month_Lbl.Caption == written_.Text;
 }
 
-const std::string& Title_Text::Get_Bar_Text() {
+const std::string& Title_Text::Get_Bar_Text(bool show_time, const std::string& time_format,
+                                            const std::string& date_format) {
   const basic::Moment now = dates_.Now();
   const int today = basic::Civil_From_Serial(now.Day).Day;
   const basic::Moment day_of_view{basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), today),
@@ -49,16 +52,15 @@ const std::string& Title_Text::Get_Bar_Text() {
     basic::Append_Number(text_, calendar_.View_Year.Value());
     return text_;
   }
-  if (settings_.Bar_Time) {
-    basic::Append_Date(text_, now, settings_.Bar_Time_Format, dates_.Words());
+  if (show_time) {
+    basic::Append_Date(text_, now, time_format, dates_.Words());
     text_ += " - ";
   }
-  Append_Date(now, day_of_view);
+  Append_Date(date_format, now, day_of_view);
   return text_;
 }
 
-void Title_Text::Append_Date(const basic::Moment& now, const basic::Moment& day_of_view) {
-  const std::string& format = settings_.Bar_Date_Format;
+void Title_Text::Append_Date(const std::string& format, const basic::Moment& now, const basic::Moment& day_of_view) {
   const basic::Date_Words& words = dates_.Words();
   if (format == "Use System Format") {
     dates_.Append_Long_Date(text_, day_of_view.Day);

@@ -16,18 +16,17 @@ class Title_Text {
   /// Writes it into the title.
   void Write();
 
-  /// Writes it unless what it is made of is as it was the last time; the locale is looked at anew with each second. Ten
+  /// Writes it unless it stands there and what it is made of is as it was the last time; the locale is looked at anew with each second. Ten
   /// ticks a second ask, and to compose the text each time would be half of what the idle calendar costs.
   void Keep_Written();
 
-  /// The title of the month on view, by the settings Bar_Time, Bar_Time_Format and Bar_Date_Format. The text stays until
-  /// the next call.
-  const std::string& Get_Bar_Text();
+  /// The title of the month on view: with the time or without, by the two formats. The text stays until the next call.
+  const std::string& Get_Bar_Text(bool show_time, const std::string& time_format, const std::string& date_format);
 
  private:
   void Append_Month_And_Year(const basic::Moment& day_of_view);
   void Append_Day_With_Suffix(basic::Serial_Day day);
-  void Append_Date(const basic::Moment& now, const basic::Moment& day_of_view);
+  void Append_Date(const std::string& format, const basic::Moment& now, const basic::Moment& day_of_view);
   [[nodiscard]] bool Is_Written_For(const basic::Moment& now) const;
 
   presentation::Main_Frm& main_frm_;
@@ -42,7 +41,7 @@ class Title_Text {
     int Second = -1;
     basic::Int16 Month, Year;
     bool Small = false, Time = false;
-    std::string Time_Format, Date_Format;
+    std::string Time_Format, Date_Format, Text;
   } written_;
 };
 

@@ -19,7 +19,7 @@ Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, pla
       path_(files.Program_Folder() + "\\calendar.dat") {}
 
 void Event_File::Load_File() {
-  if (!files_.File_Exists(path_)) return;
+  if (!Exists()) return;
   try {
     temp_lst_.Clear();
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));
@@ -31,21 +31,23 @@ void Event_File::Load_File() {
   }
 }
 
-void Event_File::Load_Dates(const std::function<void(std::string_view line)>& enter_date) {
-  if (!files_.File_Exists(path_)) return;
+bool Event_File::Load_Dates(const std::function<void(std::string_view line)>& enter_date) {
+  if (!Exists()) return false;
   try {
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));
     std::string_view record;
     while (reader.Next(record)) enter_date(record);
     channel_.Close();
+    return true;
   } catch (const basic::Run_Error&) {
     Report_Failure(loading_failed);
+    return false;
   }
 }
 
 Day_Event Event_File::Get_Message() {
   Day_Event found;
-  if (!files_.File_Exists(path_)) return found;
+  if (!Exists()) return found;
   try {
     const std::string every_year_form = Every_Year_Form(calendar_.Selected_Date);
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));

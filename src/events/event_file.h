@@ -30,8 +30,12 @@ class Event_File {
   /// Fills Temp_Lst from the file; without a file it keeps what it holds.
   void Load_File();
 
+  /// Whether there is a file at all.
+  [[nodiscard]] bool Exists() const { return files_.File_Exists(path_); }
+
   /// Hands every line to `enter_date`, in file order. A Run_Error that it throws ends the reading with the file's message.
-  void Load_Dates(const std::function<void(std::string_view line)>& enter_date);
+  /// Returns whether there is a file and all of it was read.
+  bool Load_Dates(const std::function<void(std::string_view line)>& enter_date);
 
   /// The event stored for Selected_Date: the text of the last line that matches, "" if none does, and whether any line
   /// that matches is of every year.

@@ -79,6 +79,8 @@ void Memory_Windows::Minimised(Memory_Window& peer, bool minimised) {
   const bool was_active = Active_Peer() == &peer;
   std::erase(activations_, &peer);
   if (!was_active) return;
+  // A window that the user can't reach doesn't become active by this.
+  if (Active_Peer() != nullptr && !Active_Peer()->Form().Enabled) activations_.push_back(nullptr);
   Tell_Deactivated(&peer);
   Tell_Activated(Active_Peer());
 }

@@ -19,6 +19,13 @@ class Run_At_Startup {
   /// the right to delete it, it stays where it is; an empty one only goes. No failure is told.
   void Move_Run_Value();
 
+  /// Whether there is an entry in either place, whatever path it holds; "BLANK" is none.
+  bool Run_Value_Is_There();
+
+  /// Writes the entry, with the path of the running executable, under the current user alone; or removes it from both
+  /// places. One under the local machine that can't be deleted stays, and then nothing is written. No failure is told.
+  void Save_Run_Value(bool run);
+
  private:
   Registry& registry_;
   platform::Files& files_;

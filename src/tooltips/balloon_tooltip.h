@@ -1,4 +1,4 @@
-// The opening of a balloon for a day box, with the day's distance from today as its title.
+// The opening of balloons: for a day box, with the day's distance from today as its title, and at a given place.
 #pragma once
 
 #include <memory>
@@ -18,6 +18,11 @@ class Balloons {
 
   /// Opens a balloon for box Tip_Box with an event's text. The box's day lies `days` days from today.
   void Balloon_Tooltip(const std::string& text, std::int32_t days);
+
+  /// Opens a balloon at a place in twips on the screen, before a window that stays behind it. A 0 is worked out from box
+  /// Tip_Box.
+  void Show_Balloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
+                    toolkit::Form& owner);
 
   /// Closes the balloon that is open, if one is.
   void Unload_All();

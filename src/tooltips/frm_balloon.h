@@ -19,8 +19,9 @@ struct Balloon_Calls {
 
 class Frm_Balloon {
  public:
+  /// `owner` is the window that it stays before, nullptr for the calendar's.
   Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
-              state::Calendar_State& calendar, const Balloon_Calls& calls);
+              state::Calendar_State& calendar, const Balloon_Calls& calls, toolkit::Form* owner = nullptr);
   Frm_Balloon(const Frm_Balloon&) = delete;
   Frm_Balloon& operator=(const Frm_Balloon&) = delete;
   ~Frm_Balloon() = default;

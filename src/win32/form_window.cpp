@@ -151,6 +151,13 @@ void Form_Window::Form_Changed(toolkit::Aspect aspect) {
   if (aspect == Pointer) Show_Pointer(nullptr);
 }
 
+// The native controls paint themselves, in the same way.
+void Form_Window::Paint_Now() {
+  Settle();
+  UpdateWindow(Window());
+  for (const auto& native : natives_) UpdateWindow(native->Window());
+}
+
 RECT Form_Window::Wanted_Place() const {
   // The size is rounded by itself: a window that only moves keeps it.
   const Scale& scale = context_.Scale;

@@ -34,6 +34,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Activate() override;
   void Form_Changed(toolkit::Aspect aspect) override;
   void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override;
+  void Paint_Now() override;
   void Set_Region(const toolkit::Region& region) override;
   void Set_Round_Region(int width, int height, int corner) override;
   [[nodiscard]] bool Minimised() const override;

@@ -25,7 +25,11 @@ class Title_Text_Test : public ::testing::Test {
 
   std::string By_Format(const std::string& format) {
     Settings.Bar_Date_Format = format;
-    return Title.Get_Bar_Text();
+    return Bar_Text();
+  }
+
+  std::string Bar_Text() {
+    return Title.Get_Bar_Text(Settings.Bar_Time, Settings.Bar_Time_Format, Settings.Bar_Date_Format);
   }
 
   Fake_Clock Clock;
@@ -74,13 +78,13 @@ TEST_F(Title_Text_Test, Compares_the_format_exactly) {
 
 TEST_F(Title_Text_Test, Puts_the_time_in_front) {
   Settings.Bar_Time = true;
-  EXPECT_EQ(Title.Get_Bar_Text(), "14.07 - 5th Month3 - 2004");
+  EXPECT_EQ(Bar_Text(), "14.07 - 5th Month3 - 2004");
   Settings.Bar_Time_Format = "h:mm:ss AM/PM";
-  EXPECT_EQ(Title.Get_Bar_Text(), "2.07.09 PM - 5th Month3 - 2004");
+  EXPECT_EQ(Bar_Text(), "2.07.09 PM - 5th Month3 - 2004");
   Settings.Bar_Time_Format = "dd/mm";
-  EXPECT_EQ(Title.Get_Bar_Text(), "05-03 - 5th Month3 - 2004") << "the present moment, whatever the pattern asks of it";
+  EXPECT_EQ(Bar_Text(), "05-03 - 5th Month3 - 2004") << "the present moment, whatever the pattern asks of it";
   Settings.Bar_Time_Format = "";
-  EXPECT_EQ(Title.Get_Bar_Text(), " - 5th Month3 - 2004");
+  EXPECT_EQ(Bar_Text(), " - 5th Month3 - 2004");
 }
 
 TEST_F(Title_Text_Test, Names_another_month_and_its_year_without_time_and_formats) {
@@ -88,22 +92,22 @@ TEST_F(Title_Text_Test, Names_another_month_and_its_year_without_time_and_format
   for (const char* const format : {"Use System Format", "mm/yyyy", "no format"}) {
     Settings.Bar_Date_Format = format;
     View(4, 2004);
-    EXPECT_EQ(Title.Get_Bar_Text(), "Month4 - 2004");
+    EXPECT_EQ(Bar_Text(), "Month4 - 2004");
     View(3, 2005);
-    EXPECT_EQ(Title.Get_Bar_Text(), "Month3 - 2005");
+    EXPECT_EQ(Bar_Text(), "Month3 - 2005");
   }
   View(12, 100);
-  EXPECT_EQ(Title.Get_Bar_Text(), "Month12 - 100") << "a year is a number there";
+  EXPECT_EQ(Bar_Text(), "Month12 - 100") << "a year is a number there";
 }
 
 TEST_F(Title_Text_Test, Takes_a_month_that_is_shorter_than_today_for_another_one) {
   for (const int day : {29, 30, 31}) {
     Clock.Set(2003, 1, day);
     View(2, 2003);
-    EXPECT_EQ(Title.Get_Bar_Text(), "Month2 - 2003") << day;
+    EXPECT_EQ(Bar_Text(), "Month2 - 2003") << day;
     // The day that it runs on to isn't today either.
     Clock.Set(2003, 3, day);
-    EXPECT_EQ(Title.Get_Bar_Text(), "Month2 - 2003") << day;
+    EXPECT_EQ(Bar_Text(), "Month2 - 2003") << day;
   }
 }
 
@@ -130,16 +134,16 @@ TEST_F(Title_Text_Test, Is_month_and_year_alone_in_the_small_style) {
 TEST_F(Title_Text_Test, Gives_each_day_its_suffix) {
   for (int day = 1; day <= 31; ++day) {
     Clock.Set(2004, 3, day);
-    EXPECT_EQ(Title.Get_Bar_Text(), std::to_string(day) + calendar::Get_Suffix(day) + " Month3 - 2004");
+    EXPECT_EQ(Bar_Text(), std::to_string(day) + calendar::Get_Suffix(day) + " Month3 - 2004");
   }
 }
 
 TEST_F(Title_Text_Test, Throws_error_5_beyond_the_calendars_years) {
   View(1, 10000);
-  EXPECT_EQ(Error_Of([&] { Title.Get_Bar_Text(); }), 5);
+  EXPECT_EQ(Error_Of([&] { Bar_Text(); }), 5);
   View(12, 99);
-  EXPECT_EQ(Error_Of([&] { Title.Get_Bar_Text(); }), 5);
+  EXPECT_EQ(Error_Of([&] { Bar_Text(); }), 5);
   Clock.Set(9999, 12, 31);
   View(12, 9999);
-  EXPECT_EQ(Title.Get_Bar_Text(), "31st Month12 - 9999");
+  EXPECT_EQ(Bar_Text(), "31st Month12 - 9999");
 }
