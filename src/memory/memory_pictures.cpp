@@ -164,9 +164,17 @@ void Memory_Pictures::Convert_To_Bitmap(const std::string& jpeg, const std::stri
   }
 }
 
-platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+/// What can't be read for whatever reason is no more than that to the caller.
+std::string Memory_Pictures::Read_Picture(const std::string& path) const {
+  if (!files_.Folder_Exists(path)) throw basic::Run_Error(basic::Error_Number::File_Not_Found);
+  if (!files_.File_Exists(path)) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   std::string bytes;
   files_.Read_Whole(path, bytes);
+  return bytes;
+}
+
+platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+  const std::string bytes = Read_Picture(path);
   return std::make_shared<One_Colour>(bytes.starts_with("BM") ? Read_Bitmap(bytes) : Read_Jpeg(bytes));
 }
 
