@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "tests/contract/native_parts.h"
+#include "tests/win32/native_parts.h"
 #include "tests/contract/service_world.h"
 #include "win32/win32_platform.h"
 

@@ -1,4 +1,4 @@
-#include "tests/contract/native_parts.h"
+#include "tests/win32/native_parts.h"
 
 #include <commctrl.h>
 
