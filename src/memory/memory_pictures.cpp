@@ -141,7 +141,8 @@ Plain_Picture Read_Bitmap(std::string_view bytes) {
   const Plain_Picture picture{Dword_At(bytes, 18), Dword_At(bytes, 22), 0, 0, 0};
   const bool plain = Dword_At(bytes, 26) == (1 | 24 << 16) && bytes.size() > bitmap_head_size + 2;
   if (!plain || picture.Width < 1 || picture.Height < 1) throw basic::Run_Error(basic::Error_Number::Invalid_Picture);
-  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1), byte(bitmap_head_size)};
+  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1),
+          byte(bitmap_head_size)};
 }
 
 }  // namespace
@@ -178,8 +179,7 @@ platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
   return std::make_shared<One_Colour>(bytes.starts_with("BM") ? Read_Bitmap(bytes) : Read_Jpeg(bytes));
 }
 
-platform::Shared_Picture Memory_Pictures::Make(int width, int height,
-                                               const std::function<int(int x, int y)>& pixel) {
+platform::Shared_Picture Memory_Pictures::Make(int width, int height, const std::function<int(int x, int y)>& pixel) {
   return std::make_shared<Pixel_Picture>(width, height, pixel);
 }
 

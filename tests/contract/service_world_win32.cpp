@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "tests/win32/native_parts.h"
 #include "tests/contract/service_world.h"
+#include "tests/win32/native_parts.h"
 #include "win32/win32_platform.h"
 
 namespace {
