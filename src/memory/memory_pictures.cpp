@@ -141,7 +141,8 @@ Plain_Picture Read_Bitmap(std::string_view bytes) {
   const Plain_Picture picture{Dword_At(bytes, 18), Dword_At(bytes, 22), 0, 0, 0};
   const bool plain = Dword_At(bytes, 26) == (1 | 24 << 16) && bytes.size() > bitmap_head_size + 2;
   if (!plain || picture.Width < 1 || picture.Height < 1) throw basic::Run_Error(basic::Error_Number::Invalid_Picture);
-  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1), byte(bitmap_head_size)};
+  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1),
+          byte(bitmap_head_size)};
 }
 
 }  // namespace
@@ -164,14 +165,21 @@ void Memory_Pictures::Convert_To_Bitmap(const std::string& jpeg, const std::stri
   }
 }
 
-platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+/// What can't be read for whatever reason is no more than that to the caller.
+std::string Memory_Pictures::Read_Picture(const std::string& path) const {
+  if (!files_.Folder_Exists(path)) throw basic::Run_Error(basic::Error_Number::File_Not_Found);
+  if (!files_.File_Exists(path)) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   std::string bytes;
   files_.Read_Whole(path, bytes);
+  return bytes;
+}
+
+platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+  const std::string bytes = Read_Picture(path);
   return std::make_shared<One_Colour>(bytes.starts_with("BM") ? Read_Bitmap(bytes) : Read_Jpeg(bytes));
 }
 
-platform::Shared_Picture Memory_Pictures::Make(int width, int height,
-                                               const std::function<int(int x, int y)>& pixel) {
+platform::Shared_Picture Memory_Pictures::Make(int width, int height, const std::function<int(int x, int y)>& pixel) {
   return std::make_shared<Pixel_Picture>(width, height, pixel);
 }
 

@@ -29,6 +29,7 @@ class Memory_Pictures : public platform::Pictures {
   platform::Shared_Picture Make(int width, int height, const std::function<int(int x, int y)>& pixel) override;
 
  private:
+  [[nodiscard]] std::string Read_Picture(const std::string& path) const;
   void Write_Bitmap(const Plain_Picture& picture, const std::string& path);
 
   platform::Files& files_;

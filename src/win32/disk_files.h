@@ -14,6 +14,7 @@ class Disk_Files final : public platform::Files {
   bool File_Exists(const std::string& path) override;
   bool Folder_Exists(const std::string& path) override;
   std::vector<std::string> File_Names(const std::string& folder) override;
+  std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
   std::string Program_Folder() override { return folder_; }
   std::string Program_Path() override { return path_; }

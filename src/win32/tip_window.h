@@ -3,14 +3,13 @@
 
 #include <string>
 
-#include "win32/handle.h"
+#include "win32/common_controls.h"
 
 namespace win32 {
 
 class Tip_Window {
  public:
-  /// `controls` takes the library of the tips when it is first needed.
-  explicit Tip_Window(Library_Owner& controls) : controls_(controls) {}
+  explicit Tip_Window(Common_Controls& controls) : controls_(controls) {}
 
   /// Shows the text while the pointer rests in the place (pixels of the owner's client area).
   void Watch(HWND owner, const RECT& place, const std::string& text);
@@ -23,7 +22,7 @@ class Tip_Window {
  private:
   bool Make(HWND owner);
 
-  Library_Owner& controls_;
+  Common_Controls& controls_;
   Window_Owner window_;
   HWND owner_ = nullptr;
   bool watching_ = false;

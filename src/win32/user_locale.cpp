@@ -1,6 +1,10 @@
 #include "win32/user_locale.h"
 
-#include "win32/windows_api.h"
+#include <cmath>
+
+#include "basic/date_reading.h"
+#include "basic/run_error.h"
+#include "win32/handle.h"
 
 namespace win32 {
 
@@ -57,6 +61,31 @@ void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE pict
   Append_By_System(to, date, 0, with_year.c_str());
 }
 
+basic::Date_Order Order() {
+  const std::string number = Info(LOCALE_IDATE);
+  if (number == "0") return basic::Date_Order::Month_First;
+  return number == "2" ? basic::Date_Order::Year_First : basic::Date_Order::Day_First;
+}
+
+/// The text as the system's automation takes it.
+std::wstring Wide(const std::string& text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
+  wide.resize(static_cast<std::size_t>(length));
+  return wide;
+}
+
+/// What the system's automation makes of a text with names or of two numbers; nothing if it is no date.
+std::optional<basic::Serial_Day> Read_By_System(const std::string& text) {
+  using Reader = HRESULT WINAPI(const wchar_t*, LCID, ULONG, double*);
+  const Library_Owner automation(LoadLibraryA("oleaut32.dll"));
+  const auto read = Find_Function<Reader>(automation.Get(), "VarDateFromStr");
+  double day = 0;
+  if (read == nullptr || FAILED(read(Wide(text).c_str(), LOCALE_USER_DEFAULT, 0, &day))) return std::nullopt;
+  return static_cast<basic::Serial_Day>(std::floor(day));
+}
+
 }  // namespace
 
 User_Locale::User_Locale() {
@@ -82,6 +111,13 @@ void User_Locale::Append_Short_Date(std::string& to, basic::Serial_Day day) {
 
 void User_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
   Append_Day(to, day, DATE_LONGDATE, LOCALE_SLONGDATE);
+}
+
+basic::Serial_Day User_Locale::Read_Date(const std::string& text) {
+  auto day = basic::Read_Numeric_Date(text, Order());
+  if (!day) day = Read_By_System(text);
+  if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
+  return *day;
 }
 
 }  // namespace win32

@@ -13,6 +13,7 @@ class User_Locale final : public platform::Locale {
   basic::Weekday First_Weekday() override;
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
+  basic::Serial_Day Read_Date(const std::string& text) override;
 
  private:
   basic::Date_Words words_;

@@ -3,8 +3,10 @@
 
 #include <vector>
 
+#include "win32/common_controls.h"
 #include "win32/guard.h"
 #include "win32/painter.h"
+#include "win32/pointers.h"
 #include "win32/scale.h"
 
 namespace toolkit {
@@ -50,7 +52,7 @@ class Window_List {
 };
 
 struct Window_Context {
-  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance) {
+  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance), Pointers(instance) {
     Guard.Afterwards = [this] { Windows.Settle(); };
   }
 
@@ -59,8 +61,10 @@ struct Window_Context {
   const win32::Scale Scale = Scale::Of_Screen();
   win32::Fonts Fonts{Scale};
   Stock_Pictures Pictures;
-  win32::Painter Painter{Fonts, Pictures};
-  Library_Owner Common_Controls;  ///< loaded with the first tip
+  win32::Themes Themes;
+  win32::Painter Painter{{Fonts, Pictures, Themes}};
+  win32::Common_Controls Common_Controls;
+  win32::Pointers Pointers;
   Window_List Windows;
 
   /// The active window as the system's messages have told, nullptr if it is none of ours.

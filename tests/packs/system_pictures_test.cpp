@@ -5,14 +5,14 @@
 
 #include "tests/basic/error_of.h"
 #include "win32/disk_files.h"
-#include "win32/jpeg_pictures.h"
+#include "win32/system_pictures.h"
 
 namespace {
 
-class Jpeg_Pictures_Test : public ::testing::Test {
+class System_Pictures_Test : public ::testing::Test {
  protected:
-  Jpeg_Pictures_Test() { Files.Read_Whole(PACKS_FOLDER "\\Seasons\\7.jpg", Picture); }
-  ~Jpeg_Pictures_Test() override {
+  System_Pictures_Test() { Files.Read_Whole(PACKS_FOLDER "\\Seasons\\7.jpg", Picture); }
+  ~System_Pictures_Test() override {
     for (const std::string& path : {Jpeg, Bitmap})
       if (Files.File_Exists(path)) Files.Delete(path);
   }
@@ -26,7 +26,7 @@ class Jpeg_Pictures_Test : public ::testing::Test {
   }
 
   win32::Disk_Files Files;
-  win32::Jpeg_Pictures Pictures;
+  win32::System_Pictures Pictures;
   const std::string Jpeg = Files.Program_Folder() + "\\picture.jpg";
   const std::string Bitmap = Files.Program_Folder() + "\\picture.bmp";
   std::string Picture;
@@ -43,7 +43,7 @@ std::size_t Place_Of_Size(const std::string& jpeg) { return jpeg.find("\xFF\xC0"
 
 }  // namespace
 
-TEST_F(Jpeg_Pictures_Test, A_picture_becomes_a_bitmap_of_24_bits_a_pixel) {
+TEST_F(System_Pictures_Test, A_picture_becomes_a_bitmap_of_24_bits_a_pixel) {
   ASSERT_EQ(Error_Of_Bytes(Picture), 0);
   std::string bytes;
   Files.Read_Whole(Bitmap, bytes);
@@ -57,9 +57,9 @@ TEST_F(Jpeg_Pictures_Test, A_picture_becomes_a_bitmap_of_24_bits_a_pixel) {
   EXPECT_EQ(Number_At(bytes, 30, 4), 0U);
 }
 
-TEST_F(Jpeg_Pictures_Test, A_missing_picture_is_error_53) { EXPECT_EQ(Error_Of_Converting(), 53); }
+TEST_F(System_Pictures_Test, A_missing_picture_is_error_53) { EXPECT_EQ(Error_Of_Converting(), 53); }
 
-TEST_F(Jpeg_Pictures_Test, A_file_that_is_no_JPEG_is_error_481_and_leaves_no_bitmap) {
+TEST_F(System_Pictures_Test, A_file_that_is_no_JPEG_is_error_481_and_leaves_no_bitmap) {
   for (const std::string& bytes : {std::string(), std::string("\xFF"), std::string("\xFF\xD8"), "GIF89a" + Picture,
                                    "BM" + std::string(200, '\0'), std::string(5000, 'x'), Picture.substr(2)}) {
     EXPECT_EQ(Error_Of_Bytes(bytes), 481) << bytes.size();
@@ -67,17 +67,17 @@ TEST_F(Jpeg_Pictures_Test, A_file_that_is_no_JPEG_is_error_481_and_leaves_no_bit
   }
 }
 
-TEST_F(Jpeg_Pictures_Test, A_picture_cut_short_is_error_481) {
+TEST_F(System_Pictures_Test, A_picture_cut_short_is_error_481) {
   for (const std::size_t kept : {std::size_t{100}, std::size_t{700}, Picture.size() / 2, Picture.size() - 2})
     EXPECT_EQ(Error_Of_Bytes(Picture.substr(0, kept)), 481) << kept;
 }
 
-TEST_F(Jpeg_Pictures_Test, A_picture_of_20000_by_20000_pixels_is_error_481) {
+TEST_F(System_Pictures_Test, A_picture_of_20000_by_20000_pixels_is_error_481) {
   Picture.replace(Place_Of_Size(Picture), 4, "\x4E\x20\x4E\x20");
   EXPECT_EQ(Error_Of_Bytes(Picture), 481);
 }
 
-TEST_F(Jpeg_Pictures_Test, A_bitmap_that_cannot_be_written_is_error_75) {
+TEST_F(System_Pictures_Test, A_bitmap_that_cannot_be_written_is_error_75) {
   const std::string nowhere = Files.Program_Folder() + "\\No such folder\\picture.bmp";
   Files.Create(Jpeg)->Write(Picture);
   const int error = Error_Of([&] { Pictures.Convert_To_Bitmap(Jpeg, nowhere); });
