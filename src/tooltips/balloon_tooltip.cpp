@@ -18,7 +18,7 @@ Balloons::Balloons(toolkit::Backend& backend, platform::Screen& screen, presenta
 
 void Balloons::Balloon_Tooltip(const std::string& text, std::int32_t days) {
   Drop_Closed();
-  // Shared: rebuilding the month can bring up a message, under which another balloon may open and drop those that closed.
+  // Shared: rebuilding the month may show a message box, under which this balloon may close and the next one drop it.
   const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, main_frm_, calendar_, calls_);
   balloons_.push_back(balloon);
   balloon->SetBalloon(Balloon_Title(days), text, 0, 0, "i", "Tahoma, if exists", 8);
@@ -26,7 +26,7 @@ void Balloons::Balloon_Tooltip(const std::string& text, std::int32_t days) {
 }
 
 void Balloons::Unload_All() {
-  // A copy: what a closing brings about may open another.
+  // A copy: closing a balloon calls handlers, which may open another one.
   for (const auto& balloon : std::vector(balloons_)) balloon->HideBalloon();
 }
 
