@@ -1,5 +1,5 @@
-// A control that is a window of the system's own: it is made, shows what the control has become, and reports what it did.
-// One class for each kind derives from it; the form's window holds them all.
+// A control that is a window of the system's own: it is made, shows what the control has become, and reports what it
+// did. One class for each kind derives from it; the form's window holds them all.
 #pragma once
 
 #include <memory>
@@ -28,7 +28,7 @@ class Native_Control {
   virtual void Command(WORD /*code*/) {}
 
  protected:
-  /// What the system makes the window of.
+  /// What the system makes the window from.
   struct Kind {
     const char* Class;
     DWORD Style, Extended;
@@ -42,13 +42,15 @@ class Native_Control {
   /// Shows a change that isn't of place, visibility or enabledness.
   virtual void Show(toolkit::Aspect aspect) = 0;
 
-  /// A message to the system's control before it gets it. Returns true if it shall not.
+  /// Called with each message before the system's control gets it. Returns true to keep it from the control. **A
+  /// handler may destroy this control: touch no member after calling one.**
   virtual bool Intercept(UINT /*message*/, WPARAM /*w*/, LPARAM /*l*/) { return false; }
 
   void Show_Font(const toolkit::Font_Properties& font);
   void Show_Text(const std::string& text);
 
-  /// A mouse message to this window, for the form's: its input takes the road of all controls.
+  /// Sends a mouse message of this window to the form's window, where its input takes the road of all controls. **A
+  /// handler may destroy this control: touch no member after this call.**
   void Forward_To_Form(UINT message, WPARAM w, LPARAM l) const;
 
  private:
@@ -58,7 +60,7 @@ class Native_Control {
   const HWND parent_;
   toolkit::Control& control_;
   Window_Context& context_;
-  HWND window_ = nullptr;  // goes with its parent
+  HWND window_ = nullptr;  // destroyed with its parent
   WNDPROC procedure_ = nullptr;
   RECT place_{};
 };

@@ -16,10 +16,10 @@ class Stock_Pictures {
   /// The program's icon in one of its own sizes, for the frame of a window.
   HICON Frame_Icon(int width, int height);
 
-  /// Draws the picture, stretched to the place; none draws nothing.
+  /// Draws the picture, stretched to the place (pixels). Stock_Picture::None draws nothing.
   void Draw(HDC context, platform::Stock_Picture picture, const RECT& place);
 
-  /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.
+  /// A bitmap for a menu, with the menus' background; nullptr for an icon or none.
   HBITMAP Menu_Bitmap(platform::Stock_Picture picture);
 
  private:
