@@ -66,7 +66,8 @@ void Compact::Shrink() {
 
 void Compact::Auto_Compact_Check(bool other_window_open) {
   if (settings_.Auto_Compact != 1) return;
-  if (calendar_.Auto_Compacted || calendar_.Compact_On || other_window_open || calendar_.Tip_Showing) {
+  if (calendar_.Auto_Compacted || calendar_.Compact_On || other_window_open || calendar_.Settings_Visible ||
+      calendar_.Tip_Showing) {
     Update_Timeout();
     return;
   }

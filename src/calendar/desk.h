@@ -14,7 +14,6 @@ namespace calendar {
 struct Program_Calls {
   std::function<void()> Exit;
   std::function<void()> Show_Settings;
-  std::function<bool()> Settings_Visible;
 };
 
 class Desk {
@@ -46,13 +45,24 @@ class Desk {
 
   void Edit_Day(basic::Int16 box) { edit_box_.Open(box); }
   void Clear_Day(basic::Int16 box) { edit_box_.Clear(box); }
+  /// What the editor holds; empty if it isn't loaded.
+  [[nodiscard]] events::Day_Event Editor_Content() const { return edit_box_.Editor_Content(); }
 
-  // How the window looks and where it stands.
+  // How the window looks and where it is.
 
   [[nodiscard]] basic::Int16 Style_In_Force() const { return grid_.Style_In_Force(); }
+  /// The box style of the pack, whether it is in force or not.
+  [[nodiscard]] basic::Int16 Pack_Box_Style() const { return grid_.Pack_Box_Style(); }
 
   /// Lays the calendar out in a style, fits the captions to it and places the window again.
   void Restyle(basic::Int16 style);
+
+  [[nodiscard]] basic::Int16 Position_In_Force() const { return placement_.Number_In_Force(); }
+
+  /// Sets the desktop's picture; an empty path removes it.
+  void Set_Wallpaper(const std::string& path, basic::Int16 display_mode) {
+    wallpaper_.Set_Wallpaper(path, display_mode);
+  }
 
   /// Applies the picture of a pack for the present month and takes over its box style and position, if packs are on.
   /// The caller then has to lay out and place the window.
@@ -93,7 +103,7 @@ class Desk {
   void Start_Idle_Time() { compact_.Start_Idle_Time(); }
 
   void Follow_Active_State() { view_.Follow_Active_State(); }
-  void Follow_Idle_Time() { compact_.Auto_Compact_Check(edit_box_.Editor_Visible() || calls_.Settings_Visible()); }
+  void Follow_Idle_Time() { compact_.Auto_Compact_Check(edit_box_.Editor_Visible()); }
   void Follow_Work_Area() { placement_.RePosition(); }
   void Keep_Title() { view_.Keep_Title(); }
 

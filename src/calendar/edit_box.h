@@ -19,6 +19,7 @@ class Edit_Box {
   /// editor's text for it, provided that the editor is loaded and holds any.
   void Clear(basic::Int16 index);
 
+  [[nodiscard]] events::Day_Event Editor_Content() const { return editor_.Content(); }
   [[nodiscard]] bool Editor_Visible() const { return editor_.Window.Visible(); }
 
  private:

@@ -57,6 +57,8 @@ class Month_Grid {
   /// The box style in force: the setting's, or the pack's.
   [[nodiscard]] basic::Int16 Style_In_Force() const { return presentation::Style_In_Force(settings_, calendar_); }
 
+  [[nodiscard]] basic::Int16 Pack_Box_Style() const { return calendar_.Pack_Box_Style; }
+
   /// The box of the first day of the month on view, and the day of a box of that month.
   [[nodiscard]] basic::Int16 First_Box() const;
   [[nodiscard]] basic::Int16 Day_Of_Box(basic::Int16 box) const;

@@ -20,7 +20,8 @@ void Title_Text::Write() {
               presentation::Small_Style(settings_),
               settings_.Bar_Time,
               settings_.Bar_Time_Format,
-              settings_.Bar_Date_Format};
+              settings_.Bar_Date_Format,
+              text_};
 }
 
 void Title_Text::Keep_Written() {
@@ -31,7 +32,7 @@ bool Title_Text::Is_Written_For(const basic::Moment& now) const {
   return written_.Second == now.Seconds() && written_.Day == now.Day && written_.Month == calendar_.View_Month &&
          written_.Year == calendar_.View_Year && written_.Small == presentation::Small_Style(settings_) &&
          written_.Time == settings_.Bar_Time && written_.Time_Format == settings_.Bar_Time_Format &&
-         written_.Date_Format == settings_.Bar_Date_Format;
+         written_.Date_Format == settings_.Bar_Date_Format && main_frm_.Which_Month_Lbl.Caption == written_.Text;
 }
 
 const std::string& Title_Text::Get_Bar_Text(bool show_time, const std::string& time_format,

@@ -16,9 +16,9 @@ class Title_Text {
   /// Composes the text and writes it into the title.
   void Write();
 
-  /// Called on each tick: composes and writes the text if anything that it is made of has changed. To do so on all of
-  /// the ten ticks a second would be half of the idle calendar's work. A change of the locale is seen with the next
-  /// second.
+  /// Called on each tick: composes and writes the text if something else stands in the title, or if anything that it is
+  /// made of has changed. To do so on all of the ten ticks a second would be half of the idle calendar's work. A change
+  /// of the locale is seen with the next second.
   void Keep_Written();
 
   /// The title of the month on view, with or without the time, in the two formats. Valid until the next call.
@@ -42,7 +42,7 @@ class Title_Text {
     int Second = -1;
     basic::Int16 Month, Year;
     bool Small = false, Time = false;
-    std::string Time_Format, Date_Format;
+    std::string Time_Format, Date_Format, Text;
   } written_;
 };
 

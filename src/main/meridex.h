@@ -7,6 +7,7 @@
 #include "calendar/splash_frm.h"
 #include "calendar/start_up.h"
 #include "platform/system.h"
+#include "settings_window/settings_opener.h"
 
 class Meridex {
  public:
@@ -35,6 +36,7 @@ class Meridex {
   packs::Set_Wallpaper_Mod set_wallpaper_;
   packs::Pack_Lookup pack_lookup_;
   packs::Wallpaper_Stuff wallpaper_;
+  packs::Pack_Browser pack_browser_;
   events::Event_File event_file_;
 
   presentation::Main_Frm main_frm_;
@@ -58,4 +60,5 @@ class Meridex {
   calendar::Function_Keys function_keys_;
   calendar::Date_Watch date_watch_;
   calendar::Start_Up start_up_;
+  settings_window::Settings_Opener settings_opener_;
 };

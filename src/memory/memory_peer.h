@@ -27,6 +27,7 @@ class Memory_Peer : public toolkit::Form_Peer, public Memory_Window {
 
   /// Throws std::logic_error for a control of another window.
   void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override;
+  void Paint_Now() override {}
   void Set_Region(const toolkit::Region& region) override;
   void Set_Round_Region(int width, int height, int corner) override;
   [[nodiscard]] bool Minimised() const override { return minimised_; }

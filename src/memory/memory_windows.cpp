@@ -79,6 +79,8 @@ void Memory_Windows::Minimised(Memory_Window& peer, bool minimised) {
   const bool was_active = Active_Peer() == &peer;
   std::erase(activations_, &peer);
   if (!was_active) return;
+  // A disabled window doesn't become active instead: a window of another program does.
+  if (Active_Peer() != nullptr && !Active_Peer()->Form().Enabled) activations_.push_back(nullptr);
   Tell_Deactivated(&peer);
   Tell_Activated(Active_Peer());
 }

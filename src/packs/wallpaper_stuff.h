@@ -31,6 +31,11 @@ class Wallpaper_Stuff {
   /// again if it is on the desktop already. Fails as the one above.
   void Preview_Wallpaper_Stuff(const std::string& pack_name, basic::Int16 month);
 
+  /// Sets any picture; an empty path removes the picture.
+  void Set_Wallpaper(const std::string& path, basic::Int16 display_mode) {
+    wallpaper_.Set_Wallpaper(path, display_mode);
+  }
+
  private:
   void Take_Style_And_Position(const std::string& value);
   void Apply(const std::string& path, const std::string& value);

@@ -4,6 +4,7 @@
 #include "basic/int16.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
+#include "presentation/box_style.h"
 #include "presentation/main_frm.h"
 #include "settings/stored_settings.h"
 #include "state/calendar_state.h"
@@ -31,6 +32,7 @@ class Placement {
 
   /// The same with the position in force: the pack's or the setting's.
   void Position_In_Force();
+  [[nodiscard]] basic::Int16 Number_In_Force() const { return presentation::Position_In_Force(stored_.Values, calendar_); }
 
   /// Remembers the present work area. Throws error 6 if one of its four values is beyond 16 bits, in twips.
   void Set_Repos();

@@ -19,6 +19,13 @@ class Run_At_Startup {
   /// that can't be deleted stays where it is; an empty one is only deleted. Failures are silent.
   void Move_Run_Value();
 
+  /// Returns true if either hive has an entry, whatever its path; the text "BLANK" counts as none.
+  bool Run_Value_Is_There();
+
+  /// If `run`, leaves one entry, under the current user, with the path of the running executable; writes nothing if an
+  /// entry under the local machine can't be deleted. Otherwise deletes the entry from both hives. Failures are silent.
+  void Save_Run_Value(bool run);
+
  private:
   Registry& registry_;
   platform::Files& files_;

@@ -24,6 +24,7 @@ struct Calendar_State {
   bool Auto_Compacted = false;    ///< compact mode came from the idle timeout
   std::int64_t Timeout_Date = 0;  ///< when the idle timeout runs out, in whole seconds as Second_Count gives them
   bool Tip_Showing = false;       ///< a balloon is loaded
+  bool Settings_Visible = false;  ///< the settings window is open
 
   basic::Int16 Pack_Box_Style = 0;  ///< the box style that the wallpaper pack gives for this month
   basic::Int16 Pack_Pos = 0;        ///< the window position that it gives

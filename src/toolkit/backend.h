@@ -40,6 +40,9 @@ class Form_Peer {
   virtual void Form_Changed(Aspect aspect) = 0;
   virtual void Control_Changed(Control& control, Aspect aspect) = 0;
 
+  /// Paints what waits to be painted.
+  virtual void Paint_Now() = 0;
+
   /// Cuts the window to the region (in pixels from its top left) and repaints it.
   virtual void Set_Region(const Region& region) = 0;
 

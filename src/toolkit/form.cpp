@@ -59,12 +59,19 @@ void Form::Unload() {
   {
     const Flag_Set unloading(unloading_);
     if (On_Unload) On_Unload();
-    if (Owner != nullptr && Owner->Visible() && backend_.Active_Form() == this && !backend_.Input.Modal_Open())
+    Unload_Owned();
+    if (Owner != nullptr && Owner->Visible() && !Owner->unloading_ && backend_.Active_Form() == this &&
+        !backend_.Input.Modal_Open())
       Owner->Activate();
   }
   visible_ = false;
   backend_.Input.Remove(*this);
   peer_.reset();
+}
+
+void Form::Unload_Owned() const {
+  for (Form* const form : std::vector(backend_.Input.Forms()))
+    if (backend_.Input.Is_There(form) && form->Owner == this) form->Unload();
 }
 
 double Form::Client_Width() const {
@@ -90,6 +97,10 @@ void Form::Move(double left, double top) {
   Left.Keep(left);
   Top.Keep(top);
   Changed(Aspect::Bounds);
+}
+
+void Form::Refresh() const {
+  if (peer_ != nullptr) peer_->Paint_Now();
 }
 
 void Form::Set_Region(const Region& region) {

@@ -46,7 +46,8 @@ class Form : public Property_Owner, public Font_Properties {
   void Hide();
   [[nodiscard]] bool Visible() const { return visible_; }
 
-  /// Runs On_Unload and removes the window; does nothing if it isn't loaded, or inside its own On_Unload.
+  /// Runs On_Unload and removes the window, with the windows that it owns; does nothing if it isn't loaded, or inside its
+  /// own On_Unload.
   void Unload();
 
   /// The client area, in the present unit.
@@ -59,6 +60,9 @@ class Form : public Property_Owner, public Font_Properties {
 
   /// Sets Left and Top in one step.
   void Move(double left, double top);
+
+  /// Paints at once what has changed, before something that takes long.
+  void Refresh() const;
 
   void Set_Region(const Region& region);
   /// Cuts the window to a rectangle with rounded corners, in pixels.
@@ -114,6 +118,7 @@ class Form : public Property_Owner, public Font_Properties {
   void Remove(Control& control);
 
  private:
+  void Unload_Owned() const;
   [[nodiscard]] Font Own_Font() const;
   [[nodiscard]] Command_Button* Button_Marked(Property<bool> Command_Button::*mark) const;
   void Enter_Button_Changed(Control* button);

@@ -112,6 +112,8 @@ void Input::Take_Mouse() {
 }
 
 void Input::Activity_Came(Form& form) {
+  // The system gives the activity back to an owner whose own going takes the active window along.
+  if (form.Unloading()) return;
   if (form.Focused() == nullptr) Focus_Refused(form);
   else Move_Focus(form, form.Focused());
   if (told_active_ == &form || Modal_Open()) return;

@@ -42,9 +42,11 @@ constexpr std::array<unsigned short, 256> places = [] {
   return all;
 }();
 
-/// The same letter as a capital, for the accents: in this code page the small letters lie 32 above.
+/// The same letter as a capital, for the accents: in this code page most of the small letters lie 32 above.
 constexpr unsigned char Capital(unsigned char c) {
-  if (c >= 0xE0 && c != 0xF7 && c != 0xFF) return static_cast<unsigned char>(c - 0x20);
+  if (c == 0x9A || c == 0x9C || c == 0x9E) return static_cast<unsigned char>(c - 0x10);
+  if (c == 0xFF) return 0x9F;
+  if (c >= 0xE0 && c != 0xF7) return static_cast<unsigned char>(c - 0x20);
   return c >= 'a' && c <= 'z' ? static_cast<unsigned char>(c - 0x20) : c;
 }
 

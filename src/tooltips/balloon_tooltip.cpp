@@ -17,11 +17,16 @@ Balloons::Balloons(toolkit::Backend& backend, platform::Screen& screen, presenta
     : backend_(backend), screen_(screen), main_frm_(main_frm), calendar_(calendar), calls_(std::move(calls)) {}
 
 void Balloons::Balloon_Tooltip(const std::string& text, std::int32_t days) {
+  Show_Balloon(Balloon_Title(days), text, 0, 0, main_frm_.Window);
+}
+
+void Balloons::Show_Balloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
+                            toolkit::Form& owner) {
   Drop_Closed();
   // Shared: rebuilding the month may show a message box, under which this balloon may close and the next one drop it.
-  const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, main_frm_, calendar_, calls_);
+  const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, main_frm_, calendar_, calls_, &owner);
   balloons_.push_back(balloon);
-  balloon->SetBalloon(Balloon_Title(days), text, 0, 0, "i", "Tahoma, if exists", 8);
+  balloon->SetBalloon(title, text, left, top, "i", "Tahoma, if exists", 8);
   balloon->Show();
 }
 

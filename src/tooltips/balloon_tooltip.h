@@ -1,4 +1,4 @@
-// Opens balloons for day boxes, each with the day's distance from today as its title.
+// Opens balloons: for a day box, with the day's distance from today as its title, or at a given place.
 #pragma once
 
 #include <memory>
@@ -20,6 +20,11 @@ class Balloons {
   /// Opens a balloon for box Tip_Box with an event's text. The day of the box lies `days` days from today. Events may
   /// be served before the balloon is shown: the month is rebuilt first, which may show a message box.
   void Balloon_Tooltip(const std::string& text, std::int32_t days);
+
+  /// Opens a balloon at a place in twips on the screen, in front of `owner`. A 0 is replaced by the place beside
+  /// box Tip_Box.
+  void Show_Balloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
+                    toolkit::Form& owner);
 
   /// Closes every balloon that is open.
   void Unload_All();

@@ -21,11 +21,11 @@ constexpr double gap_above = 125;   // twips
 bool Tahoma_Exists(toolkit::Backend& backend) { return backend.Font_Given_For("Tahoma") == "Tahoma"; }
 
 Frm_Balloon::Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
-                         state::Calendar_State& calendar, const Balloon_Calls& calls)
-    : Window(backend, "frmBalloon", toolkit::Form_Border::None, &main_frm.Window), lblTitle(Window, "lblTitle"),
-      imgDisplayIcon(Window, "imgDisplayIcon"), imgIconXP(Window, "imgIconXP", 1), lblText(Window, "lblText"),
-      backend_(backend), screen_(screen), main_frm_(main_frm), calendar_(calendar), calls_(calls),
-      close_timer_(backend, "Close_Timer", close_interval) {
+                         state::Calendar_State& calendar, const Balloon_Calls& calls, toolkit::Form* owner)
+    : Window(backend, "frmBalloon", toolkit::Form_Border::None, owner != nullptr ? owner : &main_frm.Window),
+      lblTitle(Window, "lblTitle"), imgDisplayIcon(Window, "imgDisplayIcon"), imgIconXP(Window, "imgIconXP", 1),
+      lblText(Window, "lblText"), backend_(backend), screen_(screen), main_frm_(main_frm), calendar_(calendar),
+      calls_(calls), close_timer_(backend, "Close_Timer", close_interval) {
   Make_Controls();
   Tie_Events();
 }

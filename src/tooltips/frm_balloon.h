@@ -19,8 +19,9 @@ struct Balloon_Calls {
 
 class Frm_Balloon {
  public:
+  /// The balloon stays in front of `owner`; nullptr means the calendar's window.
   Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
-              state::Calendar_State& calendar, const Balloon_Calls& calls);
+              state::Calendar_State& calendar, const Balloon_Calls& calls, toolkit::Form* owner = nullptr);
   Frm_Balloon(const Frm_Balloon&) = delete;
   Frm_Balloon& operator=(const Frm_Balloon&) = delete;
   ~Frm_Balloon() = default;
@@ -31,10 +32,10 @@ class Frm_Balloon {
   toolkit::Control_Array<toolkit::Image> imgIconXP;  ///< the stock of icons, hidden
   toolkit::Label lblText;
 
-  /// Loads, fills, sizes and places the balloon; the caller shows it. `left` and `top` are twips on the screen, 0 for a
-  /// place beside box Tip_Box. The icon "i", in either letter case, is the information icon; any other text means none.
-  /// The font name "Tahoma, if exists" means Tahoma, or "MS Sans Serif" if the system has no Tahoma. `font_size` is in
-  /// points.
+  /// Loads, fills, sizes and places the balloon; the caller shows it. `left` and `top` are twips on the screen; a 0 is
+  /// replaced by the place beside box Tip_Box. The icon "i", in either letter case, is the information icon; any other
+  /// text means none. The font name "Tahoma, if exists" means Tahoma, or "MS Sans Serif" if the system has no Tahoma.
+  /// `font_size` is in points.
   void SetBalloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
                   const std::string& icon_type, const std::string& font_name, double font_size);
 

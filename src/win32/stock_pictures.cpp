@@ -18,12 +18,29 @@ int Resource_Number(platform::Stock_Picture picture) {
     case platform::Stock_Picture::File: return MERIDEX_FILE_BITMAP;
     case platform::Stock_Picture::Settings: return MERIDEX_SETTINGS_BITMAP;
     case platform::Stock_Picture::Exit: return MERIDEX_EXIT_BITMAP;
+    case platform::Stock_Picture::Monitor: return MERIDEX_MONITOR_ICON;
+    case platform::Stock_Picture::Small_Calendar: return MERIDEX_SMALL_CALENDAR_ICON;
+    case platform::Stock_Picture::Import_Data: return MERIDEX_IMPORT_DATA_ICON;
+    case platform::Stock_Picture::Import_Configuration: return MERIDEX_IMPORT_CONFIGURATION_ICON;
+    case platform::Stock_Picture::Import_Csv: return MERIDEX_IMPORT_CSV_ICON;
+    case platform::Stock_Picture::Export_Data: return MERIDEX_EXPORT_DATA_ICON;
+    case platform::Stock_Picture::Export_Configuration: return MERIDEX_EXPORT_CONFIGURATION_ICON;
+    case platform::Stock_Picture::Export_Text: return MERIDEX_EXPORT_TEXT_ICON;
+    case platform::Stock_Picture::Export_Csv: return MERIDEX_EXPORT_CSV_ICON;
   }
   return 0;
 }
 
+/// All but the menus' four.
 bool Is_Icon(platform::Stock_Picture picture) {
-  return picture == platform::Stock_Picture::Program_Icon || picture == platform::Stock_Picture::Information_Icon;
+  switch (picture) {
+    case platform::Stock_Picture::None:
+    case platform::Stock_Picture::Clear:
+    case platform::Stock_Picture::File:
+    case platform::Stock_Picture::Settings:
+    case platform::Stock_Picture::Exit: return false;
+    default: return true;
+  }
 }
 
 /// The picture's background has the colour of its corner: it gets the colour of the menus instead.

@@ -21,12 +21,14 @@ inline std::string In_Words(toolkit::Aspect aspect) {
     case toolkit::Aspect::Enabled: return "enabled";
     case toolkit::Aspect::Caption: return "caption";
     case toolkit::Aspect::Value: return "value";
+    case toolkit::Aspect::Items: return "items";
     case toolkit::Aspect::Appearance: return "appearance";
     case toolkit::Aspect::Tool_Tip: return "tool tip";
     case toolkit::Aspect::Selection: return "selection";
     case toolkit::Aspect::Default_Button: return "default button";
     case toolkit::Aspect::Held: return "held";
     case toolkit::Aspect::Pointer: return "pointer";
+    case toolkit::Aspect::Drag_Tip: return "drag tip";
   }
   return "?";
 }
@@ -60,6 +62,8 @@ class Fake_Backend : public toolkit::Backend {
     return axis == toolkit::Axis::Across ? 90 : 375;
   }
   double Screen_Size(toolkit::Axis axis) override { return axis == toolkit::Axis::Across ? 12000 : 9000; }
+
+  void Show_Busy(bool busy) override { Told.emplace_back(busy ? "busy" : "not busy"); }
 
   std::string Font_Given_For(const std::string& name) override { return name == "Absent" ? "Arial" : name; }
 
@@ -101,6 +105,7 @@ class Fake_Backend : public toolkit::Backend {
     void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override {
       backend_.Told.push_back(control.Name + ' ' + In_Words(aspect));
     }
+    void Paint_Now() override { backend_.Told.emplace_back("paint"); }
     void Set_Region(const toolkit::Region& region) override {
       backend_.Last_Region = region;
       backend_.Told.push_back("region of " + std::to_string(region.Rects().size()));

@@ -1,0 +1,38 @@
+// The colours to choose from, as one picture, and what is drawn of a colour in the strip below it.
+#pragma once
+
+#include <string>
+
+#include "platform/pictures.h"
+#include "toolkit/image.h"
+
+namespace settings_window {
+
+constexpr int palette_width = 99, palette_height = 50;  ///< pixels
+
+/// The colour of a pixel of the palette. From left to right all hues from red to red, between two columns of grey; from
+/// top to bottom from white to black.
+toolkit::Colour Palette_Colour(int x, int y);
+
+platform::Shared_Picture Make_Palette(platform::Pictures& pictures);
+
+/// How much red, green and blue a colour that is 0 or more has.
+struct Colour_Parts {
+  int Red = 0, Green = 0, Blue = 0;
+};
+
+Colour_Parts Split(toolkit::Colour colour);
+
+/// "#" and the parts as hexadecimal numbers. One that is all digits has two of them at least; a letter alone stays alone.
+std::string Hexadecimal_Form(toolkit::Colour colour);
+
+/// The parts as decimal numbers, joined by commas.
+std::string Decimal_Form(toolkit::Colour colour);
+
+/// Draws a ramp of 256 columns, each a pixel wide, from one colour to another; what doesn't find room is cut off.
+void Draw_Ramp(toolkit::Picture_Box& strip, toolkit::Colour from, toolkit::Colour to);
+
+/// Draws a line over the strip at two thirds of its height, and above it the ten marks of a ruler with their numbers below.
+void Draw_Ruler(toolkit::Picture_Box& strip);
+
+}  // namespace settings_window
