@@ -32,7 +32,9 @@ class Placement {
 
   /// The same with the position in force: the pack's or the setting's.
   void Position_In_Force();
-  [[nodiscard]] basic::Int16 Number_In_Force() const { return presentation::Position_In_Force(stored_.Values, calendar_); }
+  [[nodiscard]] basic::Int16 Number_In_Force() const {
+    return presentation::Position_In_Force(stored_.Values, calendar_);
+  }
 
   /// Remembers the present work area. Throws error 6 if one of its four values is beyond 16 bits, in twips.
   void Set_Repos();

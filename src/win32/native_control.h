@@ -42,8 +42,7 @@ class Native_Control {
   /// Shows a change that isn't of place, visibility or enabledness.
   virtual void Show(toolkit::Aspect aspect) = 0;
 
-  /// Called with each message before the system's control gets it. Returns true to keep it from the control. **A
-  /// handler may destroy this control: touch no member after calling one.**
+  /// A message to the system's control before it gets it. Returns true if it shall not.
   virtual bool Intercept(UINT /*message*/, WPARAM /*w*/, LPARAM /*l*/) { return false; }
 
   void Show_Font(const toolkit::Font_Properties& font);

@@ -6,7 +6,7 @@ namespace win32 {
 
 bool Native_Button::Intercept(UINT message, WPARAM w, LPARAM l) {
   if (message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return false;
-  // **A handler may destroy this control: touch no member after this call.**
+  // **The form may unload by this: touch no member after it.**
   Forward_To_Form(message, w, l);
   return message != WM_MOUSEMOVE;  // with a move the system paints the button under the pointer
 }

@@ -8,7 +8,7 @@
 
 namespace win32 {
 
-/// The system's buttons only paint: the form's input decides what the mouse and the keys do to them.
+/// The system's buttons only paint: what the mouse and the keys do to them is decided by the form's input.
 class Native_Button : public Native_Control {
  protected:
   using Native_Control::Native_Control;

@@ -4,7 +4,7 @@ namespace win32 {
 
 namespace {
 
-/// Selects an object into a context for as long as it lives.
+/// Has an object selected for as long as it lives.
 class Selection {
  public:
   Selection(HDC context, HGDIOBJ object) : context_(context), before_(SelectObject(context, object)) {}

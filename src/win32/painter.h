@@ -28,8 +28,8 @@ class Painter {
  public:
   Painter(Fonts& fonts, Stock_Pictures& pictures) : fonts_(fonts), pictures_(pictures) {}
 
-  /// Paints what lies in `area` (pixels), the part of the window that is to be shown; through a back buffer, so that no
-  /// half-painted window is seen.
+  /// Paints what of the window touches the area that `target` is to show; through a back buffer, so that nothing is
+  /// seen half done.
   void Paint(HDC target, const RECT& area, const RECT& client, const toolkit::Form& form,
              std::vector<Painted_Control>& controls);
 

@@ -19,7 +19,7 @@ class Stock_Pictures {
   /// Draws the picture, stretched to the place (pixels). Stock_Picture::None draws nothing.
   void Draw(HDC context, platform::Stock_Picture picture, const RECT& place);
 
-  /// A bitmap for a menu, with the menus' background; nullptr for an icon or none.
+  /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.
   HBITMAP Menu_Bitmap(platform::Stock_Picture picture);
 
  private:
