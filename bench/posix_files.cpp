@@ -59,4 +59,6 @@ bool Posix_Files::Folder_Exists(const std::string& path) { return access(Real_Pa
 
 std::vector<std::string> Posix_Files::File_Names(const std::string&) { return {}; }
 
+std::vector<std::string> Posix_Files::Folder_Names(const std::string&) { return {}; }
+
 }  // namespace bench

@@ -1,4 +1,4 @@
-// The table of all stored keys: section, name, default and the variable that each fills.
+// The table of all stored keys: section, name, default, and the variable that each one fills.
 #pragma once
 
 #include <span>

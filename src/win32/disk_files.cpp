@@ -94,7 +94,7 @@ void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
   const DWORD size = GetFileSize(file.Get(), nullptr);
   if (size > static_cast<DWORD>(std::numeric_limits<std::int32_t>::max()))
     throw Run_Error(Error_Number::Path_File_Access);
-  // Only what the buffer grows by is cleared first: it comes back with the size that it had.
+  // The buffer keeps its size from one reading to the next, so only what it grows by has to be cleared.
   buffer.resize(size);
   DWORD read = 0;
   if (ReadFile(file.Get(), buffer.data(), size, &read, nullptr) == 0) Throw_File_Error();
@@ -105,7 +105,7 @@ std::unique_ptr<basic::Output_File> Disk_Files::Create(const std::string& path) 
   return std::make_unique<Disk_Output>(Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS));
 }
 
-// The attributes are asked for by the exact path: unlike a search, that takes "*" and "?" for themselves.
+// Asks for the attributes of the path: a search would take "*" and "?" in it as wildcards.
 bool Disk_Files::File_Exists(const std::string& path) {
   const DWORD attributes = Attributes(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;

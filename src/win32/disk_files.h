@@ -23,7 +23,7 @@ class Disk_Files final : public platform::Files {
   std::string path_, folder_;
 };
 
-/// Throws the error that the last call of the system for a file ended with: 53, 70, 75 or 76.
+/// Throws error 53, 70, 75 or 76, for the reason why the system's last call for a file failed.
 [[noreturn]] void Throw_File_Error();
 
 }  // namespace win32

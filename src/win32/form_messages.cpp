@@ -1,4 +1,4 @@
-// What the system tells a window, decoded into the input functions of its form.
+// Decodes the system's messages to a window into calls of its form's input.
 #include <algorithm>
 
 #include "toolkit/input.h"
@@ -31,7 +31,7 @@ LRESULT CALLBACK Form_Window::Procedure(HWND window, UINT message, WPARAM w, LPA
   LRESULT result = 0;
   bool done = false;
   const bool whole = self->context_.Guard.Run([&] { done = self->Message(message, w, l, result); });
-  // A program that is ending lets nobody close its windows but itself.
+  // A program that is ending closes its windows itself.
   if (done || (!whole && message == WM_CLOSE)) return result;
   return DefWindowProcA(window, message, w, l);
 }
@@ -173,7 +173,8 @@ void Form_Window::Look_Changed(UINT message) {
 
 bool Form_Window::Active_Changed(bool active) {
   toolkit::Input& input = form_.System().Input;
-  // A form may unload by what it is told, which must not happen while the system is changing the active window.
+  // Posted, since the form's handler may unload it, which must not happen while the system is changing the active
+  // window.
   PostMessageA(Window(), tell_of_activity, 0, 0);
   if (active) {
     context_.Active = this;
@@ -185,7 +186,8 @@ bool Form_Window::Active_Changed(bool active) {
   return false;
 }
 
-/// A place that the user gave the window is the form's; one that the form gave it is kept to the fraction of a pixel.
+/// A place that the user chose is written to the form. A place that the form set stays there, with its fraction of a
+/// pixel.
 void Form_Window::Place_Changed(const WINDOWPOS& place) {
   if ((place.flags & SWP_NOMOVE) != 0 || IsIconic(Window()) != 0) return;
   if (place.x == place_.left && place.y == place_.top) return;
@@ -237,7 +239,7 @@ bool Form_Window::Take_Key(const MSG& message) {
   toolkit::Input& input = form_.System().Input;
   const int code = static_cast<int>(message.wParam);
   const toolkit::Key key{code, GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0, GetKeyState(VK_MENU) < 0};
-  // F10 is a key like the others: the system would look for a menu bar.
+  // F10 is used up here like any other key: the system would look for a menu bar.
   switch (message.message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:

@@ -26,13 +26,14 @@ HRGN Make_Region(const std::vector<toolkit::Pixel_Rect>& rects) {
   return ExtCreateRegion(nullptr, static_cast<DWORD>(bytes.size()), data);
 }
 
-/// A window without a frame has none: nobody sees it, and other instances look for this one by its title alone.
+/// A window without a frame gets no title: nobody would see it, and a newer instance that looks for this one by title
+/// must find its hidden window.
 const char* Title_Of(const toolkit::Form& form) {
   return form.Border == toolkit::Form_Border::None ? "" : form.Caption().c_str();
 }
 
-/// The window that this one stays in front of. The shell's window, to which the calendar belongs as a part of the desktop,
-/// isn't burdened with windows of ours.
+/// The window that this one stays in front of. The shell's window, to which the calendar belongs as a part of the
+/// desktop, never owns windows of ours.
 HWND Owner_Of(const toolkit::Form& form) {
   if (form.Owner == nullptr || !form.Owner->Loaded()) return nullptr;
   const HWND owner = To_Window(form.Owner->Handle());
@@ -118,7 +119,7 @@ void Form_Window::Hide() {
   ShowWindow(Window(), SW_HIDE);
 }
 
-// Below another program's window a press makes that one active, and gives it the keys, unless it is told otherwise.
+// Inside another program's window a press would make that window active and give it the keys.
 void Form_Window::Activate() {
   if (GetActiveWindow() != Window()) SetActiveWindow(Window());
   const HWND focus = GetFocus();
@@ -233,7 +234,7 @@ void Form_Window::Place_For_Return() const {
 
 void Form_Window::Settle_Region() {
   context_.Note_Pointer(form_.System().Input);
-  // From here on the region is the system's.
+  // From here on the system owns the region.
   SetWindowRgn(Window(), new_region_.Take(), TRUE);
   surface_.Repaint_All();
 }

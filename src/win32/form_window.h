@@ -13,7 +13,7 @@
 
 namespace win32 {
 
-/// The frame of a window of that border.
+/// The system's styles for a border.
 struct Frame_Style {
   DWORD Style, Extended;
 };
@@ -47,7 +47,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   [[nodiscard]] HWND Window() const override { return window_.Get(); }
   [[nodiscard]] toolkit::Form& Form() const override { return form_; }
 
-  /// Brings the window to where the form says, cuts it to its region and marks for painting what has changed.
+  /// Moves the window to where the form is, cuts it to its region and marks what has changed for painting.
   void Settle() override;
   bool Take_Key(const MSG& message) override;
 
@@ -55,8 +55,8 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   static void Register_Class(HINSTANCE instance);
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
 
-  // What a message means. Each returns true if the message is handled. **A handler may destroy this window: touch no member
-  // after calling one.**
+  // What a message means. Each returns true if the message is handled. **A handler may destroy this window: touch no
+  // member after calling one.**
   bool Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
   bool Mouse_Message(UINT message, WPARAM w, LPARAM l);
   bool Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);

@@ -7,7 +7,7 @@ namespace win32 {
 Native_Control::Native_Control(HWND parent, toolkit::Control& control, Window_Context& context)
     : parent_(parent), control_(control), context_(context), tip_(context.Common_Controls) {}
 
-// The window itself is destroyed with its parent, and is the plain system's again until then.
+// The window itself is destroyed with its parent. Until then it is the system's own control again.
 Native_Control::~Native_Control() {
   if (procedure_ == nullptr) return;
   SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure_));

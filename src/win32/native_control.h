@@ -1,5 +1,5 @@
-// A control that is a window of the system's own: it is made, shows what the control has become, and reports what it did.
-// One class for each kind derives from it; the form's window holds them all.
+// A control that is a window of the system's own: it is made, shows what the control has become, and reports what it
+// did. One class for each kind derives from it; the form's window holds them all.
 #pragma once
 
 #include <memory>
@@ -38,7 +38,7 @@ class Native_Control {
   [[nodiscard]] virtual bool Keeps_Keys() const { return false; }
 
  protected:
-  /// What the system makes the window of.
+  /// What the system makes the window from.
   struct Kind {
     const char* Class;
     DWORD Style, Extended;
@@ -69,7 +69,8 @@ class Native_Control {
   void Show_Font(const toolkit::Font_Properties& font);
   void Show_Text(const std::string& text);
 
-  /// A mouse message to this window, for the form's: its input takes the road of all controls.
+  /// Sends a mouse message of this window to the form's window, where its input takes the road of all controls. **A
+  /// handler may destroy this control: touch no member after this call.**
   void Forward_To_Form(UINT message, WPARAM w, LPARAM l) const;
 
   [[nodiscard]] Window_Context& Context() const { return context_; }
@@ -82,7 +83,7 @@ class Native_Control {
   const HWND parent_;
   toolkit::Control& control_;
   Window_Context& context_;
-  HWND window_ = nullptr;  // goes with its parent
+  HWND window_ = nullptr;  // destroyed with its parent
   WNDPROC procedure_ = nullptr;
   RECT place_{};
   Tip_Window tip_;

@@ -44,7 +44,7 @@ bool Is_Icon(platform::Stock_Picture picture) {
   }
 }
 
-/// The colour of the corner is the ground that the picture was drawn on: it becomes the menus' own.
+/// The picture's background has the colour of its corner: it gets the colour of the menus instead.
 void Put_On_Menu_Ground(HBITMAP bitmap) {
   DIBSECTION section = {};
   if (GetObjectA(bitmap, sizeof section, &section) != sizeof section || section.dsBm.bmBitsPixel != 24) return;

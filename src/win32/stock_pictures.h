@@ -16,7 +16,7 @@ class Stock_Pictures {
   /// The program's icon in one of its own sizes, for the frame of a window.
   HICON Frame_Icon(int width, int height);
 
-  /// Draws the picture, stretched to the place; none draws nothing.
+  /// Draws the picture, stretched to the place (pixels). Stock_Picture::None draws nothing.
   void Draw(HDC context, platform::Stock_Picture picture, const RECT& place);
 
   /// The picture's own size in pixels; that of an icon is the system's for icons. 0 by 0 for none.

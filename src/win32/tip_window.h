@@ -1,4 +1,4 @@
-// The tip of a window: one tool of the system's tip window, which lies over the control under the pointer.
+// The tip of a window: one tool of the system's tip window, which covers the control under the pointer.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ class Tip_Window {
   void Remove();
   [[nodiscard]] bool Watching() const { return watching_; }
 
-  /// Lets the tip window see a mouse message of its owner.
+  /// Passes a mouse message of the owner to the tip window.
   void Relay(HWND owner, UINT message, WPARAM w, LPARAM l) const;
 
  private:

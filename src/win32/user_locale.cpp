@@ -16,7 +16,7 @@ std::string Info(LCTYPE what) {
   return size > 0 ? std::string(text, static_cast<std::size_t>(size) - 1) : std::string();
 }
 
-/// Appends what the system makes of a day, by a flag or by a picture; nothing if it can't.
+/// Appends the day as the system writes it, by a flag or by a picture; appends nothing if it can't.
 void Append_By_System(std::string& to, const basic::Civil_Date& date, DWORD flags, const char* picture) {
   SYSTEMTIME day = {};
   day.wYear = static_cast<WORD>(date.Year);
@@ -27,7 +27,8 @@ void Append_By_System(std::string& to, const basic::Civil_Date& date, DWORD flag
   if (size > 0) to.append(text, static_cast<std::size_t>(size) - 1);
 }
 
-/// The picture with the year's pieces replaced by the digits of `year`, as text that stands for itself.
+/// The picture with the digits of `year` in place of its pieces for the year, in quotes so that they stand for
+/// themselves.
 std::string With_Year(std::string_view picture, int year) {
   std::string result;
   bool quoted = false;
@@ -48,8 +49,8 @@ std::string With_Year(std::string_view picture, int year) {
 }
 
 void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE picture) {
-  // The system's days begin in 1601. An earlier one is written as the same day of a later cycle of 400 years, of the
-  // same month and weekday, with its own year put in.
+  // The system's days begin in 1601. An earlier day is written as the same day some cycles of 400 years later, which
+  // has the same month and weekday, with its own year put in.
   constexpr int systems_first_year = 1601;
   basic::Civil_Date date = basic::Civil_From_Serial(day);
   if (date.Year >= systems_first_year) {

@@ -1,4 +1,4 @@
-// The user's locale, with what the user changed of it.
+// The user's locale, with the changes that the user made to it.
 #pragma once
 
 #include "platform/locale.h"

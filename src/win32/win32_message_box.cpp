@@ -28,7 +28,7 @@ UINT Flag_Of(platform::Box_Buttons buttons) {
   return MB_OK;
 }
 
-/// A box that could not be shown, or was taken away, has not been agreed to.
+/// A box that couldn't be shown, or was closed by the system, counts as not agreed to.
 platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
   using platform::Box_Answer;
   switch (result) {
@@ -41,15 +41,16 @@ platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
   return buttons == platform::Box_Buttons::Yes_No ? Box_Answer::No : Box_Answer::Cancel;
 }
 
-/// The window that a box belongs to, with which it would be destroyed: the active dialog or the calendar, never a window
-/// that closes by itself. The calendar is the program's first window.
+/// The window that owns a box, and would take it along when it is destroyed: the active dialog or the calendar, never a
+/// window that closes by itself. The calendar is the program's first window.
 const Program_Window* Owner_Of_Box(const Window_List& windows, const Program_Window* active) {
   if (active == nullptr || active->Form().Border != toolkit::Form_Border::None) return active;
   const Program_Window* const calendar = windows.All().front();
   return calendar->Form().Visible() ? calendar : nullptr;
 }
 
-/// The window that is active, and stays so to the program while its boxes are open: the first one notes it.
+/// Keeps the window that is active when a box opens the active one for the program, until that box has closed. Boxes
+/// that open over the first one change nothing.
 class Behind_Box {
  public:
   Behind_Box(Window_Context& context, Program_Window* active)
@@ -92,7 +93,7 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
   return Answer_Of(result, buttons);
 }
 
-/// The system hands the activity to the owner, and to nobody where that is disabled.
+/// The system activates the owner of a box that closes, and no window if the owner is disabled.
 void Win32_Message_Box::Give_Back_To(Program_Window* window) {
   const auto& all = context_.Windows.All();
   if (std::find(all.begin(), all.end(), window) == all.end()) return;

@@ -60,7 +60,7 @@ std::string Report_Of(const std::exception_ptr& failure) {
 }
 
 void Report(const std::exception_ptr& failure) {
-  // A box that finds the end of the program in the queue closes at once.
+  // A box closes at once if it finds the message to quit in the queue.
   MSG message;
   while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) continue;
   MessageBoxA(nullptr, Report_Of(failure).c_str(), "Meridex", MB_OK | MB_ICONHAND | MB_SETFOREGROUND | MB_TASKMODAL);

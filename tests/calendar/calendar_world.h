@@ -39,6 +39,9 @@ class Fake_Locale : public platform::Locale {
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override {
     to += basic::Format_Date({day, 0}, "<yyyy/mm/dd>", Names);
   }
+  basic::Serial_Day Read_Date(const std::string&) override {
+    throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
+  }
 };
 
 class Noting_Box : public platform::Message_Box {

@@ -21,6 +21,7 @@ class Fake_Files : public platform::Files {
   }
   bool Folder_Exists(const std::string& path) override { return Disk.Contents.count(path) != 0; }
   std::vector<std::string> File_Names(const std::string&) override { return {}; }
+  std::vector<std::string> Folder_Names(const std::string&) override { return {}; }
   void Delete(const std::string& path) override { Disk.Contents.erase(path); }
   std::string Program_Folder() override { return "C:\\Meridex"; }
   std::string Program_Path() override { return "C:\\Meridex\\Meridex.exe"; }
