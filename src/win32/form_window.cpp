@@ -132,6 +132,19 @@ bool Form_Window::Minimised() const { return IsIconic(Window()) != 0; }
 void Form_Window::Set_Minimised(bool minimised) {
   const int how = GetActiveWindow() == Window() ? SW_MINIMIZE : SW_SHOWMINNOACTIVE;
   ShowWindow(Window(), minimised ? how : SW_RESTORE);
+  // Not every system takes the activity from a window without a box for that.
+  if (minimised && GetActiveWindow() == Window()) SetActiveWindow(Next_Behind());
+}
+
+/// The next window of the program behind this one that the user can reach; nullptr if there is none.
+HWND Form_Window::Next_Behind() const {
+  const auto& windows = context_.Windows.All();
+  for (HWND next = GetWindow(Window(), GW_HWNDNEXT); next != nullptr; next = GetWindow(next, GW_HWNDNEXT)) {
+    const bool reachable = IsWindowVisible(next) != 0 && IsWindowEnabled(next) != 0 && IsIconic(next) == 0;
+    const auto is_next = [next](const Program_Window* window) { return window->Window() == next; };
+    if (reachable && std::any_of(windows.begin(), windows.end(), is_next)) return next;
+  }
+  return nullptr;
 }
 
 void Form_Window::Focus(toolkit::Control* control) {
@@ -181,8 +194,7 @@ void Form_Window::Set_Round_Region(int width, int height, int corner) {
 }
 
 void Form_Window::Settle() {
-  // A window that is an icon takes its new place when it comes back.
-  if (moved_ && !Minimised()) Settle_Place();
+  if (std::exchange(moved_, false)) Settle_Place();
   if (std::exchange(cut_, false)) Settle_Region();
   if (std::exchange(natives_changed_, false)) Settle_Natives();
   surface_.Settle();
@@ -193,7 +205,6 @@ void Form_Window::Settle_Natives() {
 }
 
 void Form_Window::Settle_Place() {
-  moved_ = false;
   const RECT wanted = Wanted_Place();
   if (EqualRect(&wanted, &place_) != 0) return;
   const bool same_size = wanted.right - wanted.left == place_.right - place_.left &&
@@ -201,9 +212,24 @@ void Form_Window::Settle_Place() {
   // An outline follows the size as a whole.
   if (!same_size && form_.Outline_Corner != 0) surface_.Repaint_All();
   place_ = wanted;
+  if (Minimised()) return Place_For_Return();
   context_.Note_Pointer(form_.System().Input);
   SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+/// A window that is an icon has its place when it comes back. The system counts that from the corner of the work area.
+void Form_Window::Place_For_Return() const {
+  WINDOWPLACEMENT placement = {};
+  placement.length = sizeof placement;
+  GetWindowPlacement(Window(), &placement);
+  placement.rcNormalPosition = place_;
+  RECT work_area = {};
+  if ((Style_Of(form_.Border).Extended & WS_EX_TOOLWINDOW) == 0)
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
+  OffsetRect(&placement.rcNormalPosition, -work_area.left, -work_area.top);
+  placement.showCmd = SW_SHOWMINNOACTIVE;
+  SetWindowPlacement(Window(), &placement);
 }
 
 void Form_Window::Settle_Region() {

@@ -71,6 +71,8 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
 
   [[nodiscard]] RECT Wanted_Place() const;
   void Settle_Place();
+  void Place_For_Return() const;
+  [[nodiscard]] HWND Next_Behind() const;
   void Settle_Region();
   void Settle_Natives();
   [[nodiscard]] Native_Control* Native(const toolkit::Control& control) const;

@@ -63,10 +63,13 @@ class Native_Combo_Box final : public Native_Item_List {
   void Show_Widest(int pixels) override;
   [[nodiscard]] RECT Wanted_Place() const override;
   void Show_Place() override;
-  [[nodiscard]] int Field_Height() const;
+  void Show_Height();
+  [[nodiscard]] int Closed_Height() const;
+  [[nodiscard]] int Wanted_Height() const;
 
-  int least_field_ = 0;   // pixels that a line of text takes in the closed box
-  int around_field_ = 0;  // pixels of the closed box beside that
+  // Of the closed box, in pixels.
+  int least_height_ = 0;  // so that its text isn't cut off
+  int around_field_ = 0;  // what its field doesn't count
 };
 
 }  // namespace win32
