@@ -23,7 +23,11 @@ class Colours_Tab_Test : public ::testing::Test, public Program_World {
   }
 
   void Open_Window() {
-    Platform.Loop.Dispatch([this] { Platform.User.Press_Key(*Window("Main_Frm"), {{toolkit::key_f8}, ""}); });
+    toolkit::Form& calendar = *Window("Main_Frm");
+    Platform.Loop.Dispatch([&] {
+      calendar.Activate();
+      Platform.User.Press_Key(calendar, {{toolkit::key_f8}, ""});
+    });
   }
 
   template <class Kind>
