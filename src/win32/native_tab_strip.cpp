@@ -29,12 +29,14 @@ void Native_Tab_Strip::Show_Selected() {
   if (Send(TCM_GETCURSEL) != place) Send(TCM_SETCURSEL, static_cast<WPARAM>(place));
 }
 
-/// The border of the page stays.
+/// The border of the page stays; of the ground that the system keeps inside it nothing does.
 void Native_Tab_Strip::Cut_Page_Out() {
   RECT all = {};
   GetClientRect(Window(), &all);
   RECT page = all;
   Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
+  constexpr int ground = 2;  // pixels
+  InflateRect(&page, ground, ground);
   const Region_Owner hole(CreateRectRgnIndirect(&page));
   Region_Owner rest(CreateRectRgnIndirect(&all));
   CombineRgn(rest.Get(), rest.Get(), hole.Get(), RGN_DIFF);
