@@ -91,7 +91,7 @@ class Settings_Visit(Desktop_Test):
         wait_for(lambda: desktop.stored(section, key) == value, f"{key} to be stored as {value}")
 
     def test_a_whole_visit_by_the_keys(self):
-        desktop, window = self.opened(events=["5/3/2004=Tea"])
+        desktop, window = self.opened(events=["9/3/2004=Tea"])
         keys = desktop.screen.key
         # The events: the other option shows the list.
         keys("Tab", "Up")
