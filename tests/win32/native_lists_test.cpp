@@ -95,7 +95,7 @@ TEST_F(Native_Lists, A_closed_drop_down_list_lies_in_the_middle_of_its_height_an
     EXPECT_EQ(closed.bottom - closed.top, natural) << "whatever is told, its text isn't cut off";
     POINT middle = {closed.left, (closed.top + closed.bottom) / 2};
     ScreenToClient(Handle(), &middle);
-    EXPECT_NEAR(middle.y, (Box.Top() + height / 2) / pixel, 1);
+    EXPECT_NEAR(middle.y, (Box.Top + height / 2) / pixel, 1);
   }
   const HWND box = Child("ComboBox");
   SendMessageA(box, CB_SHOWDROPDOWN, TRUE, 0);
