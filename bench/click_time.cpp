@@ -3,9 +3,9 @@
 // to the last change of the screen that followed it; or from F8, pressed after that, and Escape undoes it. Fails if there is
 // none within 3 seconds.
 #include <X11/Xlib.h>
-#include <X11/keysym.h>
 #include <X11/extensions/XTest.h>
 #include <X11/extensions/Xdamage.h>
+#include <X11/keysym.h>
 #include <poll.h>
 #include <unistd.h>
 

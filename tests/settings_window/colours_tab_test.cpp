@@ -23,7 +23,11 @@ class Colours_Tab_Test : public ::testing::Test, public Program_World {
   }
 
   void Open_Window() {
-    Platform.Loop.Dispatch([this] { Platform.User.Press_Key(*Window("Main_Frm"), {{toolkit::key_f8}, ""}); });
+    toolkit::Form& calendar = *Window("Main_Frm");
+    Platform.Loop.Dispatch([&] {
+      calendar.Activate();
+      Platform.User.Press_Key(calendar, {{toolkit::key_f8}, ""});
+    });
   }
 
   template <class Kind>
@@ -40,7 +44,7 @@ class Colours_Tab_Test : public ::testing::Test, public Program_World {
     Platform.Loop.Dispatch([&] { Platform.User.Move(palette.Window, &palette, event); });
   }
 
-  std::string Number() { return Get<toolkit::Text_Box>("txCol").Text; }
+  std::string Number() { return Get<toolkit::Text_Box>("txCol").Text(); }
 };
 
 constexpr const char* samples[] = {"Col_Today_Pic", "Col_Normal_Pic", "Col_Num_Pic",     "Col_Text_Pic",

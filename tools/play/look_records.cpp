@@ -47,7 +47,8 @@ void Play_Menus(World& world, const Words& /*words*/) {
 void Play_Dialogs(World& /*world*/, const Words& /*words*/) {}
 
 void Play_Launched(World& world, const Words& /*words*/) {
-  for (const std::string& address : world.Platform.Shell_Open.Take_Launched()) world.Print("launched " + Quoted(address));
+  for (const std::string& address : world.Platform.Shell_Open.Take_Launched())
+    world.Print("launched " + Quoted(address));
 }
 
 /// The path without the program folder, if it lies in that.
