@@ -5,20 +5,6 @@
 
 namespace {
 
-BOOL CALLBACK Find_Tip(HWND window, LPARAM found) {
-  char window_class[32] = "";
-  GetClassNameA(window, window_class, sizeof window_class);
-  if (lstrcmpiA(window_class, "tooltips_class32") != 0 || IsWindowVisible(window) == 0) return TRUE;
-  *reinterpret_cast<HWND*>(found) = window;
-  return FALSE;
-}
-
-HWND Shown_Tip() {
-  HWND tip = nullptr;
-  EnumThreadWindows(GetCurrentThreadId(), Find_Tip, reinterpret_cast<LPARAM>(&tip));
-  return tip;
-}
-
 class Drag_Tips : public Window_On_Screen {
  protected:
   Drag_Tips() {
