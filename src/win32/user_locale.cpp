@@ -62,7 +62,7 @@ void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE pict
   Append_By_System(to, date, 0, with_year.c_str());
 }
 
-basic::Date_Order Order() {
+basic::Date_Order Present_Order() {
   const std::string number = Info(LOCALE_IDATE);
   if (number == "0") return basic::Date_Order::Month_First;
   return number == "2" ? basic::Date_Order::Year_First : basic::Date_Order::Day_First;
@@ -98,6 +98,7 @@ User_Locale::User_Locale() {
   for (LCTYPE i = 0; i < 12; ++i) words_.Months[i] = Info(LOCALE_SMONTHNAME1 + i);
   words_.Date_Separator = Info(LOCALE_SDATE);
   words_.Time_Separator = Info(LOCALE_STIME);
+  order_ = Present_Order();
 }
 
 basic::Weekday User_Locale::First_Weekday() {
@@ -115,7 +116,7 @@ void User_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
 }
 
 basic::Serial_Day User_Locale::Read_Date(const std::string& text) {
-  auto day = basic::Read_Numeric_Date(text, Order());
+  auto day = basic::Read_Numeric_Date(text, order_);
   if (!day) day = Read_By_System(text);
   if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
   return *day;

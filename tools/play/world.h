@@ -28,6 +28,14 @@ class World {
 
   memory::Memory_Platform Platform;
 
+  /// The item of a list, or the tab, that the left button was pressed on last.
+  struct Item_Press {
+    const toolkit::Control* Control = nullptr;
+    int Item = 0;
+    bool operator==(const Item_Press&) const = default;
+  };
+  std::optional<Item_Press> Pressed_Item;
+
   /// The files for the file dialogs to come; nothing for a cancelled one.
   std::deque<std::optional<std::string>> Picks;
 
