@@ -219,8 +219,8 @@ bool Form_Window::Set_Pointer(HWND over, WORD part) const {
   return true;
 }
 
-/// The pointer of the form, or of the control, has changed: it is shown at once where it is over that. While the mouse is
-/// held the pointer is that of what changes it.
+/// The pointer of the form, or of the control, has changed: it is shown at once where it is over that. While the mouse
+/// is held the pointer is that of what changes it.
 void Form_Window::Show_Pointer(const toolkit::Control* changed) const {
   if (context_.Pointers.Busy()) return;
   if (changed != nullptr && GetCapture() == Window()) return context_.Pointers.Show(Pointer_Over(changed));
