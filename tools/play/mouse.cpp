@@ -155,9 +155,8 @@ void Play_Click(World& world, const Words& words) {
 void Play_Double_Click(World& world, const Words& words) {
   const auto target = Reach(world, words[0]);
   if (!target) return;
-  Gesture(world,
-          {[&] { Press(world, *target, left_click); }, [&] { Release(world, *target, left_click); },
-           [&] { Press(world, *target, left_click, true); }, [&] { Release(world, *target, left_click); }})
+  Gesture(world, {[&] { Press(world, *target, left_click); }, [&] { Release(world, *target, left_click); },
+                  [&] { Press(world, *target, left_click, true); }, [&] { Release(world, *target, left_click); }})
       .Play();
 }
 

@@ -137,8 +137,7 @@ std::string List_Item(const Target& target, const std::string& property) {
 /// The caption of a tab.
 std::string Tab_Text(const Target& target, const Tab_Strip& strip, const std::string& property) {
   const auto place = static_cast<std::size_t>(*target.Item) - 1;
-  if (property != "Caption" || place >= strip.Captions.size())
-    throw Cannot_Play(target.Name + " has no " + property);
+  if (property != "Caption" || place >= strip.Captions.size()) throw Cannot_Play(target.Name + " has no " + property);
   return Quoted(strip.Captions[place]);
 }
 
