@@ -143,6 +143,7 @@ bool Form_Window::Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& resul
     default:
       result = reinterpret_cast<LRESULT>(Ground());
       SetBkColor(reinterpret_cast<HDC>(w), ground_colour_);
+      SetTextColor(reinterpret_cast<HDC>(w), To_Colour(form_.ForeColor));
       return true;
   }
 }
