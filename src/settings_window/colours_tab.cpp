@@ -73,7 +73,7 @@ Colours_Tab::Colours_Tab(toolkit::Frame& page, calendar::Desk& desk, settings::S
   Make_Samples();
   Make_Title_Row_Frame();
   Make_Palette_Frame();
-  Pal.Loaded = Make_Palette(pictures);
+  Pal.Loaded = Make_Palette(pictures, page.Window.System());
   Make_Miniature();
   Default_Cols_Btn.Place({1665, 3420, 1560, 345});
   Default_Cols_Btn.Caption = "Restore Defaults";

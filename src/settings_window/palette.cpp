@@ -67,8 +67,14 @@ toolkit::Colour Palette_Colour(int x, int y) {
   return toolkit::Rgb(part(red_place), part(green_place), part(blue_place));
 }
 
-platform::Shared_Picture Make_Palette(platform::Pictures& pictures) {
-  return pictures.Make(palette_width, palette_height, Palette_Colour);
+platform::Shared_Picture Make_Palette(platform::Pictures& pictures, toolkit::Backend& backend) {
+  constexpr double usual_twips = 15;  // a pixel at 96 dots an inch
+  const int across =
+      toolkit::Round_To_Even(palette_width * usual_twips / backend.Twips_Per_Pixel(toolkit::Axis::Across));
+  const int down = toolkit::Round_To_Even(palette_height * usual_twips / backend.Twips_Per_Pixel(toolkit::Axis::Down));
+  return pictures.Make(across, down, [=](int x, int y) {
+    return Palette_Colour(x * palette_width / across, y * palette_height / down);
+  });
 }
 
 Colour_Parts Split(toolkit::Colour colour) {

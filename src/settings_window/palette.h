@@ -4,17 +4,19 @@
 #include <string>
 
 #include "platform/pictures.h"
+#include "toolkit/backend.h"
 #include "toolkit/image.h"
 
 namespace settings_window {
 
-constexpr int palette_width = 99, palette_height = 50;  ///< pixels
+constexpr int palette_width = 99, palette_height = 50;  ///< pixels at 96 dots an inch
 
 /// The colour of a pixel of the palette. From left to right all hues from red to red, between two columns of grey; from
 /// top to bottom from white to black.
 toolkit::Colour Palette_Colour(int x, int y);
 
-platform::Shared_Picture Make_Palette(platform::Pictures& pictures);
+/// The palette in the same twips on every screen: 99 by 50 pixels at 96 dots an inch.
+platform::Shared_Picture Make_Palette(platform::Pictures& pictures, toolkit::Backend& backend);
 
 /// How much red, green and blue a colour that is 0 or more has.
 struct Colour_Parts {

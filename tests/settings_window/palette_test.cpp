@@ -74,7 +74,7 @@ TEST(Palette_Test, Runs_from_red_over_green_and_blue_back_to_red) {
 
 TEST(Palette_Test, Is_made_as_a_picture_of_99_by_50_pixels) {
   memory::Memory_Platform platform;
-  const platform::Shared_Picture picture = settings_window::Make_Palette(platform.Pictures);
+  const platform::Shared_Picture picture = settings_window::Make_Palette(platform.Pictures, platform.Backend());
   EXPECT_EQ(picture->Width(), 99);
   EXPECT_EQ(picture->Height(), 50);
   EXPECT_EQ(picture->Pixel(98, 0), 16777215);
