@@ -26,7 +26,11 @@ class Memory_Backend : public toolkit::Backend {
   double Frame_Size(toolkit::Form_Border /*border*/, toolkit::Axis /*axis*/) override { return 0; }
   double Screen_Size(toolkit::Axis axis) override;
 
-  void Show_Busy(bool busy) override { busy_ = busy; }
+  void Show_Busy(bool busy) override {
+    if (busy) ++times_busy_;
+    busy_ = busy;
+  }
+  [[nodiscard]] int Times_Busy() const { return times_busy_; }
   [[nodiscard]] bool Busy() const { return busy_; }
 
   /// Every font exists.
@@ -51,6 +55,7 @@ class Memory_Backend : public toolkit::Backend {
   platform::Screen& screen_;
   double character_width_ = 90;
   bool busy_ = false;
+  int times_busy_ = 0;
   platform::Window_Handle last_handle_;
   std::map<toolkit::Timer*, Virtual_Time::Ticket> ticking_;
 };

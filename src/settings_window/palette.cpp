@@ -67,14 +67,20 @@ toolkit::Colour Palette_Colour(int x, int y) {
   return toolkit::Rgb(part(red_place), part(green_place), part(blue_place));
 }
 
+platform::Shared_Picture Make_Palette(platform::Pictures& pictures, int width, int height) {
+  // The outermost pixels stay the outermost.
+  return pictures.Make(width, height, [=](int x, int y) {
+    return Palette_Colour(Rounded(x * (palette_width - 1), width - 1), Rounded(y * (palette_height - 1), height - 1));
+  });
+}
+
 platform::Shared_Picture Make_Palette(platform::Pictures& pictures, toolkit::Backend& backend) {
   constexpr double usual_twips = 15;  // a pixel at 96 dots an inch
-  const int across =
-      toolkit::Round_To_Even(palette_width * usual_twips / backend.Twips_Per_Pixel(toolkit::Axis::Across));
-  const int down = toolkit::Round_To_Even(palette_height * usual_twips / backend.Twips_Per_Pixel(toolkit::Axis::Down));
-  return pictures.Make(across, down, [=](int x, int y) {
-    return Palette_Colour(x * palette_width / across, y * palette_height / down);
-  });
+  const auto pixels = [&](int usual, toolkit::Axis axis) {
+    return toolkit::Round_To_Even(usual * usual_twips / backend.Twips_Per_Pixel(axis));
+  };
+  return Make_Palette(pictures, pixels(palette_width, toolkit::Axis::Across),
+                      pixels(palette_height, toolkit::Axis::Down));
 }
 
 Colour_Parts Split(toolkit::Colour colour) {

@@ -15,6 +15,9 @@ constexpr int palette_width = 99, palette_height = 50;  ///< pixels at 96 dots a
 /// top to bottom from white to black.
 toolkit::Colour Palette_Colour(int x, int y);
 
+/// The palette in so many pixels, at least two each way.
+platform::Shared_Picture Make_Palette(platform::Pictures& pictures, int width, int height);
+
 /// The palette in the same twips on every screen: 99 by 50 pixels at 96 dots an inch.
 platform::Shared_Picture Make_Palette(platform::Pictures& pictures, toolkit::Backend& backend);
 

@@ -100,14 +100,14 @@ void Settings_Frm::Activate() {
   Wallpaper.Load_Theme_Checks();
 }
 
-void Settings_Frm::Position_Frames() {
+void Settings_Frm::Position_Frames() const {
   for (int i = 0; i < Settings_Fra.Count(); ++i) {
     Settings_Fra[i].Left = 225;
     Settings_Fra[i].Top = 765;
   }
 }
 
-void Settings_Frm::None_Vis() {
+void Settings_Frm::None_Vis() const {
   for (int i = 0; i < Settings_Fra.Count(); ++i) Settings_Fra[i].Visible = false;
 }
 

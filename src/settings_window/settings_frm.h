@@ -62,8 +62,8 @@ class Settings_Frm {
   void Load();
   void Activate();
   void Unload();
-  void Position_Frames();
-  void None_Vis();
+  void Position_Frames() const;
+  void None_Vis() const;
   [[nodiscard]] int Which_Tab() const { return TabStrip1.Selected; }
   void Show_Page();
 

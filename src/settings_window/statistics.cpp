@@ -51,7 +51,7 @@ void Statistics::Place_Controls() {
   Yearview_Fra.Place({0, 2010, 5145, 1830});
   Yearview_Fra.Caption = "Events this Year";
   for (int i = 0; i < Month_Count_Lbl.Count(); ++i)
-    Month_Count_Lbl[i].Place({225.0 + 1620 * (i / rows), 360.0 + 360 * (i % rows), 1485, 195});
+    Month_Count_Lbl[i].Place({225.0 + 1620.0 * static_cast<double>(i / rows), 360.0 + 360 * (i % rows), 1485, 195});
 }
 
 void Statistics::Write_Month_Titles() { month_titles_ = titles_of_months; }
@@ -61,11 +61,13 @@ void Statistics::Get_Stats() {
   Load_Dates();
 }
 
-void Statistics::Reset_Vars() { counters_ = {}; }
-
 /// All lines are counted in one moment.
-void Statistics::Load_Dates() {
+void Statistics::Reset_Vars() {
+  counters_ = {};
   today_ = dates_.Present_Day();
+}
+
+void Statistics::Load_Dates() {
   if (event_file_.Load_Dates([this](std::string_view line) { Workout_Stats(line); })) Write_Labels();
 }
 

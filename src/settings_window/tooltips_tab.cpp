@@ -103,7 +103,7 @@ void Tooltips_Tab::Explain(int index) {
   TipsNotes_Lbl.Caption = texts.Notes;
 }
 
-void Tooltips_Tab::Show_Choice(basic::Int16 index) {
+void Tooltips_Tab::Show_Choice(basic::Int16 index) const {
   if (index >= 0 && index < Tips_Opt.Count()) Tips_Opt[index].Value = true;
 }
 

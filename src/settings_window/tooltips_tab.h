@@ -24,7 +24,7 @@ class Tooltips_Tab {
   toolkit::Label TipsNotes_Lbl;
 
   /// Turns an option on, and explains it where it was off; a number that no option has turns none on.
-  void Show_Choice(basic::Int16 index);
+  void Show_Choice(basic::Int16 index) const;
 
   /// The number of the option that is on.
   [[nodiscard]] basic::Int16 Choice() const;

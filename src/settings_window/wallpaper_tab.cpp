@@ -41,9 +41,9 @@ void Wallpaper_Tab::Tie_Events() {
   Page.Theme_Use_Chk.On_Click = [this] { Theme_Use_Chk_Click(); };
   toolkit::Slider& slider = Page.Preview_Sli;
   slider.On_Mouse_Down = [this](const toolkit::Mouse_Event& /*event*/) {
-    Old_Preview_Month = Page.Preview_Sli.Value();
+    old_preview_month_ = Page.Preview_Sli.Value();
   };
-  slider.On_Key_Down = [this] { Old_Preview_Month = Page.Preview_Sli.Value(); };
+  slider.On_Key_Down = [this] { old_preview_month_ = Page.Preview_Sli.Value(); };
   slider.On_Scroll = [this] { Page.Preview_Sli.Text = Month_Name(Page.Preview_Sli.Value); };
   slider.On_Change = [this] { Preview_Sli_Change(); };
 }
@@ -113,7 +113,7 @@ void Wallpaper_Tab::Refresh() {
 }
 
 void Wallpaper_Tab::Preview_Sli_Change() {
-  if (Old_Preview_Month != Page.Preview_Sli.Value()) Refresh();
+  if (old_preview_month_ != Page.Preview_Sli.Value()) Refresh();
 }
 
 void Wallpaper_Tab::Packs_Cbo_Click() {
@@ -124,7 +124,7 @@ void Wallpaper_Tab::Packs_Cbo_Click() {
   if (!Check_Vaild()) return;
   const int month = Present_Month();
   Page.Preview_Sli.Value = month;
-  Old_Preview_Month = 0;
+  old_preview_month_ = 0;
   Refresh();
   if (!Page.Packs_Cbo.Enabled) return;
   Style.Style_Preview();

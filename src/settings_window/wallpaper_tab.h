@@ -52,7 +52,7 @@ class Wallpaper_Tab {
   settings::Stored_Settings& stored_;
   packs::Pack_Lookup& packs_;
   const calendar::Dates& dates_;
-  basic::Int16 Old_Preview_Month = 0;  // the slider's month when the user took hold of it
+  basic::Int16 old_preview_month_ = 0;  // the slider's month when the user took hold of it
 };
 
 }  // namespace settings_window

@@ -62,7 +62,7 @@ void Option_Button::Go_To_Next(bool backwards) {
   if (backwards) std::reverse(group.begin(), group.end());
   auto next = std::find(group.begin(), group.end(), this) + 1;
   if (next == group.end()) next = group.begin();
-  Go_To(**next);
+  if (*next != this) Go_To(**next);
 }
 
 /// The options of the group that can have the focus, with this one.
@@ -73,8 +73,7 @@ std::vector<Option_Button*> Option_Button::Group_In_Reach() const {
 }
 
 void Option_Button::Go_To(Option_Button& option) {
-  if (&option == this) return;
-  Window.System().Input.Move_Focus(Window, &option);
+  if (&option != this) Window.System().Input.Move_Focus(Window, &option);
   option.Value = true;
 }
 

@@ -49,12 +49,20 @@ void Native_Slider::Show_Tip() {
 bool Native_Slider::Intercept(UINT message, WPARAM /*w*/, LPARAM /*l*/) {
   constexpr UINT wheel = 0x020A;  // WM_MOUSEWHEEL, of the newer systems: it would move the thumb behind our back
   if (message == wheel) return true;
-  if (message != WM_LBUTTONDOWN) return false;
-  held_ = true;
-  SetFocus(Window());
-  Show_Tip();
-  slider_.User_Press();
-  return false;
+  const bool left = message == WM_LBUTTONDOWN;
+  if (!left && message != WM_RBUTTONDOWN && message != WM_MBUTTONDOWN) return false;
+  // The window hears first that it is active, and may hide the slider by it, or go itself.
+  toolkit::Input& input = slider_.Window.System().Input;
+  toolkit::Form& form = slider_.Window;
+  toolkit::Slider& slider = slider_;
+  form.Set_Focus(slider);
+  if (!input.Is_There(&form, &slider) || !slider.On_View() || !slider.Usable()) return true;
+  if (left) {
+    held_ = true;
+    Show_Tip();
+  }
+  slider.User_Press();
+  return !input.Is_There(&form, &slider);
 }
 
 void Native_Slider::Scrolled(WORD code) {

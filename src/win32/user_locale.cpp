@@ -98,7 +98,6 @@ User_Locale::User_Locale() {
   for (LCTYPE i = 0; i < 12; ++i) words_.Months[i] = Info(LOCALE_SMONTHNAME1 + i);
   words_.Date_Separator = Info(LOCALE_SDATE);
   words_.Time_Separator = Info(LOCALE_STIME);
-  order_ = Present_Order();
 }
 
 basic::Weekday User_Locale::First_Weekday() {
@@ -115,8 +114,20 @@ void User_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
   Append_Day(to, day, DATE_LONGDATE, LOCALE_SLONGDATE);
 }
 
+/// Thousands of dates are read in a row: the system is asked once in a second.
+basic::Date_Order User_Locale::Order() {
+  constexpr DWORD a_second = 1000;  // milliseconds
+  const DWORD now = GetTickCount();
+  if (!asked_ || now - asked_at_ >= a_second) {
+    order_ = Present_Order();
+    asked_ = true;
+    asked_at_ = now;
+  }
+  return order_;
+}
+
 basic::Serial_Day User_Locale::Read_Date(const std::string& text) {
-  auto day = basic::Read_Numeric_Date(text, order_);
+  auto day = basic::Read_Numeric_Date(text, Order());
   if (!day) day = Read_By_System(text);
   if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
   return *day;

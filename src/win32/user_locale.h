@@ -17,8 +17,12 @@ class User_Locale final : public platform::Locale {
   basic::Serial_Day Read_Date(const std::string& text) override;
 
  private:
+  basic::Date_Order Order();
+
   basic::Date_Words words_;
   basic::Date_Order order_ = basic::Date_Order::Day_First;
+  bool asked_ = false;
+  unsigned long asked_at_ = 0;  // milliseconds since the system's start
 };
 
 }  // namespace win32

@@ -99,6 +99,7 @@ TEST_F(Colours_Tab_Test, With_Shift_the_strip_shows_a_ramp_from_black_and_a_rule
   EXPECT_EQ(strip.Drawing()[256].Mode, toolkit::Draw_Mode::Invert);
   EXPECT_EQ(strip.BackColor(), colour);
   EXPECT_EQ(Number(), std::to_string(colour));
+  EXPECT_EQ(Platform.Windows_And_Timers.Times_Busy(), 1);
   EXPECT_FALSE(Platform.Windows_And_Timers.Busy());
 }
 

@@ -151,3 +151,21 @@ TEST_F(Strip_Test, A_ruler_inverts_what_it_lies_on_and_numbers_all_marks_but_the
   }
   for (const auto& drawn : Strip.Drawing()) EXPECT_EQ(drawn.Mode, Draw_Mode::Invert);
 }
+
+TEST(Palette, Keeps_its_outermost_rows_and_columns_in_every_size) {
+  memory::Memory_Platform platform;
+  for (const auto& [width, height] : {std::pair(74, 38), std::pair(149, 75), std::pair(198, 100)}) {
+    const platform::Shared_Picture picture = settings_window::Make_Palette(platform.Pictures, width, height);
+    ASSERT_EQ(picture->Width(), width);
+    ASSERT_EQ(picture->Height(), height);
+    for (int x = 0; x < width; ++x) {
+      EXPECT_EQ(picture->Pixel(x, 0), 16777215);
+      EXPECT_EQ(picture->Pixel(x, height - 1), 0);
+    }
+    for (const int x : {0, width - 1}) {
+      const int colour = picture->Pixel(x, height / 3);
+      EXPECT_EQ(colour & 0xFF, colour >> 16) << "grey";
+      EXPECT_EQ(colour & 0xFF, colour >> 8 & 0xFF);
+    }
+  }
+}

@@ -171,6 +171,9 @@ TEST_F(Option_Button_Test, Home_and_End_and_the_pages_go_to_the_ends_of_the_grou
   EXPECT_TRUE(Three.Key_Down({toolkit::key_page_up}));
   EXPECT_EQ(Focus(), "Two");
   EXPECT_EQ(Take_Clicked(), (Words{"Three on", "One on", "Three on", "Two on"}));
+  Two.Value = false;
+  EXPECT_TRUE(Two.Key_Down({toolkit::key_home}));
+  EXPECT_EQ(Take_Clicked(), (Words{"Two on"})) << "one that has the focus and is off";
 }
 
 TEST_F(Option_Button_Test, The_mouse_holds_it_and_turns_it_on_before_the_release_is_told) {
