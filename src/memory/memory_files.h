@@ -25,6 +25,8 @@ class Memory_Files : public platform::Files {
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  basic::Moment Last_Change(const std::string& path) override;
   std::string Program_Folder() override;
   std::string Program_Path() override;
 
@@ -38,9 +40,6 @@ class Memory_Files : public platform::Files {
   /// The file's bytes; nothing if no file is there.
   [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const;
 
-  /// The moment of the file's last writing, or of the folder's making. Throws error 53 if nothing is there.
-  [[nodiscard]] basic::Moment Last_Change(const std::string& path) const;
-
   /// Makes a folder with those above it. Throws error 75 if a file stands in the way.
   void Make_Folder(const std::string& path);
 
@@ -50,7 +49,8 @@ class Memory_Files : public platform::Files {
   /// Puts a folder in the file's place, so that the path can't be opened: error 75.
   void Block(const std::string& path);
 
-  /// From here on the file, made if it isn't there, opens and is emptied by it, but takes no bytes.
+  /// From here on the file, made if it isn't there, opens and is emptied by it, but takes no bytes. A copy over it finds the
+  /// room that it has now.
   void Fill_Up(const std::string& path);
 
   struct Listed {
@@ -69,6 +69,7 @@ class Memory_Files : public platform::Files {
     basic::Moment Changed;
     bool Is_Folder = false;
     bool Full = false;
+    std::size_t Room = 0;  // for a copy over a full one
     int Writers = 0;  // open for writing that often
   };
 

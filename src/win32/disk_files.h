@@ -15,6 +15,8 @@ class Disk_Files final : public platform::Files {
   bool Folder_Exists(const std::string& path) override;
   std::vector<std::string> File_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  basic::Moment Last_Change(const std::string& path) override;
   std::string Program_Folder() override { return folder_; }
   std::string Program_Path() override { return path_; }
 
@@ -22,7 +24,7 @@ class Disk_Files final : public platform::Files {
   std::string path_, folder_;
 };
 
-/// Throws the error that the last call of the system for a file ended with: 53, 70, 75 or 76.
+/// Throws the error that the last call of the system for a file ended with: 53, 61, 70, 75 or 76.
 [[noreturn]] void Throw_File_Error();
 
 }  // namespace win32

@@ -76,6 +76,13 @@ basic::Weekday User_Locale::First_Weekday() {
   return static_cast<basic::Weekday>(number[0] - '0' + static_cast<int>(basic::Weekday::Monday));
 }
 
+void User_Locale::Append_General_Date(std::string& to, const basic::Moment& moment) {
+  Append_Short_Date(to, moment.Day);
+  if (moment.Seconds() == 0) return;
+  to += ' ';
+  Append_Time(to, moment);
+}
+
 void User_Locale::Append_Short_Date(std::string& to, basic::Serial_Day day) {
   Append_Day(to, day, DATE_SHORTDATE, LOCALE_SSHORTDATE);
 }
