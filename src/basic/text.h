@@ -13,7 +13,9 @@ std::string_view Trim_Blanks(std::string_view text);
 /// Equal without regard to the case of the letters a to z.
 bool Same_Letters(std::string_view a, std::string_view b);
 
+/// The letters a to z alone change.
 std::string Upper_Case(std::string_view text);
+std::string Lower_Case(std::string_view text);
 
 /// Every `what` (not empty) of the text becomes `with`, from left to right, nothing looked at twice.
 std::string Replace_All(std::string_view text, std::string_view what, std::string_view with);

@@ -30,6 +30,8 @@ class Desk {
   void Show_Present_Month();
   void Refresh_Calendar() { view_.Refresh_Calendar(); }
   void Rebuild_Month() { view_.Redraw_Grid(); }
+  /// The same without the weekday headers.
+  void Rebuild_Boxes() { view_.Redraw_Boxes(); }
   /// Title and grid, if the window isn't shrunk to its title.
   void Refresh_Unless_Compact();
 

@@ -33,6 +33,8 @@ class Month_View {
 
   /// The grid of the month on view, without the title and whatever the mode.
   void Redraw_Grid();
+  /// The same, and the weekday headers stay as they are.
+  void Redraw_Boxes();
 
   /// Reads the event file into the grid, and raises the alert if it is due.
   void Load_Dates();

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "basic/run_error.h"
-#include "win32/handle.h"
 
 namespace win32 {
 
@@ -37,12 +36,13 @@ basic::Moment Moment_Of_System_Time(const SYSTEMTIME& time) {
 
 }  // namespace
 
-basic::Moment Moment_Of_Text(const std::string& text) {
-  using Reader = HRESULT WINAPI(const wchar_t*, LCID, ULONG, double*);
-  const Library_Owner automation(LoadLibraryA("oleaut32.dll"));
-  const auto read = Find_Function<Reader>(automation.Get(), "VarDateFromStr");
+basic::Moment Automation_Dates::Moment_Of_Text(const std::string& text) {
+  if (!automation_) {
+    automation_.Reset(LoadLibraryA("oleaut32.dll"));
+    read_ = Find_Function<Reader>(automation_.Get(), "VarDateFromStr");
+  }
   double number = 0;
-  if (read == nullptr || FAILED(read(Wide(text).c_str(), LOCALE_USER_DEFAULT, 0, &number)))
+  if (read_ == nullptr || FAILED(read_(Wide(text).c_str(), LOCALE_USER_DEFAULT, 0, &number)))
     throw Run_Error(Error_Number::Type_Mismatch);
   return Moment_Of_Number(number);
 }

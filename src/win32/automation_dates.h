@@ -4,11 +4,22 @@
 #include <string>
 
 #include "basic/serial_day.h"
+#include "win32/handle.h"
 
 namespace win32 {
 
-/// Throws error 13 for a text that is no date or time, or where the system has no automation.
-basic::Moment Moment_Of_Text(const std::string& text);
+/// Loads the automation when it is first needed, and keeps it: an import reads thousands of dates.
+class Automation_Dates {
+ public:
+  /// Throws error 13 for a text that is no date or time, or where the system has no automation.
+  basic::Moment Moment_Of_Text(const std::string& text);
+
+ private:
+  using Reader = HRESULT WINAPI(const wchar_t*, LCID, ULONG, double*);
+
+  Library_Owner automation_;
+  Reader* read_ = nullptr;
+};
 
 /// The moment of a file's last change. Throws error 53 if it isn't there.
 basic::Moment Moment_Of_Last_Change(const std::string& path);

@@ -13,12 +13,13 @@ class User_Locale final : public platform::Locale {
   const basic::Date_Words& Words() override { return words_; }
   basic::Weekday First_Weekday() override;
   void Append_General_Date(std::string& to, const basic::Moment& moment) override;
-  basic::Moment Read_Moment(const std::string& text) override { return Moment_Of_Text(text); }
+  basic::Moment Read_Moment(const std::string& text) override { return automation_.Moment_Of_Text(text); }
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
 
  private:
   basic::Date_Words words_;
+  Automation_Dates automation_;
 };
 
 }  // namespace win32
