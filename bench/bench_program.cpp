@@ -20,8 +20,8 @@ void Watched_Backend::Start_Timer(toolkit::Timer& timer) {
 Bench_Program::Bench_Program(platform::Files& files) : program_(backend_, System_With(files)) {
   program_.Start();
   window_ = backend_.Windows.Find("Main_Frm");
-  next_ = Find_Control("Next_Month_Lbl");
-  previous_ = Find_Control("Prev_Month_Lbl");
+  next_ = Find_Control(window_, "Next_Month_Lbl");
+  previous_ = Find_Control(window_, "Prev_Month_Lbl");
   if (next_ == nullptr || previous_ == nullptr || backend_.Date_Timer == nullptr)
     throw std::runtime_error("the program didn't start");
   Play(time_to_rest);
@@ -38,13 +38,27 @@ platform::System Bench_Program::System_With(platform::Files& files) {
   platform_.Time.Set_Now({basic::Date_Serial(2004, 3, 5), nine_in_the_morning});
   platform_.Begin_Program();
   const platform::System all = platform_.System();
-  return {all.Clock,  all.Locale,    files,     all.Loop,     all.Message_Box, all.Popup_Menu, all.Store,
-          all.Screen, all.Instances, all.Shell, all.Registry, all.Profiles,    all.Wallpaper,  all.Pictures};
+  return {all.Clock,      all.Locale,   files,         all.Loop,      all.Message_Box,
+          all.Popup_Menu, all.Store,    all.Screen,    all.Instances, all.Shell,
+          all.Registry,   all.Profiles, all.Wallpaper, all.Pictures,  all.Shell_Open};
 }
 
-toolkit::Control* Bench_Program::Find_Control(const char* name) const {
-  if (window_ == nullptr) return nullptr;
-  const auto& controls = window_->Controls();
+void Bench_Program::Open_Settings() {
+  window_->On_Key_Up(toolkit::key_f8);
+  const toolkit::Form* const settings = backend_.Windows.Find("Settings_Frm");
+  overview_ = Find_Control(settings, "Overview_Opt");
+  events_ = dynamic_cast<toolkit::List_Box*>(Find_Control(settings, "Events_Lst"));
+  if (overview_ == nullptr || events_ == nullptr) throw std::runtime_error("the settings window didn't open");
+}
+
+int Bench_Program::Sort_Events() {
+  overview_->On_Click();
+  return events_->ListCount();
+}
+
+toolkit::Control* Bench_Program::Find_Control(const toolkit::Form* window, const char* name) {
+  if (window == nullptr) return nullptr;
+  const auto& controls = window->Controls();
   const auto found = std::find_if(controls.begin(), controls.end(), [&](const auto* c) { return c->Name == name; });
   return found == controls.end() ? nullptr : *found;
 }

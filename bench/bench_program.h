@@ -4,6 +4,7 @@
 
 #include "main/meridex.h"
 #include "memory/memory_platform.h"
+#include "toolkit/item_list.h"
 
 namespace bench {
 
@@ -39,11 +40,16 @@ class Bench_Program {
   /// The in-memory message box remembers what it showed, such as the alerts of a new day.
   void Forget_Messages() { platform_.Message_Box.Take_Shown(); }
 
+  /// Opens the settings window by its key.
+  void Open_Settings();
+  /// Fills the list of all events, in their order; returns how many entries it has. The settings window must be open.
+  int Sort_Events();
+
   /// How many boxes of the month on view show an event.
   [[nodiscard]] int Boxes_With_Events() const;
 
  private:
-  [[nodiscard]] toolkit::Control* Find_Control(const char* name) const;
+  static toolkit::Control* Find_Control(const toolkit::Form* window, const char* name);
   platform::System System_With(platform::Files& files);
 
   memory::Memory_Platform platform_;
@@ -52,6 +58,8 @@ class Bench_Program {
   toolkit::Form* window_ = nullptr;
   toolkit::Control* next_ = nullptr;
   toolkit::Control* previous_ = nullptr;
+  toolkit::Control* overview_ = nullptr;
+  toolkit::List_Box* events_ = nullptr;
 };
 
 }  // namespace bench

@@ -1,9 +1,11 @@
-// How long after a mouse button the screen is as it will stay: bench_click_time press|release X Y [X Y]...
+// How long after a mouse button the screen is as it will stay: bench_click_time press|release|f8 X Y [X Y]...
 // Presses and releases the left button at each place, and prints for each the milliseconds from the press or the release
-// to the last change of the screen that followed it. Fails if there is none within 3 seconds.
+// to the last change of the screen that followed it; or from F8, pressed after that, and Escape undoes it. Fails if there is
+// none within 3 seconds.
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #include <X11/extensions/Xdamage.h>
+#include <X11/keysym.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -58,11 +60,32 @@ void Button(Display* display, bool down) {
   XFlush(display);
 }
 
+void Key(Display* display, KeySym key) {
+  const KeyCode code = XKeysymToKeycode(display, key);
+  XTestFakeKeyEvent(display, code, True, CurrentTime);
+  XTestFakeKeyEvent(display, code, False, CurrentTime);
+  XFlush(display);
+}
+
+/// From F8 on to the window that it opens; Escape closes that again.
+double Open_By_F8(Display* display, Screen_Watch& watch) {
+  Button(display, true);
+  Button(display, false);
+  watch.Last_Change(Clock::now() - std::chrono::milliseconds(2500));
+  const auto start = Clock::now();
+  Key(display, XK_F8);
+  const double passed = watch.Last_Change(start);
+  Key(display, XK_Escape);
+  watch.Last_Change(Clock::now() - std::chrono::milliseconds(2500));
+  return passed;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   if (count < 4 || count % 2 != 0) return 2;
   const bool from_press = std::string_view(arguments[1]) == "press";
+  const bool by_f8 = std::string_view(arguments[1]) == "f8";
   Display* const display = XOpenDisplay(nullptr);
   if (display == nullptr) return 2;
   Screen_Watch watch(display);
@@ -71,9 +94,11 @@ int main(int count, char** arguments) {
     XSync(display, False);
     watch.Last_Change(Clock::now() - std::chrono::milliseconds(2500));  // what the pointer itself changes
     auto start = Clock::now();
-    Button(display, true);
+    if (!by_f8) Button(display, true);
     double passed = 0;
-    if (from_press) {
+    if (by_f8) {
+      passed = Open_By_F8(display, watch);
+    } else if (from_press) {
       passed = watch.Last_Change(start);
       Button(display, false);
     } else {

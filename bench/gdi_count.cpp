@@ -1,5 +1,7 @@
 // How many GDI objects the calendar holds before and after a thousand month changes: bench_gdi_count.exe X Y
 // X and Y are the middle of its arrow, in pixels of its window. Prints the two numbers.
+// The same before and after two hundred openings of the settings window, with all handles of the process:
+// bench_gdi_count.exe settings
 #include <windows.h>
 #include <winternl.h>
 
@@ -82,10 +84,53 @@ void Change_Months(HWND window, LPARAM arrow, int count) {
   Sleep(1000);
 }
 
+constexpr int openings = 200;
+
+HWND Settings_Window() { return FindWindowA("Meridex_Form", "Meridex Settings"); }
+
+/// Waits at most ten seconds until the window is there, or gone.
+bool Wait_For_Settings(bool there) {
+  for (int i = 0; i < 2000; ++i) {
+    const HWND window = Settings_Window();
+    if ((window != nullptr && IsWindowVisible(window) != 0) == there) return true;
+    Sleep(5);
+  }
+  return false;
+}
+
+/// Opens the window by its key, lets it paint, and closes it by its close box, so many times.
+bool Open_Settings(HWND calendar, int times) {
+  for (int i = 0; i < times; ++i) {
+    PostMessageA(calendar, WM_KEYDOWN, VK_F8, 0);
+    PostMessageA(calendar, WM_KEYUP, VK_F8, 0);
+    if (!Wait_For_Settings(true)) return false;
+    const HWND window = Settings_Window();
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    PostMessageA(window, WM_CLOSE, 0, 0);
+    if (!Wait_For_Settings(false)) return false;
+  }
+  Sleep(1000);
+  return true;
+}
+
+int Count_Openings(HWND calendar, HANDLE process) {
+  constexpr int first_openings = 20;
+  DWORD handles_before = 0, handles_after = 0;
+  if (!Open_Settings(calendar, first_openings)) return 1;
+  const int before = Count_Objects(process);
+  GetProcessHandleCount(process, &handles_before);
+  if (!Open_Settings(calendar, openings)) return 1;
+  GetProcessHandleCount(process, &handles_after);
+  std::printf("before %d\nafter %d\nhandles_before %lu\nhandles_after %lu\n", before, Count_Objects(process),
+              handles_before, handles_after);
+  return 0;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (count != 3) return 2;
+  const bool of_settings = count == 2 && std::strcmp(arguments[1], "settings") == 0;
+  if (count != 3 && !of_settings) return 2;
   if (!Count_Is_Sound()) {
     std::puts("GDI objects can't be counted here");
     return 1;
@@ -98,6 +143,7 @@ int main(int count, char** arguments) {
     return 1;
   }
   const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, id);
+  if (of_settings) return Count_Openings(window, process);
   const LPARAM arrow = MAKELPARAM(std::atoi(arguments[1]), std::atoi(arguments[2]));
   Change_Months(window, arrow, warm_up);
   const int before = Count_Objects(process);

@@ -6,13 +6,13 @@
 #include <cstdio>
 #include <exception>
 
-#include "win32/jpeg_pictures.h"
+#include "win32/system_pictures.h"
 
 int main(int count, char** arguments) {
   ReleaseDC(nullptr, GetDC(nullptr));
   if (count != 3) return 0;
   try {
-    win32::Jpeg_Pictures().Convert_To_Bitmap(arguments[1], arguments[2]);
+    win32::System_Pictures().Convert_To_Bitmap(arguments[1], arguments[2]);
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "bench_jpeg: %s\n", error.what());

@@ -44,6 +44,13 @@ def tick(programs, data):
     ]
 
 
+def overview(programs, data):
+    run = google_benchmark(programs / "bench_overview", data / "32767", "--benchmark_repetitions=3")["Sort_And_Show"]
+    if run["entries"] != 32767:
+        raise RuntimeError("the list of all events isn't whole")
+    return [Figure("All events sorted and listed, 32,767", nanoseconds(run) / 1e6, "ms", 150)]
+
+
 def month_print(programs, data, rounds):
     own = [programs / "bench_month_print", data / "32767/calendar.dat", 3, 2004]
     peer = ["gcal", "-H", "no", "-u", f"-f{data / '32767/events.gcal'}", "-cm", "%20040301"]

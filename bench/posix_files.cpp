@@ -50,6 +50,10 @@ std::unique_ptr<basic::Output_File> Posix_Files::Create(const std::string&) {
 
 void Posix_Files::Delete(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
+void Posix_Files::Copy(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
+basic::Moment Posix_Files::Last_Change(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
 bool Posix_Files::File_Exists(const std::string& path) {
   struct stat about {};
   return stat(Real_Path(path).c_str(), &about) == 0 && S_ISREG(about.st_mode);
@@ -58,5 +62,7 @@ bool Posix_Files::File_Exists(const std::string& path) {
 bool Posix_Files::Folder_Exists(const std::string& path) { return access(Real_Path(path).c_str(), F_OK) == 0; }
 
 std::vector<std::string> Posix_Files::File_Names(const std::string&) { return {}; }
+
+std::vector<std::string> Posix_Files::Folder_Names(const std::string&) { return {}; }
 
 }  // namespace bench

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Measures everything and prints the table: run.py [--quick] [GROUP]...; scripts/bench.sh builds what it needs.
 
-The groups: native, size, months, start, idle, screen, jpeg. The exit status is 1 if a goal isn't reached.
+The groups: native, size, months, start, idle, screen, settings, jpeg. The exit status is 1 if a goal isn't reached.
 """
 import argparse
 import datetime
@@ -29,6 +29,7 @@ def make_data():
 def measure(group, quick):
     if group == "native":
         return (native.month_change(PROGRAMS, DATA, 9 if quick else 21) + native.tick(PROGRAMS, DATA) +
+                native.overview(PROGRAMS, DATA) +
                 native.month_print(PROGRAMS, DATA, 15 if quick else 41))
     if group == "size":
         return wine.size()
@@ -40,10 +41,12 @@ def measure(group, quick):
         return wine.idle(DATA, 15 if quick else 60) + wine.idle_display(DATA, 10)
     if group == "screen":
         return wine.on_screen(DATA, PROGRAMS, 4 if quick else 10)
+    if group == "settings":
+        return wine.settings_window(DATA, PROGRAMS, 4 if quick else 10)
     return wine.jpeg(DATA, 3 if quick else 9)
 
 
-GROUPS = ["native", "size", "months", "start", "idle", "screen", "jpeg"]
+GROUPS = ["native", "size", "months", "start", "idle", "screen", "settings", "jpeg"]
 
 
 def main():

@@ -186,6 +186,24 @@ def on_screen(data, programs, rounds):
     ]
 
 
+def settings_window(data, programs, rounds):
+    """The opening of the settings window on a full store, and the handles that openings leave behind."""
+    events = (data / "32767/calendar.dat").read_bytes()
+    with contextlib.closing(Desktop(data=events)) as desktop:
+        desktop.started()
+        header = desktop.on_screen(desktop.layout().header_rect(0))
+        opening = click_times(desktop, programs, "f8", [(header.left + 4, header.top + 4)] * rounds)
+        status, counted = desktop.prefix.run(tool("bench_gdi_count"), "settings", seconds=240)
+        if status != 0:
+            raise RuntimeError("the openings weren't counted: " + counted.decode("ascii"))
+        number = {key: int(value) for key, value in (line.split() for line in counted.decode("ascii").splitlines())}
+    return [
+        Figure("Wine: settings window on screen, after F8", opening, "ms", 400),
+        Figure("Wine: GDI objects gained by 200 openings", number["after"] - number["before"], "", 0),
+        Figure("Wine: handles gained by 200 openings", number["handles_after"] - number["handles_before"], "", 0),
+    ]
+
+
 def tool(name):
     return f"Z:{TOOLS}/{name}.exe".replace("/", "\\")
 

@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::int64_t beyond_any_type = std::int64_t{1} << 40;
 
-/// The number of a text of digits after an optional sign; numbers beyond 40 bits come back as 2 to the power of 40.
+/// The number in a text of digits after an optional sign. A number that is larger than 2 to the power of 40 comes back
+/// as that power, with its sign. Throws error 13 if the text isn't a number.
 std::int64_t Number_Of_Digits(std::string_view text) {
   text = Trim_Blanks(text);
   const bool negative = !text.empty() && text.front() == '-';

@@ -9,13 +9,13 @@
 
 namespace basic {
 
-/// A whole number in decimal, with a sign or without; blanks around it don't count. Throws error 13 if the text is no
-/// such number (an empty text isn't one) and error 6 if the number doesn't fit the type.
+/// Reads a decimal whole number with an optional sign; blanks around it are ignored. Throws error 13 if the text isn't
+/// such a number (an empty text isn't one) and error 6 if the number doesn't fit the type.
 Int16 To_Int16(std::string_view text);
 std::int32_t To_Int32(std::string_view text);
 
-/// "True" or "False" in any case, or a whole number, of which 0 alone is false. Throws error 13 for any other text and
-/// error 6 for a number outside 32 bits.
+/// Reads "True" or "False" in any letter case, or a whole number: 0 is false, any other is true. Throws error 13 for
+/// any other text and error 6 for a number outside 32 bits.
 bool To_Boolean(std::string_view text);
 
 std::string To_Text(std::int32_t number);

@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::string_view half_day_mark = "AM/PM";
 constexpr std::string_view piece_letters = "dmyHhs";
+constexpr int noon = 12 * 3600;  // seconds since midnight
 
 /// Renders one pattern, piece by piece.
 class Renderer {
@@ -19,7 +20,7 @@ class Renderer {
   void Render() {
     while (!pattern_.empty()) {
       if (pattern_.starts_with(half_day_mark)) {
-        to_ += seconds_ < 43200 ? "AM" : "PM";
+        to_ += seconds_ < noon ? "AM" : "PM";
         pattern_.remove_prefix(half_day_mark.size());
         continue;
       }
@@ -30,7 +31,7 @@ class Renderer {
   }
 
  private:
-  /// How many of the next characters make one piece: letters of the pieces go by runs, all others one by one.
+  /// The length of the next piece: a run of one of the piece letters, or any other single character.
   [[nodiscard]] std::size_t Piece_Length() const {
     if (piece_letters.find(pattern_.front()) == std::string_view::npos) return 1;
     const std::size_t end = pattern_.find_first_not_of(pattern_.front());
@@ -40,16 +41,16 @@ class Renderer {
   void Render_Piece(std::string_view piece) {
     if (piece == "H" || piece == "h" || piece == "HH" || piece == "hh") {
       Append_Number(to_, Hour(), static_cast<int>(piece.size()));
-      behind_hour_ = true;
+      after_hour_ = true;
       return;
     }
     if (piece == ":") {
       to_ += words_.Time_Separator;
       return;
     }
-    if (piece == "mm" && behind_hour_) Append_Number(to_, seconds_ / 60 % 60, 2);
+    if (piece == "mm" && after_hour_) Append_Number(to_, seconds_ / 60 % 60, 2);
     else Render_Other(piece);
-    behind_hour_ = false;
+    after_hour_ = false;
   }
 
   void Render_Other(std::string_view piece) {
@@ -76,7 +77,7 @@ class Renderer {
   Civil_Date date_;
   int seconds_;
   bool half_days_;
-  bool behind_hour_ = false;
+  bool after_hour_ = false;
 };
 
 }  // namespace

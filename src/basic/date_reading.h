@@ -8,13 +8,15 @@
 
 namespace basic {
 
-/// The order of day, month and year that a locale reads and writes.
+/// The order in which a locale reads and writes day, month and year.
 enum class Date_Order { Month_First, Day_First, Year_First };
 
-/// The day that three numbers joined by "/", "." or "-" name, blanks around them don't count; nothing where there is no
-/// such day. What can't be in the locale's order is taken in another: a number of four digits or above 31 in front is the
-/// year, day and month change places where the month would be above 12, and a locale that writes the year first reads a day
-/// in front. Years of one or two digits are those from 1930 to 2029.
+/// Reads a day from three numbers joined by "/", "." or "-"; blanks around the text are ignored. Returns nothing if
+/// there is no such day in the years 100 to 9999. Years of one or two digits are those from 1930 to 2029.
+///
+/// Numbers that can't be in the locale's order are read in another one. A first number above 31, or of more than two
+/// digits, is the year, followed by month and day. If a locale writes the year first and the last number has more than
+/// two digits, the day comes first. If the month would be above 12, day and month change places.
 std::optional<Serial_Day> Read_Numeric_Date(std::string_view text, Date_Order order);
 
 }  // namespace basic

@@ -1,7 +1,8 @@
 // The one file number through which the calendar reads and writes all its text files.
 //
-// A procedure opens it, works and closes it. One that fails after a successful open leaves it taken, and from then on
-// every open fails, until the program is started again: the files are safe from a program that has lost its way.
+// A procedure opens it, works and closes it. A procedure that fails after a successful open leaves the number taken:
+// from then on every open fails until the program is started again, so that a program in an unknown state can't harm
+// the files.
 #pragma once
 
 #include <memory>
@@ -13,7 +14,7 @@
 
 namespace basic {
 
-/// A file that is being written. It is closed when it goes.
+/// A file that is open for writing. The destructor closes it.
 class Output_File {
  public:
   Output_File() = default;
@@ -21,22 +22,22 @@ class Output_File {
   Output_File& operator=(const Output_File&) = delete;
   virtual ~Output_File() = default;
 
-  /// Writes at the end; gives the number of bytes that found room, fewer than asked for when the disk is full.
+  /// Appends the bytes. Returns how many were written: fewer than given if the disk is full.
   virtual std::size_t Write(std::string_view bytes) = 0;
 
   /// Cuts the file to its first `size` bytes; a failure is silent.
   virtual void Cut(std::size_t size) = 0;
 };
 
-/// What the channel needs of the disk.
+/// What the channel needs from the disk.
 class Disk {
  public:
   virtual ~Disk() = default;
 
-  /// Reads the whole file in place of what the buffer holds. Throws error 53, 70, 75 or 76.
+  /// Replaces the contents of the buffer with the whole file. Throws error 53, 70, 75 or 76.
   virtual void Read_Whole(const std::string& path, std::string& buffer) = 0;
 
-  /// Empties the file or makes it. Throws error 70, 75 or 76.
+  /// Opens the file for writing: empties it, or creates it. Throws error 70, 75 or 76.
   virtual std::unique_ptr<Output_File> Create(const std::string& path) = 0;
 };
 
@@ -44,15 +45,16 @@ class File_Channel {
  public:
   explicit File_Channel(Disk& disk) : disk_(disk) {}
 
-  /// Reads the file whole and takes the number. The bytes stay until the next opening. Throws error 55 while the number
-  /// is taken, and what the disk throws; the number is free then as before.
+  /// Reads the whole file and takes the number. The bytes are valid until the next open. Throws error 55 if the number
+  /// is taken, and what the disk throws; a failed open doesn't take the number.
   std::string_view Open_For_Reading(const std::string& path);
 
-  /// Empties the file or makes it, and takes the number. Throws as above.
+  /// Empties or creates the file and takes the number. Throws the same errors.
   void Open_For_Writing(const std::string& path);
 
-  /// Adds a record: the line in double quotes, and CR LF. Throws error 61 on a full disk, and the file then ends after
-  /// the last record that found room.
+  /// Appends a record: the line in double quotes, then CR LF. Throws error 61 if the disk is full; the file then ends
+  /// after the last record that fitted. The error may come only with a later record or from Close, since records are
+  /// gathered.
   void Write_Record(std::string_view line);
 
   /// Adds a line as it stands, and CR LF. Throws as above.
@@ -65,7 +67,8 @@ class File_Channel {
   /// something was still to be written.
   void Go_Back_To(std::size_t size);
 
-  /// Writes what is still to be written and frees the number. Throws error 61, and the number stays taken.
+  /// Writes the records that still wait and frees the number. Throws error 61 if the disk is full; the number then
+  /// stays taken.
   void Close();
 
   /// Frees the number whatever has failed before; does nothing while it is free.
@@ -85,7 +88,7 @@ class File_Channel {
   std::string buffer_;                    // the file being read, or the records that wait to be written
   std::vector<std::size_t> record_ends_;  // where each of the waiting records ends in the buffer
   std::unique_ptr<Output_File> output_;
-  std::size_t written_ = 0;  // bytes that the file holds already
+  std::size_t written_ = 0;  // bytes written to the file so far
 };
 
 }  // namespace basic

@@ -14,7 +14,7 @@ namespace basic {
 
 namespace {
 
-/// A bit for each of sixteen bytes: set where it is the one that the sample consists of.
+/// One bit for each of sixteen bytes, the first byte's lowest: set if the byte equals the sample's.
 std::uint64_t Hits_In_16(const char* at, __m128i sample) {
   const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
   return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, sample)));

@@ -1,6 +1,6 @@
-// A signed 16-bit number that never wraps: what doesn't fit it is error 6. The calendar's counters, positions and most
-// of its settings are of this type, and what a user sees of it is that a value too large ends the program instead of
-// showing a wrong date.
+// A signed 16-bit number that never wraps: a value that doesn't fit throws error 6. The calendar's counters, positions
+// and most of its settings have this type, so a value that is too large ends the program instead of showing a wrong
+// date.
 #pragma once
 
 #include <compare>
@@ -12,7 +12,7 @@
 
 namespace basic {
 
-/// Whole numbers, and the unscoped enumerations that name some of them.
+/// Whole numbers and unscoped enumerations.
 template <class T>
 concept Whole_Number = std::convertible_to<T, std::int64_t> &&(std::integral<T> || std::is_enum_v<T>);
 

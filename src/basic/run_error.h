@@ -1,5 +1,5 @@
-// The one error of the program: a number and its description, as the report at the program's end shows them. A
-// procedure that has a failure path catches it there, whole; nothing else does.
+// The one error of the program: a number and its description, which the report at the program's end shows. A procedure
+// with a failure path of its own catches it there; an error that none of them catches ends the program.
 #pragma once
 
 #include <exception>

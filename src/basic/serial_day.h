@@ -15,17 +15,17 @@ constexpr Serial_Day first_day = -657434;
 constexpr Serial_Day last_day = 2958465;
 
 struct Civil_Date {
-  int Year = 1899;
-  int Month = 12;  ///< 1 to 12
-  int Day = 30;    ///< 1 to 31
+  int Year = 1899;  ///< 100 to 9999
+  int Month = 12;   ///< 1 to 12
+  int Day = 30;     ///< 1 to 31
 
   friend bool operator==(const Civil_Date&, const Civil_Date&) = default;
 };
 
 enum class Weekday { Sunday = 1, Monday, Tuesday, Wednesday, Thursday, Friday, Saturday };
 
-/// The serial day of a date of which the month and the day may run over or under: month 13 is January of the next year,
-/// day 0 the last of the month before. Throws error 5 if the day that results lies outside first_day to last_day.
+/// The serial day of a date. Month and day may lie outside their ranges: month 13 is January of the next year, day 0
+/// the last day of the month before. Throws error 5 if the resulting day lies outside first_day to last_day.
 Serial_Day Date_Serial(int year, int month, int day);
 
 /// The date of a day from first_day to last_day.
@@ -48,7 +48,7 @@ struct Moment {
   friend bool operator==(const Moment&, const Moment&) = default;
 };
 
-/// Whole seconds since day 0, the fraction of the last dropped: what differences between moments are taken of.
+/// Whole seconds since day 0, without the fraction. Subtract two of them for the time between two moments.
 std::int64_t Second_Count(const Moment& moment);
 
 }  // namespace basic

@@ -19,7 +19,7 @@ bool Alerts::Due(const events::Event_Line& event) const {
 }
 
 void Alerts::Test(const events::Event_Line& event) {
-  // Nobody can tell whether the window is disabled during a test that shows nothing.
+  // Disabled only if the alert is shown: nobody could see the difference otherwise.
   if (!Due(event)) return;
   main_frm_.Enabled = false;
   message_box_.Show("Meridex", Today_Message(dates_, present_day_, basic::Single_Ampersands(event.Text)),

@@ -1,4 +1,4 @@
-// The alert: one message on the day of an event, at most one a day.
+// The alert: a message box on the day of an event, at most once a day.
 #pragma once
 
 #include "calendar/dates.h"
@@ -14,10 +14,11 @@ class Alerts {
   Alerts(Dates& dates, platform::Message_Box& message_box, toolkit::Form& main_frm, const settings::Settings& settings,
          state::Calendar_State& calendar);
 
-  /// Takes the present day for the reading of the file that follows: the lines of one reading are tested in one moment.
+  /// Notes the present day. Called before each reading of the event file, so that all its lines are tested for one day.
   void Take_Present_Day();
 
-  /// Shows the alert if it is due for the event, with the calendar window disabled until it is closed.
+  /// Shows the alert if it is due for the event, and disables the calendar window until the user closes it. **Events
+  /// are served meanwhile: ticks go on, and any handler may run.**
   void Test(const events::Event_Line& event);
 
  private:

@@ -4,7 +4,6 @@ namespace calendar {
 
 namespace {
 
-constexpr int balloon_tips = 2;
 constexpr float hold_seconds = 0.3F;
 
 }  // namespace
@@ -15,7 +14,7 @@ Box_Hold::Box_Hold(Desk& desk, events::Event_File& event_file, tooltips::Balloon
       calendar_(calendar) {}
 
 void Box_Hold::Press(basic::Int16 index) {
-  if (settings_.Tooltips != balloon_tips || !desk_.Has_Event(index)) return;
+  if (settings_.Tooltips != settings::balloon_tips || !desk_.Has_Event(index)) return;
   calendar_.Mouse_Released = false;
   waits_.TimeOut(hold_seconds);
   if (calendar_.Mouse_Released) return;

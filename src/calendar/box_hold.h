@@ -1,4 +1,4 @@
-// A press held on a day box: it shows the day's event whole, in a balloon.
+// A press that is held on a day box shows the whole event of the day in a balloon.
 #pragma once
 
 #include "calendar/desk.h"
@@ -12,8 +12,8 @@ class Box_Hold {
   Box_Hold(Desk& desk, events::Event_File& event_file, tooltips::Balloons& balloons, platform::Waits& waits,
            const settings::Settings& settings, state::Calendar_State& calendar);
 
-  /// Waits 0.3 seconds, in which events are served, and shows the balloon unless the button has gone up by then. Does
-  /// nothing for a box without an event, or where the setting doesn't want balloons.
+  /// Waits 0.3 seconds while events are served, then shows the balloon unless the button was released meanwhile. Does
+  /// nothing for a box without an event, or if the setting doesn't want balloons.
   void Press(basic::Int16 index);
 
   void Release() { calendar_.Mouse_Released = true; }

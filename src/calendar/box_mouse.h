@@ -1,5 +1,5 @@
-// The mouse on the calendar's labels: a double-click writes an event, a held press shows it, a right press opens a menu,
-// and the title drags the window.
+// The mouse on the calendar's labels: a double-click on a day box opens the editor, a held press shows the event, the
+// right button opens a menu, and dragging the title moves the window.
 #pragma once
 
 #include "calendar/box_hold.h"
@@ -9,7 +9,7 @@ namespace calendar {
 
 class Box_Mouse {
  public:
-  /// Ties itself to the mouse on the labels of the calendar's window.
+  /// Sets the mouse handlers of all labels of the calendar's window.
   Box_Mouse(presentation::Main_Frm& main_frm, presentation::Placement& placement, Desk& desk, Popup_Menus& menus,
             Box_Hold& hold);
 

@@ -8,6 +8,8 @@ namespace {
 
 enum Timeout_Format { in_seconds = 0, in_minutes = 1 };
 
+constexpr double bottom_margin = 50;  // twips
+
 basic::Int16 Timeout_Seconds(const settings::Settings& settings) {
   if (settings.Timeout_Format == in_seconds) return settings.Timeout_Value;
   if (settings.Timeout_Format == in_minutes) return settings.Timeout_Value * 60;
@@ -56,7 +58,7 @@ void Compact::Shrink() {
   main_frm_.Prev_Month_Lbl.Visible = false;
   main_frm_.Next_Month_Lbl.Visible = false;
   const toolkit::Bounds& title = main_frm_.Which_Month_Lbl.In_Twips();
-  main_frm_.Window.Height = title.Top + title.Height + 50;
+  main_frm_.Window.Height = title.Top + title.Height + bottom_margin;
   calendar_.Compact_On = true;
   presentation::TransparentForm(main_frm_.Window);
   placement_.Position_In_Force();

@@ -1,4 +1,4 @@
-// Compact mode, in which only the title row is shown, and the idle time after which the calendar goes into it by itself.
+// Compact mode, in which only the title row is shown, and the idle time after which the calendar enters it by itself.
 #pragma once
 
 #include "calendar/month_view.h"
@@ -12,29 +12,30 @@ class Compact {
 
   [[nodiscard]] bool On() const { return calendar_.Compact_On; }
 
-  /// Starts the idle time afresh. Throws error 6 for a time of more than 546 minutes.
+  /// Starts the idle time again. Throws error 6 for an idle time of more than 546 minutes.
   void Update_Timeout();
 
-  /// The same in the load, where the setting wants it.
+  /// The same at the program's start, if the setting wants it.
   void Start_Idle_Time();
 
-  /// The same on the user's activity: only where the idle time counts, with the window open and the setting on.
+  /// The same when the user does something, if the setting wants it and compact mode is off.
   void Idle_Restart();
 
-  /// Opens the shrunk window or shrinks the open one.
+  /// Leaves compact mode if it is on, enters it otherwise.
   void Compact_Mode();
 
-  /// The double-click on the title, and the commands that do the same.
+  /// Called on a double-click on the title, and by the commands that do the same.
   void Which_Month_Lbl_DblClick() { Compact_Mode(); }
 
-  /// Opens the window for another box style: out of compact mode without drawing anything.
+  /// Leaves compact mode without drawing anything, for a change of the box style.
   void Leave_Without_Redraw();
 
-  /// The tick's test, where the setting wants it: shrinks the window when the idle time has run out, and starts it afresh
-  /// while another window that the user works in is open.
+  /// Called on each tick. If the setting wants it, enters compact mode once the idle time has run out; starts the idle
+  /// time again while the calendar is in compact mode, a balloon is shown, or another window is open in which the user
+  /// works.
   void Auto_Compact_Check(bool other_window_open);
 
-  /// The pointer over the title: opens a window that shrank by itself.
+  /// Called while the pointer moves over the title: leaves compact mode if the idle time has started it.
   void Wake_Up();
 
  private:

@@ -24,7 +24,7 @@ void Date_Watch::Tick() {
   desk_.Keep_Title();
   const basic::Serial_Day day = dates_.Present_Day();
   if (day == last_day_key_) return;
-  // Before anything that can show a message, which lets further ticks in: the day begins once.
+  // Set first: what follows may show a message box, under which the ticks go on, and the day must begin only once.
   last_day_key_ = day;
   desk_.Begin_New_Day();
 }

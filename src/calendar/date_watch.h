@@ -1,5 +1,5 @@
-// The tick of the calendar, ten times a second for as long as it lives: the window's active state, the icons' text, the
-// idle time, the work area, the title, and once a day the new day.
+// The calendar's tick, ten times a second: it looks after the window's active state, the icons' text, the idle time,
+// the work area and the title, and starts each new day.
 #pragma once
 
 #include "calendar/desk.h"
@@ -14,7 +14,7 @@ class Date_Watch {
 
   toolkit::Timer Dectect_Date_Timer;
 
-  /// Notes the present day as the one last seen, in the load.
+  /// Remembers the present day as the last one seen. Called once, at the start.
   void Set_Last_Day_Key();
 
  private:

@@ -20,7 +20,7 @@ void Edit_Box::Open(basic::Int16 index) {
     return;
   }
   calendar_.Current_Box = index;
-  // The day counts from before the question, the month and year from after it: a midnight may lie between.
+  // The day was taken before the question, month and year are taken after it: midnight may have changed them meanwhile.
   calendar_.Selected_Date = events::Date_Key(day, calendar_.View_Month, calendar_.View_Year);
   Fill();
   editor_.Date_Lbl.Caption = Long_Date(serial, day);
@@ -39,7 +39,7 @@ void Edit_Box::Clear(basic::Int16 index) {
 
 bool Edit_Box::Settle_Unsaved_Text() {
   if (!editor_.Apply_Btn.Enabled || editor_.Date_Lbl.Caption == "") return true;
-  // The title isn't the program's name, deliberately.
+  // The title is deliberately not the program's name.
   const auto answer = message_box_.Show("Desktop Wallpaper", "Save changes for the " + editor_.Date_Lbl.Caption() + "?",
                                         platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
   if (answer == platform::Box_Answer::Cancel) return false;

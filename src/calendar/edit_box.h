@@ -1,4 +1,4 @@
-// What the user does to the event of a day box: the opening of the editor on it, and the clearing of the day.
+// What the user does to the event of a day box: opens the editor on it, or clears it.
 #pragma once
 
 #include "calendar/month_grid.h"
@@ -11,19 +11,19 @@ class Edit_Box {
   Edit_Box(editor::Edit_Frm& editor, events::Event_File& event_file, Month_Grid& grid, Dates& dates,
            platform::Message_Box& message_box, state::Calendar_State& calendar);
 
-  /// Fills the editor with the event of a box of the month on view and shows it; asks first if the editor holds unsaved
-  /// text of another day.
+  /// Fills the editor with the event of a box of the month on view and shows it. If the editor holds unsaved text, asks
+  /// first in a message box.
   void Open(basic::Int16 index);
 
-  /// Removes the event of a box's day from the file and from the box. A day without one takes the editor's text, if the
-  /// editor is open and holds any.
+  /// Removes the event of a box's day from the file and from the box. If the file has no event for the day, it gets the
+  /// editor's text for it, provided that the editor is loaded and holds any.
   void Clear(basic::Int16 index);
 
   [[nodiscard]] events::Day_Event Editor_Content() const { return editor_.Content(); }
   [[nodiscard]] bool Editor_Visible() const { return editor_.Window.Visible(); }
 
  private:
-  /// Returns whether the editor may be filled anew.
+  /// Asks whether unsaved text is to be saved. Returns false if the user cancels: the editor must keep its contents.
   bool Settle_Unsaved_Text();
   void Fill();
   [[nodiscard]] std::string Long_Date(basic::Serial_Day serial, basic::Int16 day) const;

@@ -1,4 +1,4 @@
-// The commands of the function keys. They run when the key goes up.
+// The commands of the function keys. A command runs when its key is released.
 #pragma once
 
 #include "calendar/desk.h"
@@ -8,7 +8,7 @@ namespace calendar {
 
 class Function_Keys {
  public:
-  /// Ties itself to the keys of the calendar's window.
+  /// Sets the key handler of the calendar's window.
   Function_Keys(presentation::Main_Frm& main_frm, Desk& desk, Dates& dates, events::Event_File& event_file,
                 platform::Message_Box& message_box, settings::Stored_Settings& stored);
 
@@ -17,7 +17,7 @@ class Function_Keys {
   void Show_Todays_Event();
   void Change_Box_Style();
 
-  /// Returns whether the style has changed; a pack that rules it has to be overruled by the user first.
+  /// Takes the next style; if a pack sets the style, asks the user first. Returns false if the user doesn't agree.
   bool Take_Next_Style();
   bool Overrule_Pack_Style();
 

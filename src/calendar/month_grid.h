@@ -1,4 +1,4 @@
-// One month in the grid of day boxes: which box holds which day, what stands in it, and how today is marked.
+// One month in the grid of day boxes: which box shows which day, what is written in it, and how today is marked.
 #pragma once
 
 #include <string_view>
@@ -9,8 +9,8 @@
 
 namespace calendar {
 
-/// The box of the first day of a month: the distance of its weekday from the first day of the week. Throws error 5 for a
-/// year outside 100 to 9999.
+/// The box of the first day of a month, 0 to 6: the distance of its weekday from the first day of the week. Throws
+/// error 5 for a year outside 100 to 9999.
 basic::Int16 Start_Box(basic::Int16 month, basic::Int16 year, basic::Weekday first);
 
 /// The number of days of the month that the day lies in.
@@ -30,18 +30,19 @@ class Month_Grid {
   /// Writes the seven weekday headers.
   void Set_Day_Headers();
 
-  /// Lays headers and boxes out in a style, whatever the setting says, and cuts the window's region. Its place and the
-  /// fitting of the captions are the caller's.
+  /// Lays headers and boxes out in a style, whatever the setting says, and cuts the window's region. The caller places
+  /// the window and fits the captions.
   void Restyle(basic::Int16 style);
 
   /// The same without the headers.
   void Lay_Out(basic::Int16 style);
 
-  /// Takes the tips off before a reading of the event file, and the present day: all lines are tested in one moment.
+  /// Called before each reading of the event file: removes the tips, and notes the present day for the alert.
   void Begin_Reading();
 
-  /// Puts a line of the event file into its box if it belongs to the month on view, and tests it for the alert. Throws
-  /// error 5, 6, 9 or 13 for a line that is none, or of a day without a box.
+  /// Writes a line of the event file into its box if it belongs to the month on view, and tests it for the alert.
+  /// Throws error 5, 6 or 13 if the line isn't an event, error 9 if its day has no box, and what Day_Box::Write_Event
+  /// throws.
   void Enter_Date(std::string_view line);
 
   /// Empties the box of a day whose event has been cleared.
@@ -50,7 +51,7 @@ class Month_Grid {
   /// Colours today's box if the present month is on view.
   void Mark_Today();
 
-  /// Whether a box's caption holds any of an event, on view or not.
+  /// Returns true if the box's caption holds text of an event, visible or not.
   [[nodiscard]] bool Has_Event(basic::Int16 box) const { return main_frm_.Box_Caption_Lbl[box].Caption != ""; }
 
   /// The box style in force: the setting's, or the pack's.
@@ -62,12 +63,12 @@ class Month_Grid {
   [[nodiscard]] basic::Int16 First_Box() const;
   [[nodiscard]] basic::Int16 Day_Of_Box(basic::Int16 box) const;
 
-  /// The day of a box of the month on view, or today, becomes the one under work.
+  /// Set Selected_Date: to the day of a box of the month on view, to today, or to any day.
   void Select_Day_Of_Box(basic::Int16 box);
   void Select_Today();
   void Select_Day(basic::Serial_Day day);
 
-  /// How many days from today on the day of a box lies.
+  /// The number of days from today to the day of a box, negative if that lies before today.
   [[nodiscard]] std::int32_t Days_From_Today(basic::Int16 box) const;
 
  private:

@@ -1,4 +1,5 @@
-// The change of the month on view: the title, and the one order of calls that redraws the grid everywhere.
+// Changes the month on view: writes the title, and keeps the one order of calls by which the grid is redrawn
+// everywhere.
 #pragma once
 
 #include "calendar/month_grid.h"
@@ -16,51 +17,54 @@ class Month_View {
   Month_View(Month_Grid& grid, Title_Text& title, events::Event_File& event_file, presentation::Colours& colours,
              Dates& dates, state::Calendar_State& calendar);
 
-  // The load's drawing of the present month, in its order.
+  // The steps that draw the present month at the start, in their order.
 
-  /// The grid without events; View_Month and View_Year.
+  /// Builds the grid without events, and sets View_Month and View_Year.
   void Build_First_Month();
-  /// Events, title and headers.
+  /// Writes events, title and headers.
   void Fill_First_Month();
-  /// All colours, and the mark of today.
+  /// Applies all colours and marks today.
   void Paint();
 
-  /// On each tick.
+  /// Called on each tick: writes the title again if it has changed.
   void Keep_Title() { title_.Keep_Written(); }
 
-  /// The title, and the grid unless compact mode hides it.
+  /// Draws the title, and the grid unless compact mode is on.
   void Refresh_Calendar();
 
-  /// The grid of the month on view, without the title and whatever the mode.
+  /// Draws the grid of the month on view without the title, also in compact mode.
   void Redraw_Grid();
   /// The same, and the weekday headers stay as they are.
   void Redraw_Boxes();
 
-  /// Reads the event file into the grid, and raises the alert if it is due.
+  /// Reads the event file into the grid, and shows the alert if it is due. **Events are served while the alert is
+  /// open.**
   void Load_Dates();
 
-  /// One month back or on. Throw error 6 beyond 16 bits, error 5 outside the years 100 to 9999.
+  /// One month back or on. Throw error 5 outside the years 100 to 9999, error 6 beyond 16 bits.
   void Previous_Month();
   void Next_Month();
 
-  /// One part of the window alone, from the settings.
+  /// Applies the colour settings to one part of the window alone.
   void Recolour(Colour_Part part);
 
-  /// The text that the title would have by these formats.
+  /// The text that the title would have with these formats. Valid until the title is written again.
   const std::string& Title_By(bool show_time, const std::string& time_format, const std::string& date_format) {
     return title_.Get_Bar_Text(show_time, time_format, date_format);
   }
 
-  /// On each tick: paints the title row anew if the window has become active or inactive.
+  /// Called on each tick: colours the title row again if the window has become active or inactive.
   void Follow_Active_State() { colours_.Follow_Active_State(); }
 
-  /// View_Month and View_Year become these, or the present ones; nothing is drawn.
+  /// Set View_Month and View_Year, the second to the present ones. Draw nothing.
   void Go_To(basic::Int16 month, basic::Int16 year);
   void Go_To_Present_Month();
 
-  /// A new day has begun: title and headers, and after the pack's wallpaper the grid. The reading of the events comes last,
-  /// so that the new month stands painted while the alert of the new day is open.
+  /// Goes to the present month, and writes title and headers.
   void Begin_New_Day();
+
+  /// Draws the grid, after the pack's wallpaper has been set. Reads the events last, so that the new month is already
+  /// painted while the alert of the new day is open.
   void Draw_New_Day();
 
  private:

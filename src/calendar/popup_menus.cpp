@@ -35,7 +35,7 @@ void Popup_Menus::Popup_Months() {
   const basic::Civil_Date today = dates_.Today();
   const int month =
       Track(presentation::Months_Menu(calendar_.View_Month, calendar_.View_Year, today.Month, today.Year));
-  // A midnight under the menu may have turned the year.
+  // The year is read after the choice: midnight may have changed it while the menu was open.
   if (month != 0) desk_.Show_Month(month, calendar_.View_Year);
 }
 

@@ -32,11 +32,12 @@ Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_f
   start_timer_.On_Tick = [this] { Close(); };
 }
 
-/// In the middle of the calendar as it stands, its place down following the box style in force.
+/// Places it over the calendar: centred across, and down by half the top of the last box, which depends on the box
+/// style, and its own height.
 void Splash_Frm::Load() {
   const toolkit::Form& main = main_frm_.Window;
   const int beside = toolkit::Round_To_Even(main.Width - Window.Width) / 2;
-  const int half_way = toolkit::Round_To_Even(main_frm_.Box_Lbl[36].In_Twips().Top) / 2;
+  const int half_way = toolkit::Round_To_Even(main_frm_.Box_Lbl[presentation::box_count - 1].In_Twips().Top) / 2;
   Window.Move(main.Left + beside, main.Top + half_way + Window.Height);
   start_timer_.Enable();
 }

@@ -8,14 +8,14 @@ namespace calendar {
 
 class Splash_Frm {
  public:
-  /// `closed` is called after it has gone, by itself or by the user.
+  /// `closed` is called after the splash has closed, whether its timer or the user closed it.
   Splash_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_frm, std::function<void()> closed);
 
   toolkit::Form Window;
   toolkit::Image Image1;
   toolkit::Label Label9;
 
-  /// Shows it; it goes by itself after 1500 milliseconds.
+  /// Shows the splash, which closes by itself after 1500 milliseconds.
   void Show() { Window.Show(false); }
 
  private:

@@ -1,4 +1,4 @@
-// The start of the program: everything that the load of the calendar window does, in its one fixed order.
+// The start of the program: everything that happens before the calendar window is shown, in its one fixed order.
 #pragma once
 
 #include "calendar/date_watch.h"
@@ -13,11 +13,11 @@ class Start_Up {
            presentation::Desktop_Embedding& embedding, Date_Watch& date_watch,
            settings::Run_At_Startup& run_at_startup);
 
-  /// The load of the calendar window. Throws Run_Error where a setting or the pack ends the program.
+  /// Throws Run_Error if a stored setting or the pack can't be used, which ends the program.
   void Load();
 
  private:
-  /// Closes an older instance and takes its title.
+  /// Asks an older instance to close, and takes over the title by which instances find each other.
   void Check_For_Multiple();
 
   platform::Instances& instances_;

@@ -1,4 +1,4 @@
-// The text of the calendar's title, by the user's formats.
+// The text of the calendar's title, in the user's formats.
 #pragma once
 
 #include <string>
@@ -13,14 +13,15 @@ class Title_Text {
   Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const settings::Settings& settings,
              const state::Calendar_State& calendar);
 
-  /// Writes it into the title.
+  /// Composes the text and writes it into the title.
   void Write();
 
-  /// Writes it unless it stands there and what it is made of is as it was the last time; the locale is looked at anew with each second. Ten
-  /// ticks a second ask, and to compose the text each time would be half of what the idle calendar costs.
+  /// Called on each tick: composes and writes the text if something else stands in the title, or if anything that it is
+  /// made of has changed. To do so on all of the ten ticks a second would be half of the idle calendar's work. A change
+  /// of the locale is seen with the next second.
   void Keep_Written();
 
-  /// The title of the month on view: with the time or without, by the two formats. The text stays until the next call.
+  /// The title of the month on view, with or without the time, in the two formats. Valid until the next call.
   const std::string& Get_Bar_Text(bool show_time, const std::string& time_format, const std::string& date_format);
 
  private:
@@ -35,7 +36,7 @@ class Title_Text {
   const state::Calendar_State& calendar_;
   std::string text_;
 
-  /// What the text that stands in the title was made of.
+  /// What the title's present text was made of.
   struct {
     basic::Serial_Day Day = 0;
     int Second = -1;

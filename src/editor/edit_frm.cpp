@@ -21,7 +21,7 @@ std::int32_t CountWords(std::string_view text) {
     while (blank + 1 < words.size() && words[blank + 1] == ' ') ++blank;
     blank = words.find(' ', blank + 1);
   }
-  // A blank at the end was taken for the start of one more word.
+  // A blank at the end was counted as the start of one more word.
   if (!words.empty() && words.back() == ' ') --count;
   return count;
 }
@@ -61,7 +61,7 @@ void Edit_Frm::Tie_Events() {
   Cancel_Btn.On_Click = [this] { Window.Unload(); };
 }
 
-/// Every opening starts from the same controls, whatever the last one left in them.
+/// Every opening starts from the same state, whatever the last one left in the controls.
 void Edit_Frm::Load() {
   Window.Set_Client_Size(4935, 3000);
   Window.Centre_On_Screen();

@@ -1,5 +1,5 @@
-// The small window in which a day's event is written. Edit_Box fills it; OK and Apply hand its text to the event file and
-// update the day's box in place; it never blocks the calendar.
+// The small window in which the user writes a day's event. Edit_Box fills it; OK and Apply save its text in the event
+// file, show it in the day's box and close the window. The calendar stays usable meanwhile.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@
 
 namespace editor {
 
-/// The number of words between blanks and line ends; tabs are part of a word.
+/// The number of words in a text. Blanks and line ends separate words; a tab is part of a word.
 std::int32_t CountWords(std::string_view text);
 
 class Edit_Frm {
@@ -27,11 +27,11 @@ class Edit_Frm {
   toolkit::Command_Button Ok_Btn, Cancel_Btn;
   toolkit::Command_Button Apply_Btn;  ///< enabled while there is something to save
 
-  /// Saves the text for Selected_Date, shows it in the box Current_Box and closes the window. Throws as
-  /// Event_File::Check_For_Pre.
+  /// Saves the text for Selected_Date, shows it in the box Current_Box and unloads the window. Throws what
+  /// Event_File::Check_For_Pre and Day_Box::Write_Event throw.
   void Apply_Btn_Click();
 
-  /// The text and the tick as they stand in the window; empty while it isn't open.
+  /// The text and the check box as they are in the window; empty if it isn't loaded.
   [[nodiscard]] events::Day_Event Content() const;
 
  private:
@@ -45,7 +45,7 @@ class Edit_Frm {
   events::Event_File& event_file_;
   const settings::Settings& settings_;
   state::Calendar_State& calendar_;
-  const std::function<void()> idle_restart_;  // at each closing of the window
+  const std::function<void()> idle_restart_;  // called each time the window closes
 };
 
 }  // namespace editor

@@ -1,8 +1,9 @@
-// calendar.dat: every reading and every change of it. It is read whole whenever a month is drawn and written whole
-// whenever an event changes.
+// All reading and writing of calendar.dat. The file is read whole whenever a month is drawn and written whole whenever
+// an event changes.
 //
-// A change goes: set Selected_Date, Load_File, Check_For_Pre. A failure after a successful open leaves the one file
-// number taken, so that all later openings fail with their message until the program is started again.
+// To change an event, set Selected_Date, call Load_File, then Check_For_Pre. A failure of the file is reported in a
+// message box. If it comes after a successful open, the one file number stays taken, so that every later open fails
+// with a message of its own until the program is started again.
 #pragma once
 
 #include <functional>
@@ -15,8 +16,8 @@
 
 namespace events {
 
-/// The event of a day, in the file or in the editor. Everywhere but in the editor's own text box each "&" of a text stands
-/// twice.
+/// The event of a day, in the file or in the editor. Each "&" of the text is doubled, as everywhere except in the
+/// editor's own text box.
 struct Day_Event {
   std::string Text;
   bool Every_Year = false;
@@ -27,27 +28,31 @@ class Event_File {
   Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
              const state::Calendar_State& calendar);
 
-  /// Fills Temp_Lst from the file; without a file it keeps what it holds.
+  /// Fills Temp_Lst from the file. If there is no file, Temp_Lst keeps what it holds.
   void Load_File();
 
   /// The lines of the last Load_File, and the file's full path, for an import that merges its own into them.
   [[nodiscard]] Temp_List& Temp_Lst() { return temp_lst_; }
   [[nodiscard]] const std::string& Path() const { return path_; }
 
-  /// Whether there is a file at all.
+  /// Returns true if the file exists.
   [[nodiscard]] bool Exists() const { return files_.File_Exists(path_); }
 
-  /// Hands every line to `enter_date`, in file order. A Run_Error that it throws ends the reading with the file's message.
-  /// Returns whether there is a file and all of it was read.
+  /// Calls `enter_date` with every line, in file order. A Run_Error that it throws is reported like a failure of the
+  /// file and ends the reading. Returns true if there is a file and all of it was read.
+  ///
+  /// **The file stays open during each call: if `enter_date` shows a message box, any other access to the file
+  /// meanwhile fails with its message.**
   bool Load_Dates(const std::function<void(std::string_view line)>& enter_date);
 
-  /// The event stored for Selected_Date: the text of the last line that matches, "" if none does, and whether any line
-  /// that matches is of every year.
+  /// The event stored for Selected_Date: the text of the last matching line, "" if there is none, and whether any
+  /// matching line is for every year.
   Day_Event Get_Message();
 
-  /// Replaces the line of Selected_Date by the text, or removes it if the text is empty. If there is no line, adds one with
-  /// the text that the editor holds, whatever `text` is; none if that is empty. The editor's tick decides whether a written
-  /// line is of every year. Throws error 5 if it meets a line of Temp_Lst without "=".
+  /// Replaces the line of Selected_Date by the text, or removes it if the text is empty, and writes the file. If there
+  /// is no such line, adds one with the editor's text, whatever `text` is; adds none if the editor's text is empty. The
+  /// editor's check box decides whether a written line is for every year. Throws error 5 if it meets a line of Temp_Lst
+  /// without "=".
   void Check_For_Pre(const std::string& text, const Day_Event& editor);
 
  private:

@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t longest_plain_date = std::string_view("31/12/9999=").size();
 constexpr std::uint64_t zeros = 0x3030303030303030;  // eight times "0"
 
-/// The bytes from `at` on as a number, the first of them lowest.
+/// The bytes from `at` on as a number, the first one lowest.
 template <class Word>
 Word Load(const char* at) {
   static_assert(std::endian::native == std::endian::little);
@@ -24,8 +24,9 @@ Word Load(const char* at) {
   return word;
 }
 
-/// Takes a number of one digit or two and the slash after it, and gives its two digits, the higher one in the low byte.
-/// One digit or two are equally likely, so a branch would be mispredicted half the time.
+/// Moves `at` past a number of one or two digits and the slash after it. Returns the two digits as characters, the tens
+/// in the low byte; `plain` becomes false if there is no slash. One digit or two are equally likely, so a branch would
+/// be mispredicted half the time.
 std::uint64_t Take_Two_Digits(const char*& at, bool& plain) {
   const unsigned one = at[1] == '/' ? 1 : 0;
   const unsigned digits = Load<std::uint16_t>(at) << 8U * one | '0' * one;
@@ -34,8 +35,8 @@ std::uint64_t Take_Two_Digits(const char*& at, bool& plain) {
   return digits & 0xFFFFU;
 }
 
-/// The short cut for a date as the program writes it: every line of the file passes here on every reading of it, so its
-/// eight digits are looked at in one go. Returns false where anything about the line is unusual.
+/// The fast path for a date as the program writes it. It runs for every line of the file in every reading, so it checks
+/// all eight digits at once. Returns false if anything about the line is unusual.
 bool Read_Plain_Line(std::string_view line, Event_Line& event) {
   if (line.size() < longest_plain_date) return false;
   const char* at = line.data();
@@ -44,15 +45,16 @@ bool Read_Plain_Line(std::string_view line, Event_Line& event) {
   digits |= Take_Two_Digits(at, plain) << 16U;
   digits |= std::uint64_t{Load<std::uint32_t>(at)} << 32U;
   digits ^= zeros;
+  // Adding 0x76 sets the top bit of every byte above 9.
   const bool above_nine = (((digits + 0x7676767676767676) | digits) & 0x8080808080808080) != 0;
   if (!plain | above_nine | (at[4] != '=')) return false;
-  const std::uint64_t pairs = digits * 10 + (digits >> 8U);  // each two digits a number, in every second byte
+  const std::uint64_t pairs = digits * 10 + (digits >> 8U);  // in every second byte the value of two digits
   const auto pair = [&](unsigned place) { return static_cast<int>(pairs >> 16U * place & 0xFFU); };
   event = {pair(0), pair(1), pair(2) * 100 + pair(3), line.substr(static_cast<std::size_t>(at + 5 - line.data()))};
   return true;
 }
 
-/// Takes what stands before the next "/" off the front of the date.
+/// Cuts the part before the next "/" off the front of the date and returns it. Throws error 13 if there is no "/".
 std::string_view Take_Field(std::string_view& date) {
   const auto slash = std::find(date.begin(), date.end(), '/');
   if (slash == date.end()) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);

@@ -1,4 +1,4 @@
-// Upper case in code page 1252: what makes two names of files, keys or windows the same on Windows.
+// Upper case in code page 1252: names of files, keys and windows are the same if they are the same in upper case.
 #pragma once
 
 #include <algorithm>

@@ -63,8 +63,8 @@ double Memory_Backend::Width_Of(std::string_view text) const {
 
 double Memory_Backend::Text_Width(const toolkit::Font& /*font*/, std::string_view text) { return Width_Of(text); }
 
-/// A word goes to the next line when it doesn't fit on its own any more; blanks hang over the line's end, and a word
-/// that is wider than a whole line sticks out.
+/// A word that no longer fits on its line goes to the next one. Blanks may hang over the end of a line, and a word that
+/// is wider than a whole line sticks out.
 int Memory_Backend::Lines_Of(std::string_view paragraph, double width) const {
   int lines = 1;
   double used = 0;

@@ -16,7 +16,7 @@ class Memory_Backend : public toolkit::Backend {
 
   std::unique_ptr<toolkit::Form_Peer> Make_Peer(toolkit::Form& form) override;
 
-  /// A tick never comes late: one that waits within serves the next ticks of its own timer too.
+  /// A tick never comes late: while the handler of a tick waits, the next ticks of the same timer run within it.
   void Start_Timer(toolkit::Timer& timer) override;
   void Stop_Timer(toolkit::Timer& timer) override;
   toolkit::Form* Active_Form() override { return Windows.Active(); }
@@ -29,7 +29,7 @@ class Memory_Backend : public toolkit::Backend {
   void Show_Busy(bool busy) override { busy_ = busy; }
   [[nodiscard]] bool Busy() const { return busy_; }
 
-  /// It has every font.
+  /// Every font exists.
   std::string Font_Given_For(const std::string& name) override { return name; }
   double Text_Width(const toolkit::Font& font, std::string_view text) override;
   double Text_Height(const toolkit::Font& font, std::string_view text, double width) override;

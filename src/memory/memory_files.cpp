@@ -15,7 +15,7 @@ using basic::Run_Error;
 constexpr std::string_view program_folder = "C:\\Meridex";
 constexpr std::string_view program_name = "Meridex.exe";
 
-/// The path with backslashes alone, none twice and none at its end.
+/// The path with backslashes only, never two in a row and none at its end.
 std::string Tidy(std::string_view path) {
   std::string result;
   for (const char c : path) {
@@ -39,7 +39,7 @@ std::string_view Last_Name(std::string_view tidy_path) { return tidy_path.substr
 
 }  // namespace
 
-/// A file that is open for writing. While it is, it can be read, but not deleted or opened for writing once more.
+/// A file that is open for writing. Meanwhile it can be read, but not deleted or opened for writing again.
 class Memory_Files::Writer : public basic::Output_File {
  public:
   Writer(Memory_Files& files, std::string key) : files_(files), key_(std::move(key)) { ++Target()->Writers; }
@@ -62,7 +62,7 @@ class Memory_Files::Writer : public basic::Output_File {
   }
 
  private:
-  // Looked up each time: the file can be taken away from under its writer.
+  // Looked up each time: a test can remove the file while it is being written.
   [[nodiscard]] Entry* Target() const {
     const auto found = files_.entries_.find(key_);
     return found == files_.entries_.end() || found->second.Is_Folder ? nullptr : &found->second;
@@ -88,7 +88,7 @@ Memory_Files::Entry* Memory_Files::Find(std::string_view path) {
   return const_cast<Entry*>(std::as_const(*this).Find(path));
 }
 
-/// Throws the error that tells why a path can't be opened: a missing folder, or a folder in its place.
+/// Throws the error that says why a path can't be opened: error 76 for a missing folder, 75 for a folder in its place.
 void Memory_Files::Check_Place(const std::string& path) const {
   const Entry* const folder = Find(Above(Tidy(path)));
   if (folder == nullptr || !folder->Is_Folder) throw Run_Error(Error_Number::Path_Not_Found);

@@ -1,5 +1,5 @@
-// A disk in memory. Names are found without regard to case, slashes and backslashes are alike, and two faults can be
-// set up: a folder in a file's place, and a file that opens but takes no bytes.
+// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up two
+// faults: a folder in a file's place, and a file that can be opened but takes no bytes.
 #pragma once
 
 #include <map>
@@ -33,24 +33,24 @@ class Memory_Files : public platform::Files {
   /// The full path of a name in the program folder, with backslashes; a path with a drive stays as it is.
   [[nodiscard]] static std::string Full_Path(std::string_view name);
 
-  /// Puts a sound file with these bytes there, with the folders above it; takes the place of an empty folder. Throws
-  /// error 75 if a folder with something in it is there.
+  /// Creates or replaces a file with these bytes, without faults, and the folders above it; replaces an empty folder
+  /// too. Throws error 75 if a folder that isn't empty is at the path.
   void Put(const std::string& path, std::string_view bytes);
 
-  /// The file's bytes; nothing if no file is there.
+  /// The file's bytes; nothing if there is no such file.
   [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const;
 
-  /// Makes a folder with those above it. Throws error 75 if a file stands in the way.
+  /// Makes a folder and those above it. Throws error 75 if a file is in the way.
   void Make_Folder(const std::string& path);
 
-  /// Removes a file, or a folder with all in it; does nothing if neither is there.
+  /// Removes a file, or a folder with all that is in it; does nothing if there is neither.
   void Remove(const std::string& path);
 
   /// Puts a folder in the file's place, so that the path can't be opened: error 75.
   void Block(const std::string& path);
 
-  /// From here on the file, made if it isn't there, opens and is emptied by it, but takes no bytes. A copy over it finds the
-  /// room that it has now.
+  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes. A copy over it
+  /// may be as long as the file is now.
   void Fill_Up(const std::string& path);
 
   struct Listed {
@@ -58,19 +58,19 @@ class Memory_Files : public platform::Files {
     bool Is_Folder;
   };
 
-  /// What lies in a folder, in no promised order. Throws error 76 if the folder isn't there.
+  /// What is in a folder, in no particular order. Throws error 76 if the folder doesn't exist.
   [[nodiscard]] std::vector<Listed> List(const std::string& folder) const;
 
  private:
   class Writer;
   struct Entry {
-    std::string Name;  // as it was first written
+    std::string Name;  // in its first spelling
     std::string Bytes;
     basic::Moment Changed;
     bool Is_Folder = false;
     bool Full = false;
-    std::size_t Room = 0;  // for a copy over a full one
-    int Writers = 0;  // open for writing that often
+    std::size_t Room = 0;  // how long a copy over a full one may be
+    int Writers = 0;  // how often the file is open for writing
   };
 
   [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool of_folders) const;
@@ -81,7 +81,7 @@ class Memory_Files : public platform::Files {
   void Check_No_Writer(const std::string& path) const;
 
   const Virtual_Time& time_;
-  std::map<std::string, Entry> entries_;  // by the folded path
+  std::map<std::string, Entry> entries_;  // by the path in upper case
 };
 
 }  // namespace memory

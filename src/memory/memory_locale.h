@@ -1,4 +1,4 @@
-// The three locales of the in-memory platform, in code page 1252: en-GB (the one at first), en-US and de-DE.
+// The three locales of the in-memory platform, in code page 1252: en-GB (the default), en-US and de-DE.
 #pragma once
 
 #include <string_view>
@@ -21,10 +21,11 @@ class Memory_Locale : public platform::Locale {
   basic::Moment Read_Moment(const std::string& text) override;
   basic::Serial_Day Read_Date(const std::string& text) override;
 
-  /// Returns whether there is a locale of that name. A running program goes on in the one that it was started in.
+  /// Chooses the locale for the next program; one that runs keeps its own. Returns false if there is no locale of that
+  /// name.
   bool Choose(std::string_view name);
 
-  /// A program starts: it takes the chosen locale.
+  /// A program starts, in the chosen locale.
   void Enter() { present_ = chosen_; }
 
  private:

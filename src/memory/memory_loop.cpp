@@ -19,7 +19,7 @@ void Memory_Loop::Dispatch(const std::function<void()>& handler) {
   try {
     handler();
   } catch (const basic::Run_Error& error) {
-    // Not let through as it is: a handler further out has no right to catch what failed in another one.
+    // Not thrown on as it is: a handler that waits around this one must not catch an error that isn't its own.
     failure_ = error.Number();
     quitting_ = true;
   }

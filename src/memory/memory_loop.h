@@ -1,5 +1,5 @@
-// The event loop over the virtual time: waiting is what moves it, and what falls due is what happens. It is also the one
-// guard around the program's handlers, as the system's loop has one.
+// The event loop over the virtual time: a wait moves time on, and what falls due are the events. Like the guard of the
+// system's loop it is the one place that catches what the program's handlers throw.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 
 namespace memory {
 
-/// Thrown when a wait of the program has gone on beyond all measure and would never end by itself.
+/// Thrown by a wait of the program that goes on beyond the moment set by Set_Patience: it would never end by itself.
 struct Endless_Wait {};
 
 class Memory_Loop : public platform::Event_Loop {
@@ -20,11 +20,11 @@ class Memory_Loop : public platform::Event_Loop {
   void Wait_Events(std::int64_t micros) override;
   void Quit() override { quitting_ = true; }
 
-  /// Runs a handler of the program. An error that it lets out ends the program, whatever it was called within. Throws
-  /// Program_Quit as soon as the program is to end.
+  /// Runs a handler of the program. A Run_Error that it throws ends the program, whatever function waits around it.
+  /// Throws Program_Quit as soon as the program is to end.
   void Dispatch(const std::function<void()>& handler);
 
-  /// Serves events for that long, as an open message box does. Throws Program_Quit.
+  /// Serves events for `micros` microseconds, as an open message box does. Throws Program_Quit.
   void Serve(std::int64_t micros);
 
   [[nodiscard]] bool Quitting() const { return quitting_; }
@@ -32,10 +32,10 @@ class Memory_Loop : public platform::Event_Loop {
   /// The number of the error that ends the program, if one does.
   [[nodiscard]] std::optional<int> Failure() const { return failure_; }
 
-  /// A new program begins.
+  /// A new program starts: forgets how the last one ended.
   void Reset();
 
-  /// Waits of the program beyond this moment throw Endless_Wait.
+  /// Waits of the program beyond this moment, in microseconds of Virtual_Time::Elapsed, throw Endless_Wait.
   void Set_Patience(std::int64_t end) { patience_ = end; }
 
  private:

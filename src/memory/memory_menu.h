@@ -1,5 +1,5 @@
-// Popup menus that are answered by a list made up in advance, and remembered. While one is open it has the mouse and the
-// keys, so that no window of the program gets any.
+// Popup menus that are answered from choices prepared in advance, and remembered. While one is open it has the mouse
+// and the keys, so that no window of the program gets input.
 #pragma once
 
 #include <deque>
@@ -17,11 +17,11 @@ class Memory_Menu : public platform::Popup_Menu {
   Memory_Menu(const Memory_Windows& windows, Memory_Loop& loop, toolkit::Input& input)
       : windows_(windows), loop_(loop), input_(input) {}
 
-  /// Takes the next prepared number; 0 for none, and for one that is grey or isn't in the menu. Throws std::logic_error
-  /// if the owner is no window.
+  /// Returns the next prepared number; 0 if there is none, or if its item is grey or not in the menu. Throws
+  /// std::logic_error if the owner isn't a window of the program.
   int Track(platform::Window_Handle owner, const std::vector<platform::Menu_Item>& items) override;
 
-  /// A choice for a menu to come; the menu stays open for `micros` first, with events being served.
+  /// Prepares the choice for a menu to come, which first stays open for `micros` microseconds while events are served.
   void Prepare(int number, std::int64_t micros = 0) { prepared_.push_back({number, micros}); }
 
   struct Shown {
@@ -29,7 +29,7 @@ class Memory_Menu : public platform::Popup_Menu {
     std::vector<platform::Menu_Item> Items;
   };
 
-  /// The menus since the last call.
+  /// The menus shown since the last call.
   std::vector<Shown> Take_Shown() { return std::exchange(shown_, {}); }
 
  private:

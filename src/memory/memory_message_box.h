@@ -1,4 +1,4 @@
-// Message boxes that are answered by a list made up in advance, and remembered.
+// Message boxes that are answered from answers prepared in advance, and remembered.
 #pragma once
 
 #include <deque>
@@ -15,22 +15,22 @@ class Memory_Message_Box : public platform::Message_Box {
  public:
   Memory_Message_Box(Memory_Loop& loop, toolkit::Input& input) : loop_(loop), input_(input) {}
 
-  /// Takes the first prepared answer for which the box has a button. Without one a box with only OK gets OK, any other
-  /// Cancel if it has it, else No.
+  /// Returns the first prepared answer for which the box has a button. If there is none, returns OK for a box with only
+  /// OK, otherwise Cancel if the box has that button, else No.
   platform::Box_Answer Show(const std::string& title, const std::string& text, platform::Box_Icon icon,
                             platform::Box_Buttons buttons) override;
 
-  /// An answer for a box to come; the box stays open for `micros` first, with events being served.
+  /// Prepares the answer for a box to come, which first stays open for `micros` microseconds while events are served.
   void Prepare(platform::Box_Answer answer, std::int64_t micros = 0) { prepared_.push_back({answer, micros}); }
 
   struct Shown {
     std::string Title, Text;
     platform::Box_Icon Icon;
     platform::Box_Buttons Buttons;
-    platform::Box_Answer Answer;  ///< of a box that is still open, the one that it will get
+    platform::Box_Answer Answer;  ///< for a box that is still open the one that it will get
   };
 
-  /// The boxes since the last call, in the order of showing.
+  /// The boxes shown since the last call, in that order.
   std::vector<Shown> Take_Shown() { return std::exchange(shown_, {}); }
 
  private:

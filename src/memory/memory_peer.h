@@ -1,4 +1,4 @@
-// A window of the in-memory platform: what a form has told it, kept to be looked at.
+// A window of the in-memory platform: remembers what its form has told it, for the tests to look at.
 #pragma once
 
 #include <optional>
@@ -8,7 +8,7 @@
 
 namespace memory {
 
-/// How often a window was told something.
+/// How often a form has called each function of its window.
 struct Peer_Counts {
   int Shows = 0, Hides = 0, Form_Changes = 0, Control_Changes = 0, Regions = 0;
 };
@@ -42,10 +42,9 @@ class Memory_Peer : public toolkit::Form_Peer, public Memory_Window {
   [[nodiscard]] toolkit::Form& Form() const override { return form_; }
   [[nodiscard]] const std::optional<toolkit::Region>& Region() const override { return region_; }
 
-  /// The control that was given the keys last, to be compared alone.
+  /// The control that was last given the keys. It may no longer exist: only compare the pointer.
   [[nodiscard]] const toolkit::Control* Focused() const { return focused_; }
   [[nodiscard]] const Peer_Counts& Counts() const { return counts_; }
-
 
  private:
   [[nodiscard]] bool Has(const toolkit::Control& control) const;

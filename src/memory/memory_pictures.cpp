@@ -18,14 +18,17 @@ constexpr std::string_view comment_head = "plain picture ";
 constexpr int longest_side = 65500;
 constexpr int most_pixels = 100'000'000;
 constexpr std::size_t bitmap_head_size = 54;
+constexpr std::size_t width_at = 18, height_at = 22, depth_at = 26;  // where a bitmap's head holds them
+constexpr int one_plane_of_24_bits = 1 | 24 << 16;
 
-/// Takes a piece of known bytes off the front; throws error 481 if it isn't there.
+/// Cuts known bytes off the front; throws error 481 if they aren't there.
 void Expect(std::string_view& bytes, std::string_view piece) {
   if (!bytes.starts_with(piece)) throw basic::Run_Error(basic::Error_Number::Invalid_Picture);
   bytes.remove_prefix(piece.size());
 }
 
-/// Takes a number and the blank after it off the front; throws error 481 if it isn't there or out of its range.
+/// Cuts a number and the blank after it off the front and returns the number. Throws error 481 if there is no such
+/// number from `least` to `most`.
 int Expect_Number(std::string_view& bytes, int least, int most) {
   int number = 0;
   const auto [end, failure] = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
@@ -43,7 +46,7 @@ std::string Comment_Of(const Plain_Picture& picture) {
   return comment;
 }
 
-/// A number in bytes, the highest first, as a JPEG keeps the sizes of its segments.
+/// A number in two bytes, the high one first, as in a JPEG the sizes of its segments.
 std::string Two_Bytes(std::size_t number) { return {static_cast<char>(number >> 8), static_cast<char>(number)}; }
 
 Plain_Picture Read_Jpeg(std::string_view bytes) {
@@ -74,8 +77,8 @@ std::string Bitmap_Head(const Plain_Picture& picture, std::size_t pixel_bytes) {
   Append_Dword(head, 40);  // the size of what follows
   Append_Dword(head, static_cast<std::size_t>(picture.Width));
   Append_Dword(head, static_cast<std::size_t>(picture.Height));
-  Append_Dword(head, 1 | 24 << 16);  // one plane, 24 bits a pixel
-  Append_Dword(head, 0);             // not compressed
+  Append_Dword(head, one_plane_of_24_bits);
+  Append_Dword(head, 0);  // not compressed
   Append_Dword(head, pixel_bytes);
   head.resize(bitmap_head_size, '\0');
   return head;
@@ -101,7 +104,7 @@ class One_Colour final : public platform::Picture {
   [[nodiscard]] int Width() const override { return plain_.Width; }
   [[nodiscard]] int Height() const override { return plain_.Height; }
   [[nodiscard]] int Pixel(int x, int y) const override {
-    if (x < 0 || x >= plain_.Width || y < 0 || y >= plain_.Height) return -1;
+    if (x < 0 || x >= plain_.Width || y < 0 || y >= plain_.Height) return platform::no_pixel;
     return plain_.Red | plain_.Green << 8 | plain_.Blue << 16;
   }
 
@@ -119,7 +122,7 @@ class Pixel_Picture final : public platform::Picture {
   [[nodiscard]] int Width() const override { return width_; }
   [[nodiscard]] int Height() const override { return height_; }
   [[nodiscard]] int Pixel(int x, int y) const override {
-    if (x < 0 || x >= width_ || y < 0 || y >= height_) return -1;
+    if (x < 0 || x >= width_ || y < 0 || y >= height_) return platform::no_pixel;
     return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)];
   }
 
@@ -138,10 +141,11 @@ int Dword_At(std::string_view bytes, std::size_t at) {
 
 Plain_Picture Read_Bitmap(std::string_view bytes) {
   const auto byte = [&](std::size_t at) { return static_cast<int>(static_cast<unsigned char>(bytes[at])); };
-  const Plain_Picture picture{Dword_At(bytes, 18), Dword_At(bytes, 22), 0, 0, 0};
-  const bool plain = Dword_At(bytes, 26) == (1 | 24 << 16) && bytes.size() > bitmap_head_size + 2;
+  const Plain_Picture picture{Dword_At(bytes, width_at), Dword_At(bytes, height_at), 0, 0, 0};
+  const bool plain = Dword_At(bytes, depth_at) == one_plane_of_24_bits && bytes.size() > bitmap_head_size + 2;
   if (!plain || picture.Width < 1 || picture.Height < 1) throw basic::Run_Error(basic::Error_Number::Invalid_Picture);
-  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1), byte(bitmap_head_size)};
+  return {picture.Width, picture.Height, byte(bitmap_head_size + 2), byte(bitmap_head_size + 1),
+          byte(bitmap_head_size)};
 }
 
 }  // namespace
@@ -164,14 +168,21 @@ void Memory_Pictures::Convert_To_Bitmap(const std::string& jpeg, const std::stri
   }
 }
 
-platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+/// What can't be read for whatever reason is no more than that to the caller.
+std::string Memory_Pictures::Read_Picture(const std::string& path) const {
+  if (!files_.Folder_Exists(path)) throw basic::Run_Error(basic::Error_Number::File_Not_Found);
+  if (!files_.File_Exists(path)) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   std::string bytes;
   files_.Read_Whole(path, bytes);
+  return bytes;
+}
+
+platform::Shared_Picture Memory_Pictures::Load(const std::string& path) {
+  const std::string bytes = Read_Picture(path);
   return std::make_shared<One_Colour>(bytes.starts_with("BM") ? Read_Bitmap(bytes) : Read_Jpeg(bytes));
 }
 
-platform::Shared_Picture Memory_Pictures::Make(int width, int height,
-                                               const std::function<int(int x, int y)>& pixel) {
+platform::Shared_Picture Memory_Pictures::Make(int width, int height, const std::function<int(int x, int y)>& pixel) {
   return std::make_shared<Pixel_Picture>(width, height, pixel);
 }
 

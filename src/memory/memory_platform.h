@@ -1,4 +1,4 @@
-// The whole in-memory platform in one piece: a world of its own for one program after the other.
+// The whole in-memory platform in one object: a world in which one program can run after another.
 #pragma once
 
 #include "memory/memory_backend.h"
@@ -52,10 +52,11 @@ class Memory_Platform {
   [[nodiscard]] const Memory_Windows& Windows() const { return Windows_And_Timers.Windows; }
   platform::System System();
 
-  /// A process of the program begins: it takes the present locale, and nothing of an earlier one is left in the way.
+  /// Call before a process of the program starts: it gets the chosen locale, and nothing of an earlier process is in
+  /// its way.
   void Begin_Program();
 
-  /// The process is over: its windows go without anybody being told.
+  /// Call when the process ends: its windows disappear without a handler being called.
   void End_Program() { Windows().Silence(); }
 };
 

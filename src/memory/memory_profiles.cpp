@@ -13,7 +13,7 @@ namespace {
 using Lines = std::vector<std::string>;
 using Line = Lines::const_iterator;
 
-constexpr int int_digits = 9;  // as many as always fit
+constexpr int int_digits = 9;  // as many as always fit into an int
 
 bool Is_Section(std::string_view line) { return basic::Trim_Blanks(line).starts_with('['); }
 
@@ -31,7 +31,7 @@ std::optional<std::string_view> Text_Of(std::string_view line, std::string_view 
   return basic::Trim_Blanks(line.substr(mark + 1));
 }
 
-/// The lines of a section, its head line apart; both ends the file's if there is no such section.
+/// The lines of a section without its head line; an empty range at the end of the file if there is no such section.
 std::pair<Line, Line> Lines_Of(const Lines& lines, std::string_view section) {
   const auto head =
       std::find_if(lines.begin(), lines.end(), [&](const auto& line) { return Is_Section(line, section); });

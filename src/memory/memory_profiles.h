@@ -1,5 +1,5 @@
-// Profile files read and written as the system does it, on whatever disk there is: sections in brackets, entries of a
-// name, "=" and a text, lines that start with ";" for the reader's eye. Names count without regard to case.
+// Profile files, read and written on any disk as the system does it: sections in brackets, entries of a name, "=" and a
+// text, and comment lines that start with ";". Names count without regard to case.
 #pragma once
 
 #include <vector>
@@ -13,12 +13,13 @@ class Memory_Profiles : public platform::Profile_Files {
  public:
   explicit Memory_Profiles(platform::Files& files) : files_(files) {}
 
-  /// Blanks around the text and one pair of quotes, double or single, don't belong to it; blanks at the default's end
-  /// neither.
+  /// The text is returned without the blanks around it and without one pair of quotes, double or single; the default
+  /// without the blanks at its end.
   std::string Get_Text(const std::string& section, const std::string& entry, const std::string& default_text,
                        unsigned room, const std::string& file) override;
 
-  /// The digits at the text's start, after a sign or none; 0 if it starts otherwise, the default if it is empty.
+  /// The number is made of the digits at the start of the text, after an optional sign: 0 if there are none. An empty
+  /// text counts as no entry.
   int Get_Number(const std::string& section, const std::string& entry, int default_number,
                  const std::string& file) override;
 

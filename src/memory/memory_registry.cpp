@@ -49,7 +49,7 @@ int Memory_Registry::Set(Key key, const std::string& name, platform::Value_Type 
   Values* const values = Values_Of(key, platform::Key_Access::Set_Value, status);
   if (values == nullptr) return status;
   std::string& value = (*values)[Folded(name)] = bytes;
-  // The system adds the terminator to a text alone, and not to an empty one: that has no byte that could lack it.
+  // The system adds the terminator only to texts, and not to a text of no bytes.
   if (type == platform::Value_Type::Text && !value.empty() && value.back() != '\0') value += '\0';
   return 0;
 }
@@ -105,7 +105,7 @@ int Memory_Registry::Enter(const Address& address, platform::Key_Access access, 
   return 0;
 }
 
-/// The values of an open key, if it was opened with that right; otherwise nothing and the code that says why.
+/// The values of an open key; nullptr if the key isn't open or doesn't have the right, with the status that says why.
 Memory_Registry::Values* Memory_Registry::Values_Of(Key key, platform::Key_Access right, int& status) {
   const auto open = open_keys_.find(key);
   if (open == open_keys_.end()) {

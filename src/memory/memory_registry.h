@@ -1,5 +1,5 @@
-// A registry in memory, with the contract of the real one: names count without regard to case, a text written without
-// its terminator gets one, rights are asked when a key is opened. Each hive stands alone, none is a view of another.
+// A registry in memory, with the contract of the real one: names count without regard to case, a text that is written
+// without its terminator gets one, a key gives only the rights that it was opened with. No hive is a view of another.
 #pragma once
 
 #include <map>
@@ -14,7 +14,7 @@ constexpr int status_invalid_handle = 6;
 
 class Memory_Registry : public platform::Registry_Keys {
  public:
-  /// As on a fresh system: the hives are there, and the current user's "Control Panel\Desktop" without a value.
+  /// Starts as a fresh system: all hives exist, and the current user's "Control Panel\Desktop" without a value.
   Memory_Registry();
 
   int Open(platform::Hive hive, const std::string& path, platform::Key_Access access, Key& key) override;
@@ -25,25 +25,25 @@ class Memory_Registry : public platform::Registry_Keys {
   int Flush(Key key) override;
   int Close(Key key) override;
 
-  /// Puts a text, terminated, and makes its key; whatever is denied.
+  /// Sets a text value, with its terminator, and creates its key, even if writing is denied.
   void Put(platform::Hive hive, const std::string& path, const std::string& name, const std::string& text);
 
-  /// The value as a text, without its terminator; nothing if it isn't there.
+  /// The value as a text, without its terminator; nothing if there is no such value.
   [[nodiscard]] std::optional<std::string> Find(platform::Hive hive, const std::string& path,
                                                 const std::string& name) const;
 
-  /// Takes the right to write and to delete under a hive away, with code 5, or gives it back.
+  /// Denies or allows writing and deleting under a hive; while denied, both fail with status_access_denied.
   void Deny(platform::Hive hive, bool denied);
 
   /// How many keys were opened and never closed.
   [[nodiscard]] std::size_t Open_Keys() const { return open_keys_.size(); }
 
  private:
-  using Values = std::map<std::string, std::string>;  // bytes by name, the name in capitals
+  using Values = std::map<std::string, std::string>;  // bytes by name, the name in upper case
 
   struct Address {
     platform::Hive hive = platform::Hive::Current_User;
-    std::string path;  // in capitals
+    std::string path;  // in upper case
     friend auto operator<=>(const Address&, const Address&) = default;
   };
 

@@ -8,15 +8,11 @@ namespace memory {
 
 namespace {
 
-// Each window's handle tells its place in the chain.
+// The handle of each window is `base` plus its place in the chain.
 constexpr platform::Window_Handle base = 0x10000;
 constexpr platform::Window_Handle progman = base + static_cast<platform::Window_Handle>(Shell_Chain::Progman);
 constexpr platform::Window_Handle def_view = base + static_cast<platform::Window_Handle>(Shell_Chain::Def_View);
 constexpr platform::Window_Handle icon_list = base + static_cast<platform::Window_Handle>(Shell_Chain::Icon_List);
-
-constexpr unsigned get_text_colour = 4131;
-constexpr unsigned get_text_back_colour = 4133;
-constexpr unsigned set_text_back_colour = 4134;
 
 }  // namespace
 
@@ -40,9 +36,9 @@ int Memory_Shell::Send(platform::Window_Handle window, unsigned message, int par
   if (!Exists(window)) return 0;
   if (window != icon_list) throw std::logic_error("a message to a desktop window that knows none");
   switch (message) {
-    case get_text_colour: return icon_text_;
-    case get_text_back_colour: return icon_back_;
-    case set_text_back_colour: icon_back_ = parameter; return 1;
+    case platform::get_text_colour: return icon_text_;
+    case platform::get_text_back_colour: return icon_back_;
+    case platform::set_text_back_colour: icon_back_ = parameter; return 1;
     default: throw std::logic_error("a message that the list of icons doesn't know");
   }
 }

@@ -1,5 +1,5 @@
-// The desktop's windows in memory: "Progman", the view in it and the list of icons in that, each only as far as a test
-// lets them exist.
+// The desktop's windows in memory: "Progman", the view in it, and the list of icons in the view. A test decides which
+// of them exist.
 #pragma once
 
 #include <map>
@@ -17,8 +17,8 @@ class Memory_Shell : public platform::Desktop_Shell {
   platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
   platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
 
-  /// The list of icons knows messages 4131, 4133 and 4134 and throws std::logic_error at any other one; a window that
-  /// isn't there answers 0.
+  /// The list of icons answers the three messages for its colours. Any other message, or one to another window of the
+  /// desktop, throws std::logic_error; a window that doesn't exist answers 0.
   int Send(platform::Window_Handle window, unsigned message, int parameter) override;
   void Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override {
     parents_[window] = parent;
@@ -28,21 +28,21 @@ class Memory_Shell : public platform::Desktop_Shell {
 
   void Set_Chain(Shell_Chain chain) { chain_ = chain; }
 
-  /// Text background (-1 for none) and text colour of the list of icons.
+  /// The text background (platform::no_colour for none) and the text colour of the list of icons.
   void Set_Icon_Colours(int back, int text);
   [[nodiscard]] int Icon_Back() const { return icon_back_; }
 
-  /// How often the list of icons was repainted since the last call.
+  /// How often the list of icons has been repainted since the last call.
   int Take_Repaints() { return std::exchange(repaints_, 0); }
 
-  /// Whether the window was moved under "Progman".
+  /// Returns true if the window was made a child of "Progman".
   [[nodiscard]] bool Under_Progman(platform::Window_Handle window) const;
 
  private:
   [[nodiscard]] bool Exists(platform::Window_Handle window) const;
 
   Shell_Chain chain_ = Shell_Chain::None;
-  int icon_back_ = -1, icon_text_ = 16777215;
+  int icon_back_ = platform::no_colour, icon_text_ = 16777215;
   bool invalid_ = false;
   int repaints_ = 0;
   std::map<platform::Window_Handle, platform::Window_Handle> parents_;

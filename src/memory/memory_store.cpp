@@ -16,7 +16,7 @@ std::string Memory_Store::Get(const std::string& application, const std::string&
 void Memory_Store::Save(const std::string& application, const std::string& section, const std::string& key,
                         const std::string& text) {
   const Address address{Folded(application), Folded(section), Folded(key)};
-  // A value that is replaced keeps the spelling of its first writing.
+  // A value that is replaced keeps its names as they were first spelled.
   values_.try_emplace(address, Value{section, key, {}}).first->second.Text = text;
 }
 

@@ -23,7 +23,7 @@ class Memory_Store : public platform::Settings_Store {
   [[nodiscard]] std::vector<Value> Values(const std::string& application) const;
 
  private:
-  using Address = std::vector<std::string>;  // application, section and key, in capitals
+  using Address = std::vector<std::string>;  // application, section and key, in upper case
 
   std::map<Address, Value> values_;
 };

@@ -12,7 +12,7 @@ using toolkit::Control;
 using toolkit::Form;
 using toolkit::Mouse_Event;
 
-/// The place as seen from the top left of a window's client area, which is that of the window.
+/// The place from the top left of the window's client area, which is the window's own: windows have no borders here.
 Mouse_Event In_Window(const Control* control, Mouse_Event event) {
   if (control == nullptr) return event;
   const toolkit::Bounds place = control->In_Window();
@@ -21,14 +21,15 @@ Mouse_Event In_Window(const Control* control, Mouse_Event event) {
   return event;
 }
 
-/// The window that a move or a release goes to, and the place as seen from there.
+/// The window that a move or a release goes to, what is under the pointer there, and the place as seen from there.
 struct Seen {
   Form* window;
   std::optional<Control*> over;
   Mouse_Event event;
 };
 
-/// What of the window lies at a place that is meant for one of its controls, or for its ground.
+/// What is at a place of a control (nullptr: of the bare window): that control, or nothing if the place lies outside it
+/// or it isn't visible.
 std::optional<Control*> Under(const Form& window, Control* control, const Mouse_Event& event) {
   const toolkit::Bounds place =
       control != nullptr ? control->In_Twips() : toolkit::Bounds{0, 0, window.Width, window.Height};
@@ -37,7 +38,7 @@ std::optional<Control*> Under(const Form& window, Control* control, const Mouse_
   return control;
 }
 
-/// The one window that has the mouse sees it everywhere.
+/// If a window holds the mouse, moves and releases go to it, wherever the pointer is.
 Seen See(const Memory_Windows& windows, Form& window, Control* control, const Mouse_Event& event) {
   Seen seen{&window, Under(window, control, event), In_Window(control, event)};
   if (windows.Mouse() == nullptr || &windows.Mouse()->Form() == &window) return seen;
@@ -55,7 +56,7 @@ std::size_t Line_Start(const std::string& text, std::size_t at) {
 
 std::size_t Line_End(const std::string& text, std::size_t at) { return std::min(text.find("\r\n", at), text.size()); }
 
-/// The same column of the line before or after, or its end if it is shorter.
+/// The same column in the line before or after, or the end of that line if it is shorter.
 std::size_t In_Other_Line(const std::string& text, std::size_t at, bool before) {
   const std::size_t line = Line_Start(text, at), column = at - line, end = Line_End(text, at);
   if (before && line == 0) return at;
@@ -64,7 +65,8 @@ std::size_t In_Other_Line(const std::string& text, std::size_t at, bool before) 
   return std::min(other + column, Line_End(text, other));
 }
 
-/// Where the caret goes from the beginning or the end of the selection. Lines break at CR LF alone; a page holds any text.
+/// Where a key moves the caret, from the start or the end of the selection. Lines break only at CR LF; a page is as
+/// long as the whole text.
 std::size_t Caret_After(const std::string& text, std::size_t start, std::size_t end, int key) {
   switch (key) {
     case toolkit::key_left: return start - (start == 0 ? 0 : text.substr(0, start).ends_with("\r\n") ? 2 : 1);
@@ -91,7 +93,7 @@ void Memory_User::Press_Twice(Form& window, Control* control, const Mouse_Event&
 void Memory_User::Begin(Form& window, Control* control, const Mouse_Event& event, bool twice) {
   Form* to = &window;
   Mouse_Event place = In_Window(control, event);
-  // A second button goes where the mouse is held; the same one again must have come up elsewhere.
+  // A second button goes to the window that holds the mouse. If the same button is pressed again, its release was lost.
   if (windows_.Mouse() != nullptr && !input_.Holds(event.Button)) {
     const Seen seen = See(windows_, window, control, event);
     to = seen.window;
@@ -104,7 +106,7 @@ void Memory_User::Begin(Form& window, Control* control, const Mouse_Event& event
 void Memory_User::Move(Form& window, Control* control, const Mouse_Event& event) {
   const bool held = windows_.Mouse() != nullptr;
   const Seen seen = See(windows_, window, control, event);
-  // Without the mouse held a move is meant for the control, wherever the place lies.
+  // If no window holds the mouse, a move always goes to the control, even if the place lies outside it.
   input_.Move(*seen.window, held ? seen.over : control, seen.event);
 }
 

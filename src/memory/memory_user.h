@@ -1,5 +1,5 @@
-// The user's hands on the in-memory window system: the pointer and the keys, reported as a window system reports them. Where
-// the system has controls of its own that work by themselves, such as the text box, it does what they would do.
+// Plays the user of the in-memory window system: reports the pointer and the keys as a window system reports them. For
+// the controls that work by themselves on a real system, such as the text box, it does what they would do.
 #pragma once
 
 #include <stdexcept>
@@ -15,12 +15,12 @@
 
 namespace memory {
 
-/// What the in-memory window system can't do, and doesn't pretend to.
+/// Thrown for input that the in-memory window system can't play.
 struct Not_Supported : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// A key with the text that it types, if any: "\r\n" for Enter, " " for the space key.
+/// A key and the text that it types, if any: "\r\n" for Enter, " " for the space key.
 struct Typed_Key {
   toolkit::Key Key;
   std::string_view Text;
@@ -30,27 +30,27 @@ class Memory_User {
  public:
   Memory_User(Memory_Windows& windows, toolkit::Input& input) : windows_(windows), input_(input) {}
 
-  /// The pointer over a control of a window (nullptr: over its ground), at a place in twips from the control's top left, of
-  /// the ground from the window's. A press is meant for the control, wherever the place lies.
+  /// The pointer is over a control of a window (nullptr: over the bare window), at a place in twips from the top left
+  /// of the control or the window. A press always goes to that control, even if the place lies outside it.
   void Press(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
   void Press_Twice(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
   void Move(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
   void Release(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event);
 
-  /// A key is pressed in a window and released in the one that is active then. Throws Not_Supported for what the in-memory
-  /// text box can't do.
+  /// Presses a key in a window, and releases it in the window that is active by then. Throws Not_Supported for what the
+  /// in-memory text box can't do.
   void Press_Key(toolkit::Form& window, const Typed_Key& key);
 
-  /// The user's click has come to an item of a list, or to a tab (from 1 on).
+  /// Clicks an item of a list (from 0 on) or a tab (from 1 on).
   static void Pick(toolkit::Control& control, int item);
 
-  /// The user opens a drop-down list and picks an item of it.
+  /// Opens a drop-down list and picks an item (from 0 on).
   void Choose(toolkit::Combo_Box& box, int item);
 
-  /// The user takes hold of a slider, drags it to a place and lets it go.
+  /// Takes hold of a slider, drags it to a value and lets it go.
   void Slide(toolkit::Slider& slider, int value);
 
-  /// The user replaces the whole text of a box.
+  /// Replaces the whole text of a box.
   void Type(toolkit::Text_Box& box, const std::string& text);
 
  private:

@@ -1,4 +1,4 @@
-// The desktop's picture in memory: remembers each setting of it, and how the picture lay at that moment.
+// The desktop's picture in memory: remembers each time it is set, and how it was to be laid out.
 #pragma once
 
 #include <utility>
@@ -11,7 +11,7 @@ namespace memory {
 
 class Memory_Wallpaper : public platform::Wallpaper {
  public:
-  /// One setting of the picture, with the two values as the registry held them then; "" for one that wasn't there.
+  /// One setting of the picture, with the registry's two values for its layout at that moment; "" for a missing value.
   struct Setting {
     std::string Path, Tile_Wallpaper, Wallpaper_Style;
     bool operator==(const Setting&) const = default;
@@ -19,7 +19,7 @@ class Memory_Wallpaper : public platform::Wallpaper {
 
   explicit Memory_Wallpaper(Memory_Registry& registry) : registry_(registry) {}
 
-  /// Writes the path to the current user's value `Wallpaper` too, as the system does.
+  /// Also writes the path to the current user's value `Wallpaper`, as the system does.
   void Set_Picture(const std::string& path) override;
 
   /// The settings since the last call.

@@ -73,13 +73,13 @@ void Memory_Windows::Hidden(Memory_Window& peer) {
   Tell_Activated(Active_Peer());
 }
 
-/// A window that becomes an icon stays visible, but is active no more; one that comes back is active.
+/// A minimised window stays visible but is no longer active; a restored one becomes active.
 void Memory_Windows::Minimised(Memory_Window& peer, bool minimised) {
   if (!minimised) return Make_Active(&peer);
   const bool was_active = Active_Peer() == &peer;
   std::erase(activations_, &peer);
   if (!was_active) return;
-  // A window that the user can't reach doesn't become active by this.
+  // A disabled window doesn't become active instead: a window of another program does.
   if (Active_Peer() != nullptr && !Active_Peer()->Form().Enabled) activations_.push_back(nullptr);
   Tell_Deactivated(&peer);
   Tell_Activated(Active_Peer());
@@ -92,8 +92,8 @@ void Memory_Windows::Remove(Memory_Window& peer) {
   std::erase(loaded_, &peer);
   Memory_Window* const next = Active_Peer();
   if (!was_active || next == nullptr || silent_) return;
-  // An unload tells its own window nothing more, and the next one only when events are served: a window must not fail
-  // in the middle of another one's going.
+  // The unloaded window isn't told, and the next one only when events are served: a handler of that one must not fail
+  // in the middle of this one's unload.
   time_.Schedule(time_.Elapsed(), [this, next] { Tell_Activated(next); });
 }
 

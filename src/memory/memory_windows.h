@@ -1,8 +1,8 @@
-// All windows of the in-memory platform: which are there, in what order they were shown, which lies in front and which
-// is active.
+// All windows of the in-memory platform: which exist, in what order they were shown, which is in front and which is
+// active.
 //
-// When the active window goes, the one that was active before it comes back, as the system gives the activation back to
-// an owner or to the next window; that may be a window of another program.
+// When the active window closes, the one that was active before it becomes active again, as the system activates an
+// owner or the next window; that may be a window of another program.
 #pragma once
 
 #include <optional>
@@ -14,13 +14,13 @@
 
 namespace memory {
 
-/// A window as the others know it.
+/// A window, as the list of windows knows it.
 class Memory_Window {
  public:
   [[nodiscard]] virtual toolkit::Form& Form() const = 0;
   [[nodiscard]] virtual platform::Window_Handle Handle() const = 0;
 
-  /// What it was cut to last, if it was.
+  /// The region that the window was last cut to, if any.
   [[nodiscard]] virtual const std::optional<toolkit::Region>& Region() const = 0;
 
  protected:
@@ -32,7 +32,7 @@ class Memory_Windows {
   Memory_Windows(Virtual_Time& time, Memory_Loop& loop, toolkit::Input& input)
       : time_(time), loop_(loop), input_(input) {}
 
-  // From the peers.
+  // Called by the windows themselves.
   void Add(Memory_Window& peer) { loaded_.push_back(&peer); }
   void Remove(Memory_Window& peer);
   void Shown(Memory_Window& peer, bool activate);
@@ -40,18 +40,19 @@ class Memory_Windows {
   void Minimised(Memory_Window& peer, bool minimised);
   void Give_Mouse(const Memory_Window* peer) { mouse_ = peer; }
 
-  /// The form becomes the active window; nullptr: another program's window does. Both forms concerned are told.
+  /// Makes the form the active window; nullptr: makes a window of another program active. The form that was active and
+  /// the one that is now are both told.
   void Activate(toolkit::Form* form);
   [[nodiscard]] toolkit::Form* Active() const;
 
-  /// The window that all moves and releases of the mouse come to; nullptr if each comes to the one under the pointer.
+  /// The window that gets all moves and releases of the mouse; nullptr if the one under the pointer gets them.
   [[nodiscard]] const Memory_Window* Mouse() const { return mouse_; }
 
   /// The newest loaded form of that name, nullptr if there is none.
   [[nodiscard]] toolkit::Form* Find(std::string_view name) const;
   [[nodiscard]] toolkit::Form* Find(platform::Window_Handle handle) const;
 
-  /// The window of a loaded form, nullptr of any other.
+  /// The window of a form, nullptr if the form isn't loaded.
   [[nodiscard]] Memory_Window* Peer_Of(const toolkit::Form& form) const;
 
   /// The visible forms in the order in which they became so.
@@ -60,10 +61,10 @@ class Memory_Windows {
   /// All loaded forms: the visible ones from the front to the back, then the hidden ones.
   [[nodiscard]] std::vector<toolkit::Form*> From_The_Front() const;
 
-  /// The program is being taken down: nobody is told of what happens to the windows any more.
+  /// Called when the program ends: from now on no form is told what happens to the windows.
   void Silence() { silent_ = true; }
 
-  /// A program begins: no window of it is active.
+  /// Called when a program starts: none of its windows is active.
   void Begin();
 
  private:

@@ -8,7 +8,8 @@ namespace memory {
 
 namespace {
 
-/// How far the circle's edge stands in from the side, in the row that lies `row` rows inside the top or the bottom.
+/// How many pixels a corner cuts off at each end of a row; `row` counts from the top or the bottom, 0 for the
+/// outermost.
 int Indent(int row, double radius) {
   const double up = radius - (row + 0.5);  // from the circle's centre to the middle of the row
   return up <= 0 ? 0 : static_cast<int>(std::lround(radius - std::sqrt(radius * radius - up * up)));

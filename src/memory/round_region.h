@@ -5,8 +5,8 @@
 
 namespace memory {
 
-/// From the top left at 0, 0; `corner` is the width and the height of the corners' ellipses. All in pixels. As with the
-/// system's own, the last column and the last row don't belong to it.
+/// The region starts at 0, 0; `corner` is the width and the height of the corners' ellipses. All in pixels. As in the
+/// system's own round regions, the last column and the last row don't belong to it.
 toolkit::Region Round_Region(int width, int height, int corner);
 
 }  // namespace memory

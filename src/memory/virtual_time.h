@@ -1,5 +1,5 @@
-// The time of the in-memory platform. It stands still but for the waits that move it on, and what falls due on the way
-// runs at its moment. The wall clock goes along with it and can be set without anything falling due by that.
+// The time of the in-memory platform. It moves only when something waits, and what falls due on the way runs at its
+// moment. The wall clock moves with it and can be set, which makes nothing fall due.
 #pragma once
 
 #include <cstdint>
@@ -18,9 +18,9 @@ class Virtual_Time {
  public:
   using Action = std::function<void()>;
 
-  /// Names one action that waits for its time.
+  /// Identifies an action that waits for its time.
   struct Ticket {
-    std::int64_t Due = 0;     ///< as Elapsed tells the time
+    std::int64_t Due = 0;     ///< microseconds, as Elapsed counts them
     std::int64_t Number = 0;  ///< in the order of entry, from 1 on
 
     friend bool operator<(const Ticket& a, const Ticket& b) {
@@ -28,24 +28,24 @@ class Virtual_Time {
     }
   };
 
-  /// Microseconds since the beginning. They only ever grow.
+  /// Microseconds since the start; they never go back.
   [[nodiscard]] std::int64_t Elapsed() const { return elapsed_; }
 
-  /// What the wall clock shows.
+  /// The time on the wall clock.
   [[nodiscard]] basic::Moment Now() const;
   void Set_Now(const basic::Moment& moment);
 
-  /// The action runs once when `due` is reached; those of one moment run in their order of entry.
+  /// Runs the action once, when Elapsed reaches `due`; actions of the same moment run in the order of these calls.
   Ticket Schedule(std::int64_t due, Action action);
 
-  /// An action that has run or was cancelled before is no longer there, and nothing happens.
+  /// Does nothing if the action has already run or been cancelled.
   void Cancel(const Ticket& ticket);
 
-  /// Runs the next action that is due up to and including `end`. If there is none, moves on to `end` and returns false. An
-  /// action may itself move time on, past `end` too.
+  /// Runs the next action that is due up to and including `end`. If there is none, moves on to `end` and returns false.
+  /// An action may itself move time on, past `end` too.
   bool Step(std::int64_t end);
 
-  /// Runs all that is due up to and including `end`, and stands there, or later after a longer wait within.
+  /// Runs all that is due up to and including `end`. Time then is `end`, or later if an action waited for longer.
   void Run_Until(std::int64_t end);
 
  private:

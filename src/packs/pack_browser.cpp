@@ -28,6 +28,8 @@ std::string Pack_Browser::Desktop_Value(const std::string& name, const std::stri
   return std::get<std::string>(value);
 }
 
-platform::Shared_Picture Pack_Browser::Desktop_Picture() const { return pictures_.Load(Desktop_Value("Wallpaper", "")); }
+platform::Shared_Picture Pack_Browser::Desktop_Picture() const {
+  return pictures_.Load(Desktop_Value("Wallpaper", ""));
+}
 
 }  // namespace packs

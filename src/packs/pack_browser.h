@@ -1,4 +1,4 @@
-// What the settings window shows of the packs beside the program, and of the desktop's picture.
+// What the settings window shows of the packs in the program folder, and of the desktop's picture.
 #pragma once
 
 #include <string>
@@ -20,17 +20,17 @@ class Pack_Browser {
   /// The full paths of the folders in the program folder.
   [[nodiscard]] std::vector<std::string> Folders() const;
 
-  /// Whether the pack of that name is whole.
+  /// Returns true if the pack, by its name or by the full path of its folder, is whole as All_Files says.
   [[nodiscard]] bool Is_Whole(const std::string& pack) const;
   [[nodiscard]] bool Is_Whole_Folder(const std::string& folder) const;
 
-  /// A month's picture. Throws error 53, 75 or 481.
+  /// The picture of a month (1 to 12). Throws error 53, 75 or 481.
   [[nodiscard]] platform::Shared_Picture Month_Picture(const std::string& pack, basic::Int16 month) const;
 
-  /// A value of the desktop's key, or the default where it isn't there.
+  /// A value under desktop_key, or the default if there is no such value.
   [[nodiscard]] std::string Desktop_Value(const std::string& name, const std::string& default_text) const;
 
-  /// The desktop's present picture. Throws error 53, 75 or 481 where there is none that can be shown.
+  /// The desktop's present picture. Throws error 53, 75 or 481 if there is none that can be shown.
   [[nodiscard]] platform::Shared_Picture Desktop_Picture() const;
 
  private:

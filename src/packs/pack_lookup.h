@@ -1,5 +1,6 @@
-// The wallpaper packs on disk: folders beside the executable, each with a settings.ini and the pictures 1.jpg to 12.jpg.
-// Looks a month up in a pack and makes the bitmap of its picture. All failures are told here, in a message box.
+// The wallpaper packs on disk: folders beside the executable, each with a settings.ini and the pictures 1.jpg to
+// 12.jpg. Looks up a month in a pack and makes the bitmap of its picture. Reports its failures itself, in a message
+// box.
 #pragma once
 
 #include <string>
@@ -13,10 +14,10 @@
 
 namespace packs {
 
-/// What the lookups give instead of a text when they fail.
+/// What a lookup returns after a failure that it has reported.
 constexpr const char* lookup_error = "ERROR";
 
-/// Whether a folder holds a whole pack: settings.ini and the twelve pictures. Their contents aren't looked at.
+/// Returns true if a folder holds a whole pack: settings.ini and the twelve pictures. Their contents aren't checked.
 bool All_Files(platform::Files& files, const std::string& folder);
 
 class Pack_Lookup {
@@ -26,17 +27,17 @@ class Pack_Lookup {
       : files_(files), channel_(channel), pictures_(pictures), message_box_(message_box), settings_(settings),
         wallpaper_(wallpaper) {}
 
-  /// The month's value; "" if the file has no line for it, "ERROR" after a failure that was told. A pack without its
-  /// folder switches packs off, in the store too, and takes the wallpaper off the desktop. A line that can't be read
-  /// leaves the file number taken.
+  /// The value of the month (1 to 12); "" if the file has no line for it, lookup_error after a failure. If the pack's
+  /// folder is missing, packs are switched off, in the store too, and the wallpaper is removed from the desktop. A line
+  /// that can't be read leaves the file number taken.
   std::string Get_Paper_Details(basic::Int16 month, const std::string& pack_name);
 
-  /// The full path of the month's bitmap, which is made from the month's picture if it isn't there; the pack's other
-  /// bitmaps go then. "ERROR" after a failure that was told.
+  /// The full path of the month's bitmap; lookup_error after a failure. A bitmap that doesn't exist is made from the
+  /// month's picture, after the pack's other bitmaps have been deleted.
   std::string Get_Paper_Path(const std::string& pack_name, basic::Int16 month);
 
-  /// Deletes the files of the pack's folder whose names end in ".bmp", in small letters; the first failure ends it
-  /// silently.
+  /// Deletes the files of the pack's folder whose names end in ".bmp", in lower case. Stops silently at the first
+  /// failure.
   void Delete_Old_Bmps(const std::string& pack_name);
 
  private:

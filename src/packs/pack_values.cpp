@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view digits = "0123456789";
 
-/// Takes the digits at the start of a text off it.
+/// Cuts the digits off the start of a text and returns them.
 std::string_view Take_Digits(std::string_view& text) {
   const std::string_view taken = text.substr(0, text.find_first_not_of(digits));
   text.remove_prefix(taken.size());
@@ -19,7 +19,7 @@ std::string_view Take_Digits(std::string_view& text) {
 
 bool All_Zero(std::string_view some_digits) { return some_digits.find_first_not_of('0') == std::string_view::npos; }
 
-/// Whether the text is the number of the month; throws error 13 if it is no number.
+/// Returns true if the text is the number of the month. Throws error 13 if it isn't a number.
 bool Is_Month(std::string_view text, basic::Int16 month) {
   text = basic::Trim_Blanks(text);
   const bool negative = text.starts_with('-');
@@ -55,13 +55,13 @@ basic::Int16 Get_Paper_BoxStyle(std::string_view value) {
 }
 
 basic::Int16 Get_Paper_Pos(std::string_view value) {
-  const std::string_view behind_style = basic::Split_At_First(value, '-').right;
-  return basic::To_Int16(basic::Split_At_First(behind_style, '-').left);
+  const std::string_view after_style = basic::Split_At_First(value, '-').right;
+  return basic::To_Int16(basic::Split_At_First(after_style, '-').left);
 }
 
 basic::Int16 Get_Paper_DisplayMode(std::string_view value) {
-  const std::string_view behind_style = basic::Split_At_First(value, '-').right;
-  return basic::To_Int16(basic::Split_At_First(behind_style, '-').right);
+  const std::string_view after_style = basic::Split_At_First(value, '-').right;
+  return basic::To_Int16(basic::Split_At_First(after_style, '-').right);
 }
 
 }  // namespace packs

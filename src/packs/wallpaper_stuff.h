@@ -1,5 +1,5 @@
-// A month of a wallpaper pack, applied: the picture goes to the desktop, and the pack's box style and position for
-// the month to the calendar's state. Whoever calls arranges and places the window by them.
+// Applies a month of a wallpaper pack: its picture goes to the desktop, its box style and position into the calendar's
+// state. The caller lays out and places the window by them.
 #pragma once
 
 #include <string>
@@ -19,19 +19,22 @@ class Wallpaper_Stuff {
                   platform::Clock& clock, const settings::Settings& settings, state::Calendar_State& state)
       : packs_(packs), wallpaper_(wallpaper), registry_(registry), clock_(clock), settings_(settings), state_(state) {}
 
-  /// Does nothing while packs are off. A pack that fails has told so and leaves the desktop as it is; what was taken of
-  /// it before the failure stays. Throws error 5, 6 or 13 at a value that isn't three numbers, which ends the program.
+  /// Applies the present month of a pack; does nothing while packs are off. A failure of the pack is reported in a
+  /// message box, and no picture is set; box style and position stay if they were read before the failure. Throws error
+  /// 5, 6 or 13 if the month's value isn't three numbers, which ends the program.
   void Get_Wallpaper_Stuff(const std::string& pack_name);
 
   /// The same with the pack that the settings name.
   void Get_Wallpaper_Stuff() { Get_Wallpaper_Stuff(settings_.Pack_Name); }
 
-  /// The month of a pack, whether packs are on or not, unless its picture lies on the desktop already and the pack wants it
-  /// in the middle. Fails as the one above.
+  /// Applies any month (1 to 12) of a pack, whether packs are on or not. A picture that the pack centres isn't set
+  /// again if it is on the desktop already. Fails as the one above.
   void Preview_Wallpaper_Stuff(const std::string& pack_name, basic::Int16 month);
 
-  /// Any picture, or none for an empty path.
-  void Set_Wallpaper(const std::string& path, basic::Int16 display_mode) { wallpaper_.Set_Wallpaper(path, display_mode); }
+  /// Sets any picture; an empty path removes the picture.
+  void Set_Wallpaper(const std::string& path, basic::Int16 display_mode) {
+    wallpaper_.Set_Wallpaper(path, display_mode);
+  }
 
  private:
   void Take_Style_And_Position(const std::string& value);

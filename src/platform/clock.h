@@ -1,4 +1,4 @@
-// The local time.
+// The system's local time.
 #pragma once
 
 #include "basic/serial_day.h"
@@ -9,7 +9,6 @@ class Clock {
  public:
   virtual ~Clock() = default;
 
-  /// The present moment of the local time.
   virtual basic::Moment Now() = 0;
 };
 

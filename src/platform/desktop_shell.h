@@ -1,4 +1,4 @@
-// The windows of the desktop's shell: the calls that the calendar makes to live among them. Failures are silent.
+// The windows of the desktop's shell, and the calls that make the calendar one of them. Failures are silent.
 #pragma once
 
 #include <string>
@@ -7,24 +7,34 @@
 
 namespace platform {
 
+/// The messages of the shell's list of icons that read and set the colours of the icons' text.
+constexpr unsigned get_text_colour = 4131;
+constexpr unsigned get_text_back_colour = 4133;
+constexpr unsigned set_text_back_colour = 4134;
+
+/// The background of a text that has none.
+constexpr int no_colour = -1;
+
 class Desktop_Shell {
  public:
   virtual ~Desktop_Shell() = default;
 
-  /// The top window of that class and caption, 0 if there is none.
+  /// The top-level window of that class and caption, 0 if there is none.
   virtual Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) = 0;
 
   /// The first child of that class, 0 if there is none.
   virtual Window_Handle Find_Child(Window_Handle parent, const std::string& window_class) = 0;
 
-  /// Sends a message with wParam 0 and gives its result, cut to 32 bits.
+  /// Sends a message with wParam 0 and lParam `parameter`. Returns its result, cut to 32 bits.
   virtual int Send(Window_Handle window, unsigned message, int parameter) = 0;
 
-  /// Moves a window under another one.
+  /// Makes the window a child of `parent`.
   virtual void Set_Parent(Window_Handle window, Window_Handle parent) = 0;
 
-  /// Marks the whole of a window for erasing and painting, and paints at once what is marked.
+  /// Marks the whole window for erasing and painting.
   virtual void Invalidate(Window_Handle window) = 0;
+
+  /// Paints at once what is marked.
   virtual void Update(Window_Handle window) = 0;
 };
 

@@ -11,16 +11,16 @@ namespace platform {
 
 class Files : public basic::Disk {
  public:
-  /// Whether a file of that path is there, a folder doesn't count; failures count as no.
+  /// Returns true if a file, not a folder, is at the path; false after a failure too.
   virtual bool File_Exists(const std::string& path) = 0;
 
-  /// Whether a folder or a file of that path is there; failures count as no.
+  /// Returns true if a folder or a file is at the path; false after a failure too.
   virtual bool Folder_Exists(const std::string& path) = 0;
 
-  /// The names of the files of a folder, sorted without regard to case; throws error 76 if the folder isn't there.
+  /// The names of the files in a folder, sorted without regard to case. Throws error 76 if the folder doesn't exist.
   virtual std::vector<std::string> File_Names(const std::string& folder) = 0;
 
-  /// The same of the folders in a folder.
+  /// The same for the folders in a folder.
   virtual std::vector<std::string> Folder_Names(const std::string& folder) = 0;
 
   /// Throws error 53, 70 or 75.

@@ -15,19 +15,19 @@ class Instances {
  public:
   virtual ~Instances() = default;
 
-  /// Whether another instance of the same executable is running.
+  /// Returns true if another instance of the same executable is running.
   virtual bool Other_Is_Running() = 0;
 
-  /// A top-level window of any program with exactly that title, 0 if there is none.
+  /// A top-level window of any program with that whole title, in any letter case; 0 if there is none.
   virtual Window_Handle Find_Window(const std::string& title) = 0;
 
   /// Posts a message without parameters; doesn't wait for it to be handled.
   virtual void Post(Window_Handle window, unsigned message) = 0;
 
-  /// The title of this process's own hidden top-level window, "Meridex Loading" from its start on.
+  /// Sets the title of this process's own hidden top-level window, which starts as "Meridex Loading".
   virtual void Set_Title(const std::string& title) = 0;
 
-  /// What happens when that hidden window is asked to close.
+  /// Called when that hidden window is asked to close.
   std::function<void()> On_Close_Request;
 };
 

@@ -1,4 +1,4 @@
-// Dates as the user's locale has them.
+// Dates in the user's locale.
 #pragma once
 
 #include <string>
@@ -14,10 +14,10 @@ class Locale {
   /// Names and separators, as they were when the program started.
   virtual const basic::Date_Words& Words() = 0;
 
-  /// The first day of the locale's week; Sunday where the system has none.
+  /// The first day of the locale's week; Sunday if the system names none.
   virtual basic::Weekday First_Weekday() = 0;
 
-  /// Append the day in the locale's short or long form.
+  /// Append the day (first_day to last_day) in the locale's short or long form.
   virtual void Append_Short_Date(std::string& to, basic::Serial_Day day) = 0;
   virtual void Append_Long_Date(std::string& to, basic::Serial_Day day) = 0;
 
@@ -27,7 +27,7 @@ class Locale {
   /// Reads a date that may have a time with it, in the locale's order and with its month names. Throws error 13.
   virtual basic::Moment Read_Moment(const std::string& text) = 0;
 
-  /// Reads a date as the locale writes it: its own short form, and numbers joined by "/", "." or "-". Throws error 13 for
+  /// Reads a date in the locale's own short form, or as numbers joined by "/", "." or "-". Throws error 13 for
   /// any other text.
   virtual basic::Serial_Day Read_Date(const std::string& text) = 0;
 };

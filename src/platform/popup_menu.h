@@ -1,4 +1,4 @@
-// The system's popup menus, each built for one choice and gone after it.
+// The system's popup menus, each built for one choice and destroyed after it.
 #pragma once
 
 #include <string>
@@ -10,9 +10,9 @@
 namespace platform {
 
 struct Menu_Item {
-  int Number = 0;  ///< what is returned for it; not 0
+  int Number = 0;  ///< returned if the item is chosen; not 0
   std::string Text;
-  bool Grey = false;  ///< shown, but not to be chosen
+  bool Grey = false;  ///< shown, but can't be chosen
   Stock_Picture Picture = Stock_Picture::None;
 };
 
@@ -20,8 +20,10 @@ class Popup_Menu {
  public:
   virtual ~Popup_Menu() = default;
 
-  /// Shows the items at the pointer, centred on it, and waits for the choice; events are served meanwhile. Gives the
-  /// number of the chosen item, 0 for none.
+  /// Shows the items at the pointer, centred on it, and waits for the choice; events are served meanwhile. Returns the
+  /// number of the chosen item, 0 for none. Throws Program_Quit once the program has been told to quit.
+  ///
+  /// **Any handler may run meanwhile: it may unload any window, and may change what the choice is about.**
   virtual int Track(Window_Handle owner, const std::vector<Menu_Item>& items) = 0;
 };
 

@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// A predefined key, by its handle value.
+/// The registry's top keys, by their handle values.
 enum class Hive : std::uint32_t {
   Classes_Root = 0x80000000U,
   Current_User = 0x80000001U,
@@ -30,15 +30,15 @@ class Registry_Keys {
 
   virtual ~Registry_Keys() = default;
 
-  /// Opens a key that is there.
+  /// Opens an existing key.
   virtual int Open(Hive hive, const std::string& path, Key_Access access, Key& key) = 0;
 
-  /// Opens a key, made if it isn't there, for setting values and making keys below it.
+  /// Opens a key for setting values and for creating keys below it; creates the key if it doesn't exist.
   virtual int Create(Hive hive, const std::string& path, Key& key) = 0;
 
-  /// Copies the value's bytes to `data`, which has room for `size` of them, and sets `size` to their number. Without
-  /// `data` it gives the size alone, with status 0; with too little room it gives the size and status 234. A text's size
-  /// counts its terminator, which is added to one that was written without.
+  /// Copies the value's bytes to `data`, which has room for `size` of them, and sets `size` to their number. If `data`
+  /// is nullptr, only `size` is set, with status 0; if there is too little room, only `size` is set, with
+  /// status_more_data. The size of a text includes its terminator, which is added if the text was written without one.
   virtual int Query(Key key, const std::string& name, char* data, std::uint32_t& size) = 0;
 
   virtual int Set(Key key, const std::string& name, Value_Type type, std::string_view bytes) = 0;

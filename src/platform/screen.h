@@ -14,7 +14,7 @@ class Screen {
   /// The primary screen.
   virtual Pixel_Area Bounds() = 0;
 
-  /// The work area of the primary screen, asked anew at each call.
+  /// The work area of the primary screen, asked from the system at each call.
   virtual Pixel_Area Work_Area() = 0;
 
   /// Twips per pixel across and down: 15 at 96 dots an inch.

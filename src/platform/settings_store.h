@@ -9,11 +9,11 @@ class Settings_Store {
  public:
   virtual ~Settings_Store() = default;
 
-  /// The stored text, or the default where the key is absent.
+  /// The stored text, or the default if there is none.
   virtual std::string Get(const std::string& application, const std::string& section, const std::string& key,
                           const std::string& default_text) = 0;
 
-  /// Makes or replaces the value; a failure is silent.
+  /// Creates or replaces the value; a failure is silent.
   virtual void Save(const std::string& application, const std::string& section, const std::string& key,
                     const std::string& text) = 0;
 };

@@ -1,4 +1,4 @@
-// What the user's system opens for us: addresses and documents.
+// Addresses and documents that the system opens with the user's own programs.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ class Shell_Open {
  public:
   virtual ~Shell_Open() = default;
 
-  /// Opens an address with the program that the system has for it; a failure isn't told.
+  /// Opens an address or a document with the system's program for it, which starts in `directory`. A failure is silent.
   virtual void Open(const std::string& address, const std::string& directory) = 0;
 };
 

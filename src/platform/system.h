@@ -1,4 +1,4 @@
-// All the services of one platform, as a backend hands them out. Units take the ones they use, never the whole.
+// All services of one platform, as a backend hands them out. A unit takes the services that it uses, never the bundle.
 #pragma once
 
 #include "platform/clock.h"

@@ -1,4 +1,4 @@
-// A window of the system as the services and the toolkit name it to each other. 0 is no window.
+// The system's window, as the services and the toolkit pass it to each other. 0 is no window.
 #pragma once
 
 #include <cstdint>

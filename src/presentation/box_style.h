@@ -1,4 +1,4 @@
-// Which box style and which position are in force: the settings', or the wallpaper pack's.
+// Which box style and which window position are in force: those of the settings or those of the wallpaper pack.
 #pragma once
 
 #include "settings/settings.h"
@@ -8,7 +8,7 @@ namespace presentation {
 
 enum Box_Style { thin_box = 0, square_box = 1, small_box = 2 };
 
-/// Whether the setting is the small box and no pack rules the style. A pack's own style 2 doesn't count.
+/// Returns true if the setting is the small box and no pack sets the style. A small box that a pack sets doesn't count.
 bool Small_Style(const settings::Settings& settings);
 
 /// The box style in force, for the layout of the grid.

@@ -27,7 +27,7 @@ class Window_Measure final : public Text_Measure {
 }  // namespace
 
 std::string_view Get_Line(std::string_view text, double width, const Text_Measure& measure) {
-  // The line under construction is always a beginning of the text, so a length is all there is to keep of it.
+  // The line under construction is always a beginning of the text, so only its length is kept.
   std::size_t line = 0;
   std::size_t last_good = 0;
   std::string_view first_word;

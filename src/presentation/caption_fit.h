@@ -1,8 +1,8 @@
-// The fitting of an event's text into the caption of its day box: a computation over a measure of text widths, and its
-// writing into the caption.
+// Fits an event's text into the caption of its day box: computes what fits from a measure of text widths, and writes it
+// into the caption.
 //
-// The tests for a fit differ on purpose, and the difference shows where a text is exactly as wide as its box: a whole
-// text or a rest fits only if it is narrower, while a line under construction goes on growing at the exact width.
+// The tests for a fit differ on purpose if a text is exactly as wide as its box: a whole text, or what is left of one,
+// fits only if it is narrower, while a line under construction still takes another word.
 #pragma once
 
 #include <string>
@@ -17,27 +17,28 @@ class Text_Measure {
  public:
   [[nodiscard]] virtual double Width(std::string_view text) const = 0;
 
-  /// The number of characters of the longest beginning that is narrower than `limit`.
+  /// The number of characters of the longest beginning that is narrower than `limit` twips.
   [[nodiscard]] virtual std::size_t Longest_Beginning(std::string_view text, double limit) const = 0;
 
  protected:
   ~Text_Measure() = default;
 };
 
-/// The part at the front of the text that makes one line of that width: as many whole words as fit, with the blank after
-/// the last, or of a first word that is too wide as much as fits. A text whose last blank still lies
-/// on the line comes back whole, however wide it is.
+/// The beginning of the text that fills one line of `width` twips: as many whole words as fit, each with the blank
+/// after it, or as much as fits of a first word that is too wide. If the last blank of the text still lies on the line,
+/// the whole text is returned, however wide it is.
 std::string_view Get_Line(std::string_view text, double width, const Text_Measure& measure);
 
-/// Up to three lines, with two line breaks always; dots stand for the end of a third line that isn't the last.
+/// Up to three lines of `width` twips, always with two line breaks. If the rest of the text doesn't fit the third line,
+/// the line ends in three dots: in place of its last three characters, or after them if it has fewer than four.
 std::string Fit_Three_Lines(std::string_view text, double width, const Text_Measure& measure);
 
-/// One line, cut at any character and ended with dots where it is too wide. Throws error 5 if fewer than three
-/// characters fit.
+/// One line of `width` twips; a text that is too wide is cut at any character and ends in three dots. Throws error 5 if
+/// fewer than three characters fit.
 std::string Fit_One_Line(std::string_view text, double width, const Text_Measure& measure);
 
-/// The style that captions are fitted for. Differs from the style in force where a switch of the packs is neither 0
-/// nor 1: it is 0 then.
+/// The style that captions are fitted for. It differs from the style in force only if one of the settings Use_Themes
+/// and Use_Theme_Style is neither 0 nor 1 and the other isn't 0: then it is 0.
 basic::Int16 DDD_Style(const settings::Settings& settings, const state::Calendar_State& calendar);
 
 /// Writes as much of the text ("&" doubled) into the caption as fits in the style, and leaves the whole text in

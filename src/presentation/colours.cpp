@@ -1,13 +1,8 @@
 #include "presentation/colours.h"
 
+#include "platform/desktop_shell.h"
+
 namespace presentation {
-
-namespace {
-
-constexpr std::int32_t no_colour = -1;
-constexpr toolkit::Colour dark_grey = 4934475;
-
-}  // namespace
 
 Colours::Colours(Main_Frm& main_frm, const settings::Settings& settings, state::Calendar_State& calendar)
     : main_frm_(main_frm), settings_(settings), calendar_(calendar) {}
@@ -39,7 +34,7 @@ void Colours::Colour_Menus() {
     return;
   }
   const std::int32_t back = calendar_.Desktop_Back_Colour;
-  main_frm_.Window.BackColor = back == no_colour ? dark_grey : back;
+  main_frm_.Window.BackColor = back == platform::no_colour ? dark_grey : back;
   Colour_Title_Row(calendar_.Desktop_Text_Colour);
 }
 

@@ -1,4 +1,4 @@
-// The colour settings, carried onto the calendar window's labels.
+// Applies the colour settings to the calendar window and its labels.
 #pragma once
 
 #include "presentation/main_frm.h"
@@ -11,20 +11,20 @@ class Colours {
  public:
   Colours(Main_Frm& main_frm, const settings::Settings& settings, state::Calendar_State& calendar);
 
-  /// Paints everything; leaves the title row in the inactive colour while another window is active.
+  /// Applies all colours; the title row gets the inactive colour while another window is active.
   void Set_Colours();
 
   void Colour_Boxes();
   void Colour_Nums();
   void Colour_Texts();
 
-  /// The window's back colour and the title row, from the settings or from the desktop.
+  /// Colours the window's background and the title row, from the settings or from the desktop.
   void Colour_Menus();
 
-  /// The title row as inactive; the back colour stays.
+  /// Colours the title row as inactive; the window's background stays.
   void Colour_Inactive();
 
-  /// On each tick: paints the title row anew if the window has become active or inactive since the last.
+  /// Called on each tick: colours the title row again if the window has become active or inactive since the last one.
   void Follow_Active_State();
 
  private:

@@ -24,8 +24,7 @@ void Day_Box::Hide_If_Empty() const {
 
 void Day_Box::Write_Event(std::string_view text, const settings::Settings& settings,
                           const state::Calendar_State& calendar) const {
-  constexpr int standard_tips = 1;
-  if (settings.Tooltips == standard_tips) Set_Tips(basic::Single_Ampersands(text));
+  if (settings.Tooltips == settings::standard_tips) Set_Tips(basic::Single_Ampersands(text));
   DotDotDot(main_frm_, text, Caption, DDD_Style(settings, calendar));
 }
 

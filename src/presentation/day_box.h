@@ -1,5 +1,5 @@
-// One day box of the calendar: its number and its event, with the tips on both and the underline that stands for an event
-// in the small style. The event's text lies on top of the number.
+// One day box of the calendar: its number and its event, with the tips on both and the underline that stands for an
+// event in the small style. The event's text lies on top of the number.
 #pragma once
 
 #include <string>
@@ -21,16 +21,16 @@ class Day_Box {
   toolkit::Label& Number;   ///< Box_Lbl
   toolkit::Label& Caption;  ///< Box_Caption_Lbl
 
-  /// Shown, white and empty, as each box is before a month is built. Tips and underline stay.
+  /// Shows the box white and empty, ready for the next month to be built. Tips and underline stay.
   void Reset() const;
 
   void Set_Day(int day) const;
 
-  /// A box without a day isn't shown.
+  /// Hides a box that has no day.
   void Hide_If_Empty() const;
 
-  /// Fits as much of an event's text ("&" doubled) into the caption as the style has room for, and sets the tips to the
-  /// whole of it where they are in use. Throws error 5 if fewer than three characters fit where one line must be cut.
+  /// Writes as much of an event's text ("&" doubled) into the caption as the style has room for. If the setting wants
+  /// tips, sets them to the whole text. Throws error 5 if fewer than three characters fit where one line must be cut.
   void Write_Event(std::string_view text, const settings::Settings& settings,
                    const state::Calendar_State& calendar) const;
 

@@ -4,16 +4,6 @@
 
 namespace presentation {
 
-namespace {
-
-// The list view's messages.
-constexpr unsigned get_text_colour = 4131;
-constexpr unsigned get_text_back_colour = 4133;
-constexpr unsigned set_text_back_colour = 4134;
-constexpr int no_colour = -1;
-
-}  // namespace
-
 Desktop_Embedding::Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& main_frm,
                                      const settings::Settings& settings, state::Calendar_State& calendar,
                                      std::function<void()> show_splash)
@@ -28,15 +18,15 @@ void Desktop_Embedding::No_ShowDesktop_and_IconColours() {
   if (defview_hwnd_ == 0) return;
   iconlist_hwnd_ = shell_.Find_Child(defview_hwnd_, "SysListView32");
   if (iconlist_hwnd_ == 0) return;
-  calendar_.Desktop_Back_Colour = shell_.Send(iconlist_hwnd_, get_text_back_colour, 0);
-  calendar_.Desktop_Text_Colour = shell_.Send(iconlist_hwnd_, get_text_colour, 0);
+  calendar_.Desktop_Back_Colour = shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0);
+  calendar_.Desktop_Text_Colour = shell_.Send(iconlist_hwnd_, platform::get_text_colour, 0);
   shell_.Set_Parent(main_frm_.Window.Handle(), progman_hwnd_);
 }
 
 void Desktop_Embedding::Keep_Desktop_Text_Clear() {
   if (settings_.Trans_Icons != 1 || iconlist_hwnd_ == 0) return;
-  if (shell_.Send(iconlist_hwnd_, get_text_back_colour, 0) == no_colour) return;
-  shell_.Send(iconlist_hwnd_, set_text_back_colour, no_colour);
+  if (shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0) == platform::no_colour) return;
+  shell_.Send(iconlist_hwnd_, platform::set_text_back_colour, platform::no_colour);
   shell_.Invalidate(iconlist_hwnd_);
   shell_.Update(iconlist_hwnd_);
 }

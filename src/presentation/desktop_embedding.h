@@ -1,5 +1,5 @@
-// The calendar as a part of the desktop: its window under the shell's own, and the icons' text without a background.
-// Failures are silent; without the shell's windows the calendar stays an ordinary window.
+// Makes the calendar a part of the desktop: its window becomes a child of the shell's, and the icons' text loses its
+// background. Failures are silent; without the shell's windows the calendar stays an ordinary window.
 #pragma once
 
 #include <functional>
@@ -16,14 +16,15 @@ class Desktop_Embedding {
   Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& main_frm, const settings::Settings& settings,
                     state::Calendar_State& calendar, std::function<void()> show_splash);
 
-  /// Once, in the load: finds the shell's windows, shows the splash if the desktop is there and the setting wants it, takes
-  /// the icons' two colours and moves the calendar under the desktop's top window. Stops at the first window missing.
+  /// Called once, at the start: finds the shell's windows, shows the splash if the desktop exists and the setting wants
+  /// it, reads the two colours of the icons' text and makes the calendar a child of the desktop's top window. Stops at
+  /// the first window that is missing.
   void No_ShowDesktop_and_IconColours();
 
   /// Does nothing; the tick does the work.
   void Set_Transparent_Icon_Stuff() {}
 
-  /// On each tick: where the setting wants it, takes the background off the icons' text if it has one.
+  /// Called on each tick: if the setting wants it, removes the background of the icons' text again if it has one.
   void Keep_Desktop_Text_Clear();
 
  private:

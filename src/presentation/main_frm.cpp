@@ -4,8 +4,6 @@ namespace presentation {
 
 namespace {
 
-constexpr toolkit::Colour first_back_colour = 0x4B4B4B;
-
 void Set_Title_Font(toolkit::Label& label) {
   label.FontName = "Arial";
   label.FontSize = 9.75;
@@ -24,7 +22,7 @@ Main_Frm::Main_Frm(toolkit::Backend& backend)
       Exit_Pic(Window, "Exit_Pic"), title_row_{&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl, &Day_Lbl[0],
                                                &Day_Lbl[1],     &Day_Lbl[2],      &Day_Lbl[3],     &Day_Lbl[4],
                                                &Day_Lbl[5],     &Day_Lbl[6]} {
-  Window.BackColor = first_back_colour;
+  Window.BackColor = dark_grey;
   Window.Width = 6450;
   Window.Height = 6725;
   Make_Boxes();

@@ -14,11 +14,12 @@ enum Start_Day_Command { set_as_start_day = 1 };
 
 std::vector<platform::Menu_Item> Box_Menu(const Main_Frm& main_frm);
 
-/// The twelve months; that on view is grey, the present one marked if its year is on view.
+/// The twelve months, numbered from 1: the one on view is grey, the present one is marked if its year is on view.
 std::vector<platform::Menu_Item> Months_Menu(basic::Int16 view_month, basic::Int16 view_year, int present_month,
                                              int present_year);
 
-/// The years around the one on view, or in compact mode the way out of it. Throws error 6 for a year beyond 16 bits.
+/// The years around the one on view; in compact mode only the item that ends it. Throws error 6 for a year beyond 16
+/// bits.
 std::vector<platform::Menu_Item> Years_Menu(basic::Int16 view_year, bool compact);
 
 std::vector<platform::Menu_Item> Start_Day_Menu();

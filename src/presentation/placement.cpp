@@ -9,12 +9,11 @@ namespace {
 using settings::Settings;
 using toolkit::Round_To_Even;
 
-
 constexpr const char* manual_question =
     "Manual Positioning is not selected. This means that next time the program is started or the month is changed the "
     "program will revert back to the set position. Do you want to change the positioning mode to manual positioning?";
 
-/// Where a window of a length starts to lie in the middle of a longer stretch.
+/// Where a window of that length must start to lie in the middle of the stretch.
 int Middle(std::int32_t stretch, double length) { return Round_To_Even(stretch - length) / 2; }
 
 }  // namespace
@@ -107,7 +106,7 @@ void Placement::Keep_Place() {
   stored_.Set(&Settings::Manual_PosY, top);
 }
 
-/// A drag that changed one coordinate alone doesn't count.
+/// A drag that changed only one coordinate doesn't count.
 bool Placement::Place_Would_Be_Lost() const {
   const bool moved =
       main_frm_.Window.Left() != drag_start_.Left.Value() && main_frm_.Window.Top() != drag_start_.Top.Value();

@@ -1,4 +1,4 @@
-// Where the calendar window stands: at one of nine places of the work area, or where the user dragged it.
+// Where the calendar window is: at one of nine places of the work area, or where the user dragged it.
 #pragma once
 
 #include "basic/int16.h"
@@ -13,12 +13,12 @@ namespace presentation {
 
 constexpr int manual_position = 7;
 
-/// Whole twips.
+/// In whole twips or in whole pixels.
 struct Desktop_Rect {
   std::int32_t Left = 0, Top = 0, Width = 0, Height = 0;
 };
 
-/// The work area, in twips or in pixels.
+/// The work area of the screen, in twips or else in pixels.
 Desktop_Rect GetDesktopRect(platform::Screen& screen, bool in_twips);
 
 class Placement {
@@ -26,32 +26,35 @@ class Placement {
   Placement(Main_Frm& main_frm, platform::Screen& screen, platform::Message_Box& message_box,
             settings::Stored_Settings& stored, const state::Calendar_State& calendar);
 
-  /// Moves the window to a position from 0 to 9; any other number moves nothing. Leaves the window's coordinate unit at
-  /// twips.
+  /// Moves the window to a position from 0 to 9, as the setting Alignment numbers them; any other number moves nothing.
+  /// Leaves the window's coordinate unit at twips.
   void Position_Form(basic::Int16 position);
 
   /// The same with the position in force: the pack's or the setting's.
   void Position_In_Force();
-  [[nodiscard]] basic::Int16 Number_In_Force() const { return presentation::Position_In_Force(stored_.Values, calendar_); }
+  [[nodiscard]] basic::Int16 Number_In_Force() const {
+    return presentation::Position_In_Force(stored_.Values, calendar_);
+  }
 
-  /// Notes the present work area. Throws error 6 if a length of it is beyond 32767 twips.
+  /// Remembers the present work area. Throws error 6 if one of its four values is beyond 16 bits, in twips.
   void Set_Repos();
 
-  /// If a value of the work area has changed, places the window again and notes that value. Others that have changed wait for
-  /// the next calls. Throws as Set_Repos.
+  /// Called on each tick: if one of the work area's four values has changed, places the window again and remembers that
+  /// value. Other changed values wait for the next calls. Throws as Set_Repos.
   void RePosition();
 
-  /// The drag by the title, x and y in twips within it. Throws error 6 for a place beyond 32767 twips.
+  /// The drag by the title; x and y are twips within the title. Start_Drag and End_Drag throw error 6 for a place of
+  /// the window beyond 16 bits, in twips. End_Drag may show a message box.
   void Start_Drag(double x, double y);
   void Drag(double x, double y);
   void End_Drag();
 
  private:
-  /// 16-bit numbers, in twips.
+  /// In twips.
   struct Work_Area {
     basic::Int16 Height, Width, Left, Top;
   };
-  /// The pointer within the title and the window's place at the press, alike.
+  /// At the press: the pointer within the title, and the place of the window. In twips.
   struct Drag_Point {
     basic::Int16 X, Y, Left, Top;
   };

@@ -1,12 +1,12 @@
-// The cutting of a window down to its visible controls, so that the desktop shows, and takes clicks, between them.
+// Cuts a window down to its visible controls, so that the desktop shows between them and takes the clicks there.
 #pragma once
 
 #include "toolkit/form.h"
 
 namespace presentation {
 
-/// Gives the window the region of its frame and of all its visible controls. Leaves its coordinate unit at pixels. Does
-/// no more than that to a minimised window.
+/// Sets the window's region to its frame and all its visible controls. A minimised window keeps its region. Leaves the
+/// window's coordinate unit at pixels in either case.
 void TransparentForm(toolkit::Form& form);
 
 }  // namespace presentation

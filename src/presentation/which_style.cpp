@@ -11,7 +11,7 @@ namespace {
 using toolkit::Alignment;
 using toolkit::Label;
 
-/// What a style says of captions; the small style says nothing of their size and text.
+/// How a style lays out the captions, in twips.
 struct Caption_Layout {
   double width, height;
   double from_left, from_top;  // from the box's corner
@@ -23,10 +23,17 @@ struct Style_Layout {
   double box_width, box_height;
   double gap;  // between rows and between columns
   Alignment box_alignment;
-  std::optional<Caption_Layout> caption;
+  std::optional<Caption_Layout> caption;  // none: the captions are parked out of sight, and keep their size
 };
 
 constexpr double parked = 9999;  // beyond the window's edge
+constexpr int last_column = days_of_week - 1;
+constexpr int fifth_row = 4 * days_of_week;  // the first box of the row
+constexpr int sixth_row = 5 * days_of_week;
+
+constexpr double gap_after_title = 100;
+constexpr double right_margin = 135;
+constexpr double bottom_margin = 50;
 
 const Style_Layout layouts[] = {
     {1275, 320, 100, Alignment::Left, Caption_Layout{870, 220, 360, 55, Alignment::Left}},
@@ -34,8 +41,8 @@ const Style_Layout layouts[] = {
     {375, 285, 75, Alignment::Centre, std::nullopt},
 };
 
-/// The first row and the first column keep their places; every other box follows the first of its row above and the
-/// box of the first row to its left.
+/// The first row keeps its top and the first column its left. Every other box goes below the first box of the row
+/// above, and to the right of the first row's box in the column before.
 void Place_Box(Main_Frm& main_frm, int i, const Style_Layout& layout) {
   Label& box = main_frm.Box_Lbl[i];
   box.Height = layout.box_height;
@@ -70,17 +77,17 @@ void Place_Header_Row(Main_Frm& main_frm) {
     main_frm.Day_Lbl[i].Left = main_frm.Box_Lbl[i].Left;
     main_frm.Day_Lbl[i].Width = main_frm.Box_Lbl[0].Width;
   }
-  const Label& last_day = main_frm.Day_Lbl[6];
+  const Label& last_day = main_frm.Day_Lbl[last_column];
   Label& next = main_frm.Next_Month_Lbl;
   next.Left = last_day.Left + last_day.Width - next.Width;
-  main_frm.Which_Month_Lbl.Width = next.Left - main_frm.Which_Month_Lbl.Left - 100;
+  main_frm.Which_Month_Lbl.Width = next.Left - main_frm.Which_Month_Lbl.Left - gap_after_title;
 }
 
 void Size_Window(Main_Frm& main_frm) {
-  const Label& last_column = main_frm.Box_Lbl[6];
-  main_frm.Window.Width = last_column.Left + last_column.Width + 135;
-  const Label& last_row = main_frm.Box_Lbl[main_frm.Box_Lbl[35].Visible ? 36 : 28];
-  main_frm.Window.Height = last_row.Top + last_row.Height + 50;
+  const Label& last_box_across = main_frm.Box_Lbl[last_column];
+  main_frm.Window.Width = last_box_across.Left + last_box_across.Width + right_margin;
+  const Label& last_row = main_frm.Box_Lbl[main_frm.Box_Lbl[sixth_row].Visible ? box_count - 1 : fifth_row];
+  main_frm.Window.Height = last_row.Top + last_row.Height + bottom_margin;
 }
 
 }  // namespace

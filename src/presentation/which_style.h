@@ -6,8 +6,8 @@
 
 namespace presentation {
 
-/// Lays out the boxes for style 0, 1 or 2 (any other leaves them as they are), then derives the header row and the
-/// window's size from them. Box 35 must already be shown or hidden: it decides the height. Leaves the window's
+/// Lays out the boxes for style 0, 1 or 2 (any other leaves them as they are), then derives the header row and the size
+/// of the window from them. Box 35 must already be shown or hidden: it decides the height. Leaves the window's
 /// coordinate unit at twips.
 void Which_Style(Main_Frm& main_frm, basic::Int16 style);
 

@@ -26,7 +26,7 @@ constexpr Hive_Name hive_names[] = {
     {"HKCC", platform::Hive::Current_Config}, {"HKCR", platform::Hive::Classes_Root},
 };
 
-/// The letter of a kind in upper case; 0 for what is no kind.
+/// The letter of a kind in upper case; '\0' if the text isn't a kind.
 char Kind_Letter(std::string_view kind) {
   const std::string letter = basic::Upper_Case(kind);
   return letter == "S" || letter == "B" || letter == "D" ? letter.front() : '\0';
@@ -104,7 +104,7 @@ int Registry::Get_From_Profile(const Address& address, char kind, const Registry
   if (kind == 'S')
     result = profiles_.Get_Text(address.key, address.name, std::visit(As_Text{}, default_value), profile_room,
                                 address.place);
-  else profiles_.Get_Number(address.key, address.name, 0, address.place);  // asked for, and never handed on
+  else profiles_.Get_Number(address.key, address.name, 0, address.place);  // read, but never returned
   return 0;
 }
 
@@ -117,7 +117,8 @@ void Registry::Get_From_Registry(const Address& address, char kind, Registry_Val
   status = keys_.Close(key);
 }
 
-/// Asks for the size first, by a buffer without room. Returns whether there is a text.
+/// Asks for the size first, with an empty buffer. Returns false if there is no such value. Throws error 5 for a value
+/// of no bytes.
 bool Registry::Query_Text(Key key, const std::string& name, Registry_Value& result, int& status) {
   std::string buffer;
   std::uint32_t size = 0;
@@ -127,14 +128,14 @@ bool Registry::Query_Text(Key key, const std::string& name, Registry_Value& resu
     status = keys_.Query(key, name, buffer.data(), size);
   }
   if (status != 0) return false;
-  // The size counts the terminator. A value of no bytes at all has none to cut.
+  // The size includes the terminator, which is cut off. A value of no bytes has none.
   if (buffer.empty()) throw basic::Run_Error(basic::Error_Number::Invalid_Procedure_Call);
   buffer.pop_back();
   result = std::move(buffer);
   return true;
 }
 
-/// Returns whether there is a value that fits.
+/// Returns false if there is no value, or one that is too large.
 bool Registry::Query_Number(Key key, const std::string& name, char kind, Registry_Value& result, int& status) {
   char bytes[number_room] = {};
   std::uint32_t size = kind == 'B' ? binary_size : number_room;
@@ -158,7 +159,7 @@ int Registry::Registry_Set(std::string_view place, const std::string& key, const
   try {
     Set_In_Registry(address, Kind_Letter(kind), data, status);
   } catch (const basic::Run_Error&) {
-    // Data that doesn't convert: the status is that of the key's making, and the key stays open.
+    // Data that doesn't convert: the status is that of creating the key, and the key stays open.
   }
   return status;
 }

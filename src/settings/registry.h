@@ -1,5 +1,5 @@
 // Named values outside the program's own settings, by place, key and name. The place is a hive of the registry ("HKCU",
-// "HKLM", "HKU", "HKDD", "HKCC", "HKCR") or the path of a profile file that is there.
+// "HKLM", "HKU", "HKDD", "HKCC", "HKCR") or the path of an existing profile file, whose sections are the keys.
 #pragma once
 
 #include <cstdint>
@@ -13,11 +13,11 @@
 
 namespace settings {
 
-/// A value of any kind, and how each kind turns into another: a truth value is the number -1 or 0 and the word "True" or
-/// "False". A text that doesn't convert is error 13, a number beyond its type error 6.
+/// A value of any kind. The kinds convert into each other: true is the number -1 and the word "True", false is 0 and
+/// "False".
 using Registry_Value = std::variant<std::string, bool, std::int32_t>;
 
-/// What all operations return: 0 for success, the registry's own code for its failures, and this where nothing happened.
+/// All operations return 0 for success, the registry's own status for its failures, and this if they did nothing.
 constexpr int status_nothing_done = 99;
 
 class Registry {
@@ -25,22 +25,23 @@ class Registry {
   Registry(platform::Registry_Keys& keys, platform::Profile_Files& profiles, platform::Files& files)
       : keys_(keys), profiles_(profiles), files_(files) {}
 
-  /// The handle value of the hive of that name, in either case; 1 for the path of a file, 0 for anything else.
+  /// The handle value of the hive of that name, in any letter case; 1 for the path of a file, 0 for anything else.
   std::uint32_t Registry_Hive(std::string_view place);
 
-  /// Reads a value: kind "S" as a text, "B" as a truth value, "D" as a number, in either case; another kind leaves the
-  /// default in the result, and so does every failure. Of a profile file only texts are read, and the status is 0.
-  /// A read that the registry refuses leaves the key open.
+  /// Reads a value as kind "S" (text), "B" (true or false) or "D" (number), in either letter case. For any other kind
+  /// and after every failure the result is the default. From a profile file only texts are read, and the status is
+  /// always 0. A read that the registry refuses leaves the key open.
   int Registry_Get(std::string_view place, const std::string& key, const std::string& name, std::string_view kind,
                    const Registry_Value& default_value, Registry_Value& result);
 
-  /// Writes a value, and makes the key where it isn't there. Kind "D" takes 16 bits alone: data that doesn't convert
-  /// writes nothing and gives the status of the step before, which is 0. A write that fails leaves the key open.
+  /// Writes a value; creates the key if it doesn't exist. Kind "D" takes 16-bit numbers only. Data that doesn't convert
+  /// isn't written, but the status is that of the step before, 0. A write that fails leaves the key open. Into a
+  /// profile file only texts are written.
   int Registry_Set(std::string_view place, const std::string& key, const std::string& name, std::string_view kind,
                    const Registry_Value& data);
 
-  /// Deletes a value; one that isn't there counts as deleted. In a profile file the entry stays, with an empty text. The
-  /// key stays open.
+  /// Deletes a value; a value that doesn't exist counts as deleted. In a profile file the entry stays, with an empty
+  /// text. The registry's key stays open.
   int Registry_Delete(std::string_view place, const std::string& key, const std::string& name);
 
  private:

@@ -7,7 +7,7 @@ void Run_At_Startup::Move_Run_Value() {
   Registry_Value text, still_there;
   if (registry_.Registry_Get("HKLM", run_key, run_value, "S", none, text) != 0) return;
   registry_.Registry_Delete("HKLM", run_key, run_value);
-  // Only what can really be deleted is moved, so that the program never starts twice.
+  // Moved only if it could really be deleted, so that the program never starts twice.
   if (registry_.Registry_Get("HKLM", run_key, run_value, "S", none, still_there) == 0) return;
   if (text == none) return;
   registry_.Registry_Set("HKCU", run_key, run_value, "S", files_.Program_Path());

@@ -1,4 +1,4 @@
-// The table of all stored keys: section, name, default, the variable that each fills, and the name that it has in a
+// The table of all stored keys: section, name, default, the variable that each one fills, and its name in a
 // configuration file.
 #pragma once
 

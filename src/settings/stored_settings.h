@@ -12,7 +12,7 @@ class Stored_Settings {
 
   Settings Values{};
 
-  /// Reads all keys. Throws error 6 or 13 at a stored text that its variable can't take; nothing is put right.
+  /// Reads all keys. Throws error 6 or 13 if a stored text doesn't fit its variable: the stored texts aren't repaired.
   void Load_Settings();
 
   /// Sets the variable and saves its key.
@@ -26,7 +26,7 @@ class Stored_Settings {
   /// variable can't take; it is stored by then.
   void Take_Text(const Setting_Key& key, const std::string& text);
 
-  /// Saves a variable's key as it stands.
+  /// Saves the variable's present value under its key.
   void Save(const Member& variable);
 
  private:

@@ -48,12 +48,11 @@ std::string Line_By_Counter(std::string_view entry) {
 }  // namespace
 
 Events_Overview::Events_Overview(toolkit::Frame& page, calendar::Desk& desk, events::Event_File& event_file,
-                                 calendar::Dates& dates, platform::Message_Box& message_box,
-                                 Editor_Content editor_content)
+                                 calendar::Dates& dates, platform::Message_Box& message_box)
     : Overview_Fra(page, "Overview_Fra"), Sort_Lbl(Overview_Fra, "Sort_Lbl"), Sort_Cbo(Overview_Fra, "Sort_Cbo"),
       Dates_Lst(Overview_Fra, "Dates_Lst", toolkit::Item_List::Order::Sorted), Events_Lst(Overview_Fra, "Events_Lst"),
       Countdown_Lbl(Overview_Fra, "Countdown_Lbl"), desk_(desk), event_file_(event_file), dates_(dates),
-      message_box_(message_box), editor_content_(std::move(editor_content)) {
+      message_box_(message_box) {
   Place_Controls();
   Tie_Events();
 }
@@ -173,7 +172,7 @@ void Events_Overview::Ask_And_Remove() {
   if (answer != platform::Box_Answer::Yes || !Overview_Fra.Window.Loaded()) return;
   desk_.Select_Day(Clicked_Day());
   event_file_.Load_File();
-  event_file_.Check_For_Pre("", editor_content_());
+  event_file_.Check_For_Pre("", desk_.Editor_Content());
   if (!Overview_Fra.Window.Loaded()) return;
   Events_Lst.Remove_Item(entry);
   desk_.Refresh_Unless_Compact();

@@ -2,8 +2,6 @@
 // removes one. The sorting is done by a hidden list that keeps itself sorted, of texts that begin with a key.
 #pragma once
 
-#include <functional>
-
 #include "calendar/desk.h"
 #include "exchange/overview_lists.h"
 #include "toolkit/frame.h"
@@ -11,13 +9,10 @@
 
 namespace settings_window {
 
-/// What the editor holds at a moment: a removal that finds no line writes it as the day's event.
-using Editor_Content = std::function<events::Day_Event()>;
-
 class Events_Overview : public exchange::Overview_Lists {
  public:
   Events_Overview(toolkit::Frame& page, calendar::Desk& desk, events::Event_File& event_file, calendar::Dates& dates,
-                  platform::Message_Box& message_box, Editor_Content editor_content);
+                  platform::Message_Box& message_box);
 
   toolkit::Frame Overview_Fra;
   toolkit::Label Sort_Lbl;
@@ -67,7 +62,6 @@ class Events_Overview : public exchange::Overview_Lists {
   events::Event_File& event_file_;
   calendar::Dates& dates_;
   platform::Message_Box& message_box_;
-  const Editor_Content editor_content_;
 };
 
 }  // namespace settings_window

@@ -1,14 +1,11 @@
 #include "settings_window/events_tab.h"
 
-#include <utility>
-
 namespace settings_window {
 
 Events_Tab::Events_Tab(toolkit::Frame& page, calendar::Desk& desk, events::Event_File& event_file,
-                       calendar::Dates& dates, platform::Message_Box& message_box, Editor_Content editor_content)
+                       calendar::Dates& dates, platform::Message_Box& message_box)
     : Frame13(page, "Frame13"), Overview_Opt(Frame13, "Overview_Opt"), Stats_Opt(Frame13, "Stats_Opt"),
-      Overview(page, desk, event_file, dates, message_box, std::move(editor_content)),
-      Statistics(page, event_file, dates) {
+      Overview(page, desk, event_file, dates, message_box), Statistics(page, event_file, dates) {
   Frame13.Place({0, 0, 5145, 615});
   Frame13.Caption = "View";
   Overview_Opt.Place({225, 270, 2040, 240});

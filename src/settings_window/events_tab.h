@@ -9,9 +9,8 @@ namespace settings_window {
 
 class Events_Tab {
  public:
-  Events_Tab(
-      toolkit::Frame& page, calendar::Desk& desk, events::Event_File& event_file, calendar::Dates& dates,
-      platform::Message_Box& message_box, Editor_Content editor_content = [] { return events::Day_Event(); });
+  Events_Tab(toolkit::Frame& page, calendar::Desk& desk, events::Event_File& event_file, calendar::Dates& dates,
+             platform::Message_Box& message_box);
 
   toolkit::Frame Frame13;
   toolkit::Option_Button Overview_Opt, Stats_Opt;

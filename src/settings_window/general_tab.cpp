@@ -15,7 +15,8 @@ constexpr toolkit::Colour navy = toolkit::Rgb(0, 0, 128);
 
 constexpr const char* restart_notice = "Changes may not take effect till you restart your computer.";
 constexpr const char* icons_warning =
-    "Warning, this may not work on some machines and if it does it may conflict with the 'Use System Colours' option. Do "
+    "Warning, this may not work on some machines and if it does it may conflict with the 'Use System Colours' option. "
+    "Do "
     "you still want to proceed?";
 
 /// A list shows the entry of a stored number, the first for a number that it doesn't have.
@@ -69,8 +70,8 @@ void General_Tab::Make_Title_Frame() {
   Bar_Date_Cbo.Place({2655, 765, 2400, 330});
   for (const char* const item : {"H:mm", "HH:mm", "H:mm:ss", "HH:mm:ss", "h:mm AM/PM", "h:mm:ss AM/PM"})
     Bar_Time_Cbo.Add_Item(item);
-  for (const char* const item : {"mm/yyyy", "dd/mm/yyyy", "Month - yyyy", "d Month - yyyy", "Weekday - d month - yyyy",
-                                 "Use System Format"})
+  for (const char* const item :
+       {"mm/yyyy", "dd/mm/yyyy", "Month - yyyy", "d Month - yyyy", "Weekday - d month - yyyy", "Use System Format"})
     Bar_Date_Cbo.Add_Item(item);
 }
 
@@ -97,9 +98,9 @@ void General_Tab::Make_General_Frame() {
 }
 
 void General_Tab::Tie_Events() {
-  for (toolkit::Control* const control : {static_cast<toolkit::Control*>(&Bar_Time_Chk),
-                                          static_cast<toolkit::Control*>(&Bar_Time_Cbo),
-                                          static_cast<toolkit::Control*>(&Bar_Date_Cbo)})
+  for (toolkit::Control* const control :
+       {static_cast<toolkit::Control*>(&Bar_Time_Chk), static_cast<toolkit::Control*>(&Bar_Time_Cbo),
+        static_cast<toolkit::Control*>(&Bar_Date_Cbo)})
     control->On_Click = [this] { Show_Bar_Preview(); };
   Auto_Compact_Chk.On_Click = [this] { Auto_Compact_Chk_Click(); };
   packs_page_.Other_Display_Chk.On_Click = [this] { Other_Display_Chk_Click(); };
@@ -129,8 +130,7 @@ void General_Tab::Trans_Icons_Chk_Released(const toolkit::Mouse_Event& event) {
     message_box_.Show("Meridex", restart_notice, Box_Icon::Information, Box_Buttons::OK);
     return;
   }
-  const Box_Answer answer =
-      message_box_.Show("Meridex", icons_warning, Box_Icon::Question, Box_Buttons::Yes_No_Cancel);
+  const Box_Answer answer = message_box_.Show("Meridex", icons_warning, Box_Icon::Question, Box_Buttons::Yes_No_Cancel);
   if (answer != Box_Answer::Yes) Trans_Icons_Chk.Value = 0;
 }
 

@@ -11,9 +11,8 @@ namespace settings_window {
 
 class General_Tab {
  public:
-  General_Tab(toolkit::Frame& page, Wallpaper_Page& packs_page, calendar::Desk& desk,
-              settings::Stored_Settings& stored, settings::Run_At_Startup& run_at_startup,
-              platform::Message_Box& message_box);
+  General_Tab(toolkit::Frame& page, Wallpaper_Page& packs_page, calendar::Desk& desk, settings::Stored_Settings& stored,
+              settings::Run_At_Startup& run_at_startup, platform::Message_Box& message_box);
 
   toolkit::Frame Frame11;
   toolkit::Label Bar_Preview_Lbl;

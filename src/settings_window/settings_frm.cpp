@@ -5,8 +5,17 @@ namespace settings_window {
 namespace {
 
 /// The pages in the order of their tabs.
-enum Page { events_page, colours_page, general_page, style_page, tooltips_page, wallpaper_page, exchange_page, about_page,
-            page_count };
+enum Page {
+  events_page,
+  colours_page,
+  general_page,
+  style_page,
+  tooltips_page,
+  wallpaper_page,
+  exchange_page,
+  about_page,
+  page_count
+};
 
 constexpr int first_tab = 1;
 constexpr int default_tab = 4;
@@ -15,16 +24,15 @@ constexpr int default_tab = 4;
 
 Settings_Frm::Settings_Frm(toolkit::Backend& backend, const platform::System& system, const Program_Parts& parts)
     : Window(backend, "Settings_Frm", toolkit::Form_Border::Fixed_Dialog),
-      TabStrip1(Window, "TabStrip1",
-                {"Events", "Colours", "Settings", "Style && Position", "Tooltips", "Wallpaper", "Import\\Export", "About"}),
+      TabStrip1(
+          Window, "TabStrip1",
+          {"Events", "Colours", "Settings", "Style && Position", "Tooltips", "Wallpaper", "Import\\Export", "About"}),
       Settings_Fra(Window, "Settings_Fra", page_count),
       Events(Settings_Fra[events_page], parts.Desk, parts.Event_File, parts.Dates, system.Message_Box),
       Colours(Settings_Fra[colours_page], parts.Desk, parts.Stored, parts.Calendar, system.Pictures, system.Loop),
-      Packs_Page(Settings_Fra[wallpaper_page]),
-      General(Settings_Fra[general_page], Packs_Page, parts.Desk, parts.Stored, parts.Run_At_Startup,
-              system.Message_Box),
-      Style(Settings_Fra[style_page], Packs_Page, parts.Desk, parts.Stored, parts.Packs, parts.Browser,
-            parts.Calendar),
+      Packs_Page(Settings_Fra[wallpaper_page]), General(Settings_Fra[general_page], Packs_Page, parts.Desk,
+                                                        parts.Stored, parts.Run_At_Startup, system.Message_Box),
+      Style(Settings_Fra[style_page], Packs_Page, parts.Desk, parts.Stored, parts.Packs, parts.Browser, parts.Calendar),
       Tooltips(Settings_Fra[tooltips_page], parts.Dates, parts.Balloons, parts.Waits, parts.Calendar),
       Wallpaper(Packs_Page, Style, parts.Desk, parts.Stored, parts.Packs, parts.Browser, parts.Dates),
       Dialog1(Window, "Dialog1", system.File_Dialog),

@@ -216,14 +216,13 @@ void Style_Tab::Style_Preview() {
     Box_Preview_Img.Visible = false;
     return;
   }
-  const bool by_pack = packs_page_.Packs_Cbo.ListIndex() != -1 && Ticked(packs_page_.Theme_Use_Chk) &&
-                       Ticked(Theme_Style_Chk);
+  const bool by_pack =
+      packs_page_.Packs_Cbo.ListIndex() != -1 && Ticked(packs_page_.Theme_Use_Chk) && Ticked(Theme_Style_Chk);
   if (const int size = by_pack ? Pack_Size() : Option_Size(); size != no_size) Size_Box_Preview(size);
 }
 
 int Style_Tab::Pack_Size() {
-  const std::string value =
-      packs_.Get_Paper_Details(packs_page_.Preview_Sli.Value(), packs_page_.Packs_Cbo.Text());
+  const std::string value = packs_.Get_Paper_Details(packs_page_.Preview_Sli.Value(), packs_page_.Packs_Cbo.Text());
   return Size_Of_Style(packs::Get_Paper_BoxStyle(value));
 }
 
@@ -281,9 +280,7 @@ basic::Int16 Style_Tab::Chosen_Style(basic::Int16 none) const {
   return Style3_Opt.Value ? presentation::small_box : none;
 }
 
-basic::Int16 Style_Tab::Chosen_Position() const {
-  return Pos_Manual_Opt.Value ? manual_position : Get_Set_Position();
-}
+basic::Int16 Style_Tab::Chosen_Position() const { return Pos_Manual_Opt.Value ? manual_position : Get_Set_Position(); }
 
 void Style_Tab::Save_Theme() {
   stored_.Set(&Settings::Style, Chosen_Style(presentation::thin_box));

@@ -40,7 +40,9 @@ void Wallpaper_Tab::Tie_Events() {
   Page.Packs_Cbo.On_Click = [this] { Packs_Cbo_Click(); };
   Page.Theme_Use_Chk.On_Click = [this] { Theme_Use_Chk_Click(); };
   toolkit::Slider& slider = Page.Preview_Sli;
-  slider.On_Mouse_Down = [this](const toolkit::Mouse_Event& /*event*/) { Old_Preview_Month = Page.Preview_Sli.Value(); };
+  slider.On_Mouse_Down = [this](const toolkit::Mouse_Event& /*event*/) {
+    Old_Preview_Month = Page.Preview_Sli.Value();
+  };
   slider.On_Key_Down = [this] { Old_Preview_Month = Page.Preview_Sli.Value(); };
   slider.On_Scroll = [this] { Page.Preview_Sli.Text = Month_Name(Page.Preview_Sli.Value); };
   slider.On_Change = [this] { Preview_Sli_Change(); };

@@ -11,9 +11,10 @@ class Command_Button : public Control, public Font_Properties {
   Command_Button(const Container& container, std::string name, int index = -1);
 
   Property<std::string> Caption{*this, Aspect::Caption};  ///< "&" marks the shortcut
-  Property<platform::Stock_Picture> Picture{*this, Aspect::Appearance, platform::Stock_Picture::None};  ///< above the caption
-  Property<bool> Default{*this, Aspect::Default_Button};  ///< the Enter key presses it
-  Property<bool> Cancel{*this, Aspect::Default_Button};   ///< the Escape key presses it
+  Property<platform::Stock_Picture> Picture{*this, Aspect::Appearance,
+                                            platform::Stock_Picture::None};  ///< above the caption
+  Property<bool> Default{*this, Aspect::Default_Button};                     ///< the Enter key presses it
+  Property<bool> Cancel{*this, Aspect::Default_Button};                      ///< the Escape key presses it
 
   Property<bool> Held{*this, Aspect::Held};  ///< drawn as pressed down
 

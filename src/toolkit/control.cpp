@@ -21,9 +21,9 @@ Length& Length::operator=(double value) {
 }
 
 Control::Control(const Container& container, std::string name, int index)
-    : Name(std::move(name)), Index(index), Window(container.Window), In(container.Frame), Left(*this, &Bounds::Left, Axis::Across),
-      Top(*this, &Bounds::Top, Axis::Down), Width(*this, &Bounds::Width, Axis::Across),
-      Height(*this, &Bounds::Height, Axis::Down) {
+    : Name(std::move(name)), Index(index), Window(container.Window), In(container.Frame),
+      Left(*this, &Bounds::Left, Axis::Across), Top(*this, &Bounds::Top, Axis::Down),
+      Width(*this, &Bounds::Width, Axis::Across), Height(*this, &Bounds::Height, Axis::Down) {
   Window.Add(*this);
 }
 

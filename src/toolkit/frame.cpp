@@ -11,7 +11,8 @@ Frame::Frame(const Container& container, std::string name, int index)
 
 void Frame::Changed(Aspect aspect) {
   Control::Changed(aspect);
-  if (aspect == Aspect::Bounds || aspect == Aspect::Visible || aspect == Aspect::Enabled) Window.Contents_Changed(*this, aspect);
+  if (aspect == Aspect::Bounds || aspect == Aspect::Visible || aspect == Aspect::Enabled)
+    Window.Contents_Changed(*this, aspect);
 }
 
 }  // namespace toolkit

@@ -37,7 +37,8 @@ bool Option_Button::Tab_Stop() const {
   const auto group = Group();
   const auto is_on = [](const Option_Button* option) { return option->Value() && option->Can_Have_Focus(); };
   if (std::any_of(group.begin(), group.end(), is_on)) return Value;
-  const auto first = std::find_if(group.begin(), group.end(), [](const auto* option) { return option->Can_Have_Focus(); });
+  const auto first =
+      std::find_if(group.begin(), group.end(), [](const auto* option) { return option->Can_Have_Focus(); });
   return first != group.end() && *first == this;
 }
 

@@ -23,7 +23,7 @@ void Balloons::Balloon_Tooltip(const std::string& text, std::int32_t days) {
 void Balloons::Show_Balloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
                             toolkit::Form& owner) {
   Drop_Closed();
-  // Shared: rebuilding the month can bring up a message, under which another balloon may open and drop those that closed.
+  // Shared: rebuilding the month may show a message box, under which this balloon may close and the next one drop it.
   const auto balloon = std::make_shared<Frm_Balloon>(backend_, screen_, main_frm_, calendar_, calls_, &owner);
   balloons_.push_back(balloon);
   balloon->SetBalloon(title, text, left, top, "i", "Tahoma, if exists", 8);
@@ -31,7 +31,7 @@ void Balloons::Show_Balloon(const std::string& title, const std::string& text, s
 }
 
 void Balloons::Unload_All() {
-  // A copy: what a closing brings about may open another.
+  // A copy: closing a balloon calls handlers, which may open another one.
   for (const auto& balloon : std::vector(balloons_)) balloon->HideBalloon();
 }
 

@@ -1,4 +1,4 @@
-// The opening of balloons: for a day box, with the day's distance from today as its title, and at a given place.
+// Opens balloons: for a day box, with the day's distance from today as its title, or at a given place.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,8 @@
 
 namespace tooltips {
 
-/// "Yesterday", "Today", "Tomorrow", or the number of days with " days ago" or " days time". `days` from today on.
+/// "Yesterday", "Today", "Tomorrow", or the number of days with " days ago" or " days time". `days` counts
+/// from today and is negative before it.
 std::string Balloon_Title(std::int32_t days);
 
 class Balloons {
@@ -16,19 +17,20 @@ class Balloons {
   Balloons(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
            state::Calendar_State& calendar, Balloon_Calls calls);
 
-  /// Opens a balloon for box Tip_Box with an event's text. The box's day lies `days` days from today.
+  /// Opens a balloon for box Tip_Box with an event's text. The day of the box lies `days` days from today. Events may
+  /// be served before the balloon is shown: the month is rebuilt first, which may show a message box.
   void Balloon_Tooltip(const std::string& text, std::int32_t days);
 
-  /// Opens a balloon at a place in twips on the screen, before a window that stays behind it. A 0 is worked out from box
-  /// Tip_Box.
+  /// Opens a balloon at a place in twips on the screen, in front of `owner`. A 0 is replaced by the place beside
+  /// box Tip_Box.
   void Show_Balloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
                     toolkit::Form& owner);
 
-  /// Closes the balloon that is open, if one is.
+  /// Closes every balloon that is open.
   void Unload_All();
 
  private:
-  /// A balloon can't go while it closes itself, so those that have closed go when the next one opens.
+  /// A balloon can't be destroyed while it closes itself, so the closed ones are destroyed when the next one opens.
   void Drop_Closed();
 
   toolkit::Backend& backend_;

@@ -1,5 +1,5 @@
-// The balloon: a small window with rounded corners that shows a title, an icon and a text beside a day box, and closes as
-// soon as the user turns to anything else.
+// The balloon: a small window with rounded corners that shows a title, an icon and a text beside a day box, and closes
+// as soon as the user turns to anything else.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@
 
 namespace tooltips {
 
-/// What a balloon calls of the calendar.
+/// What a balloon calls in the calendar.
 struct Balloon_Calls {
   std::function<void()> Rebuild_Month;  ///< on each opening: boxes, events and colours of the month on view
   std::function<void()> Idle_Restart;   ///< on each closing
@@ -19,7 +19,7 @@ struct Balloon_Calls {
 
 class Frm_Balloon {
  public:
-  /// `owner` is the window that it stays before, nullptr for the calendar's.
+  /// The balloon stays in front of `owner`; nullptr means the calendar's window.
   Frm_Balloon(toolkit::Backend& backend, platform::Screen& screen, presentation::Main_Frm& main_frm,
               state::Calendar_State& calendar, const Balloon_Calls& calls, toolkit::Form* owner = nullptr);
   Frm_Balloon(const Frm_Balloon&) = delete;
@@ -32,13 +32,14 @@ class Frm_Balloon {
   toolkit::Control_Array<toolkit::Image> imgIconXP;  ///< the stock of icons, hidden
   toolkit::Label lblText;
 
-  /// Fills, sizes and places the balloon; showing it is the caller's. `left` and `top` in twips on the screen, 0 for a
-  /// place beside box Tip_Box. The icon "i", in either case, is the information icon; any other value means none. The
-  /// font "Tahoma, if exists" falls back where it doesn't; its size is in points.
+  /// Loads, fills, sizes and places the balloon; the caller shows it. `left` and `top` are twips on the screen; a 0 is
+  /// replaced by the place beside box Tip_Box. The icon "i", in either letter case, is the information icon; any other
+  /// text means none. The font name "Tahoma, if exists" means Tahoma, or "MS Sans Serif" if the system has no Tahoma.
+  /// `font_size` is in points.
   void SetBalloon(const std::string& title, const std::string& text, std::int32_t left, std::int32_t top,
                   const std::string& icon_type, const std::string& font_name, double font_size);
 
-  /// Shows it and makes it active. From here on it closes as soon as it isn't the active window.
+  /// Shows the balloon and makes it active. From then on it closes as soon as it isn't the active window.
   void Show();
 
   /// Unloads the window.
@@ -66,7 +67,7 @@ class Frm_Balloon {
   toolkit::Timer close_timer_;
 };
 
-/// Whether the font "Tahoma" is present: the system gives a missing font another name.
+/// Returns true if the system has the font "Tahoma": for a missing font it names the one that it uses instead.
 bool Tahoma_Exists(toolkit::Backend& backend);
 
 }  // namespace tooltips

@@ -13,7 +13,7 @@ platform::Pixel_Area Primary_Screen::Work_Area() {
 }
 
 void Desktop_Picture::Set_Picture(const std::string& path) {
-  std::string copy = path;  // the call takes no constant
+  std::string copy = path;  // the call wants a text that isn't constant
   SystemParametersInfoA(SPI_SETDESKWALLPAPER, 0, copy.data(), SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
 }
 
@@ -29,8 +29,8 @@ int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int pa
   return static_cast<int>(SendMessageA(To_Window(window), message, 0, parameter));
 }
 
-// The window stays a popup: as a child by its style it could never be the active window. For the move alone it is one,
-// since some systems make a popup active that they move.
+// The window keeps the style of a popup, since a window with the style of a child can never be active. Only during the
+// move it has the style of a child, since some systems make a popup active when it moves to another parent.
 void Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
   const HWND moved = To_Window(window);
   const LONG style = GetWindowLongA(moved, GWL_STYLE);

@@ -50,6 +50,25 @@ Handle_Owner Open(const std::string& path, DWORD access, DWORD sharing, DWORD ho
 
 DWORD Attributes(const std::string& path) { return GetFileAttributesA(path.c_str()); }
 
+/// The files or the folders of a folder, which has itself and the one above among its folders.
+std::vector<std::string> Names_In(const std::string& folder, bool of_folders) {
+  WIN32_FIND_DATAA found;
+  const Search_Owner search(Valid_Or_None(FindFirstFileA((folder + "\\*").c_str(), &found)));
+  std::vector<std::string> names;
+  if (!search) {
+    // The root of a drive may be there and empty; any other folder holds itself.
+    if (GetLastError() == ERROR_FILE_NOT_FOUND) return names;
+    throw Run_Error(Error_Number::Path_Not_Found);
+  }
+  do {
+    const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    if (is_folder == of_folders) names.emplace_back(found.cFileName);
+  } while (FindNextFileA(search.Get(), &found) != 0);
+  std::sort(names.begin(), names.end(),
+            [](const std::string& a, const std::string& b) { return _stricmp(a.c_str(), b.c_str()) < 0; });
+  return names;
+}
+
 }  // namespace
 
 void Throw_File_Error() {
@@ -78,7 +97,7 @@ void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
   const DWORD size = GetFileSize(file.Get(), nullptr);
   if (size > static_cast<DWORD>(std::numeric_limits<std::int32_t>::max()))
     throw Run_Error(Error_Number::Path_File_Access);
-  // Only what the buffer grows by is cleared first: it comes back with the size that it had.
+  // The buffer keeps its size from one reading to the next, so only what it grows by has to be cleared.
   buffer.resize(size);
   DWORD read = 0;
   if (ReadFile(file.Get(), buffer.data(), size, &read, nullptr) == 0) Throw_File_Error();
@@ -89,7 +108,7 @@ std::unique_ptr<basic::Output_File> Disk_Files::Create(const std::string& path) 
   return std::make_unique<Disk_Output>(Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS));
 }
 
-// The attributes are asked for by the exact path: unlike a search, that takes "*" and "?" for themselves.
+// Asks for the attributes of the path: a search would take "*" and "?" in it as wildcards.
 bool Disk_Files::File_Exists(const std::string& path) {
   const DWORD attributes = Attributes(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
@@ -97,20 +116,11 @@ bool Disk_Files::File_Exists(const std::string& path) {
 
 bool Disk_Files::Folder_Exists(const std::string& path) { return Attributes(path) != INVALID_FILE_ATTRIBUTES; }
 
-std::vector<std::string> Disk_Files::File_Names(const std::string& folder) {
-  WIN32_FIND_DATAA found;
-  const Search_Owner search(Valid_Or_None(FindFirstFileA((folder + "\\*").c_str(), &found)));
-  std::vector<std::string> names;
-  if (!search) {
-    // The root of a drive may be there and empty; any other folder holds itself.
-    if (GetLastError() == ERROR_FILE_NOT_FOUND) return names;
-    throw Run_Error(Error_Number::Path_Not_Found);
-  }
-  do {
-    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
-  } while (FindNextFileA(search.Get(), &found) != 0);
-  std::sort(names.begin(), names.end(),
-            [](const std::string& a, const std::string& b) { return _stricmp(a.c_str(), b.c_str()) < 0; });
+std::vector<std::string> Disk_Files::File_Names(const std::string& folder) { return Names_In(folder, false); }
+
+std::vector<std::string> Disk_Files::Folder_Names(const std::string& folder) {
+  std::vector<std::string> names = Names_In(folder, true);
+  std::erase_if(names, [](const std::string& name) { return name == "." || name == ".."; });
   return names;
 }
 

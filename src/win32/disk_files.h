@@ -14,6 +14,7 @@ class Disk_Files final : public platform::Files {
   bool File_Exists(const std::string& path) override;
   bool Folder_Exists(const std::string& path) override;
   std::vector<std::string> File_Names(const std::string& folder) override;
+  std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
   basic::Moment Last_Change(const std::string& path) override;
@@ -24,7 +25,7 @@ class Disk_Files final : public platform::Files {
   std::string path_, folder_;
 };
 
-/// Throws the error that the last call of the system for a file ended with: 53, 61, 70, 75 or 76.
+/// Throws error 53, 61, 70, 75 or 76, for the reason why the system's last call for a file failed.
 [[noreturn]] void Throw_File_Error();
 
 }  // namespace win32

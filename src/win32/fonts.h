@@ -25,16 +25,17 @@ class Fonts {
  public:
   explicit Fonts(const Scale& scale);
 
-  /// The font of that description; it stays for as long as the program runs.
+  /// The font of that description, valid for as long as the program runs.
   Face& Get(const toolkit::Font& description);
 
-  /// Pixels. Line ends have no width.
+  /// The width of the text in pixels. Line ends have no width.
   int Width(Face& face, std::string_view text);
 
-  /// Pixels: the height of the text with its lines broken at blanks where the width (pixels) ends, one line at least.
+  /// The height in pixels of the text with its lines broken at blanks, so that they fit the width (pixels); at least
+  /// one line.
   int Height(const Face& face, std::string_view text, int width);
 
-  /// The name of the font that the system has in its place.
+  /// The name of the font that the system really uses for it.
   std::string Name_Of(const Face& face);
 
   /// The number of bytes of the longest beginning that is at most `limit` pixels wide; it never splits a character.
@@ -47,7 +48,7 @@ class Fonts {
 
   const Scale& scale_;
   std::vector<std::unique_ptr<Face>> faces_;
-  Face* last_ = nullptr;  // the one asked for last: measures come many in a row
+  Face* last_ = nullptr;  // the one asked for last: many measures in a row are of the same font
   Context_Owner context_;
   bool double_bytes_ = false;  // a code page with characters of two bytes
 };

@@ -1,8 +1,9 @@
-// What the system tells a window, decoded into the input functions of its form.
+// Decodes the system's messages to a window into calls of its form's input.
 #include <algorithm>
 
 #include "toolkit/input.h"
 #include "win32/form_window.h"
+#include "win32/graphics.h"
 
 namespace win32 {
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr UINT check_tip = WM_APP;  // tips or places have changed under a pointer that may be at rest
 constexpr UINT tell_of_activity = WM_APP + 1;
+constexpr UINT style_changed = 0x031A;  // WM_THEMECHANGED, of the newer systems
 
 using toolkit::Mouse_Button;
 
@@ -29,7 +31,7 @@ LRESULT CALLBACK Form_Window::Procedure(HWND window, UINT message, WPARAM w, LPA
   LRESULT result = 0;
   bool done = false;
   const bool whole = self->context_.Guard.Run([&] { done = self->Message(message, w, l, result); });
-  // A program that is ending lets nobody close its windows but itself.
+  // A program that is ending closes its windows itself.
   if (done || (!whole && message == WM_CLOSE)) return result;
   return DefWindowProcA(window, message, w, l);
 }
@@ -37,16 +39,22 @@ LRESULT CALLBACK Form_Window::Procedure(HWND window, UINT message, WPARAM w, LPA
 bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
   if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK) return Mouse_Message(message, w, l);
   switch (message) {
-    case WM_PAINT: Paint(); return true;
-    case WM_ERASEBKGND: result = 1; return true;
+    case WM_PAINT: surface_.Paint(); return true;
+    case WM_ERASEBKGND: result = 1; return Erase(reinterpret_cast<HDC>(w));
+    case WM_PRINTCLIENT: return Erase(reinterpret_cast<HDC>(w));
     case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_DRAWITEM:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN: return Child_Message(message, w, l, result);
-    case WM_SETCURSOR: return Set_Pointer(w, l);
+    case WM_SETCURSOR: result = 1; return Set_Pointer(reinterpret_cast<HWND>(w), LOWORD(l));
     case WM_CAPTURECHANGED: Capture_Changed(reinterpret_cast<HWND>(l)); return true;
     case WM_ACTIVATE: return Active_Changed(LOWORD(w) != WA_INACTIVE);
     case WM_WINDOWPOSCHANGED: Place_Changed(*reinterpret_cast<const WINDOWPOS*>(l)); return false;
-    case WM_SYSCOLORCHANGE: Repaint_All(); return false;
+    case WM_SYSCOLORCHANGE:
+    case style_changed: Look_Changed(message); return false;
     case WM_CLOSE: form_.Close_Requested(); return true;
     case check_tip: {
       tip_check_posted_ = false;
@@ -108,30 +116,65 @@ void Form_Window::Capture_Changed(HWND to) {
 }
 
 bool Form_Window::Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
-  if (message != WM_COMMAND) {
-    result = Ground(reinterpret_cast<HDC>(w));
-    return true;
+  const auto sent_by = [this](HWND window) { return Native(window); };
+  switch (message) {
+    case WM_COMMAND:
+      if (Native_Control* const sender = sent_by(reinterpret_cast<HWND>(l))) sender->Command(HIWORD(w));
+      return true;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+      if (Native_Control* const sender = sent_by(reinterpret_cast<HWND>(l))) sender->Scrolled(LOWORD(w));
+      return true;
+    case WM_NOTIFY: {
+      const auto& header = *reinterpret_cast<const NMHDR*>(l);
+      Native_Control* const sender = sent_by(header.hwndFrom);
+      if (sender != nullptr) sender->Notified(header.code);
+      return sender != nullptr;
+    }
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
+      if (Native_Control* const sender = sent_by(item.hwndItem)) sender->Draw(item);
+      result = 1;
+      return true;
+    }
+    default:
+      result = reinterpret_cast<LRESULT>(Ground());
+      SetBkColor(reinterpret_cast<HDC>(w), ground_colour_);
+      return true;
   }
-  const auto sender = std::find_if(natives_.begin(), natives_.end(),
-                                   [=](const auto& native) { return native->Window() == reinterpret_cast<HWND>(l); });
-  if (sender != natives_.end()) (*sender)->Command(HIWORD(w));
-  return true;
 }
 
 /// The brush behind a native control, which shows its form's ground.
-LRESULT Form_Window::Ground(HDC context) {
+HBRUSH Form_Window::Ground() {
   const COLORREF colour = To_Colour(form_.BackColor);
   if (!ground_ || colour != ground_colour_) {
     ground_.Reset(CreateSolidBrush(colour));
     ground_colour_ = colour;
   }
-  SetBkColor(context, colour);
-  return reinterpret_cast<LRESULT>(ground_.Get());
+  return ground_.Get();
+}
+
+/// The painting covers the whole window; a native control that asks for what lies behind it gets the ground.
+bool Form_Window::Erase(HDC context) {
+  if (WindowFromDC(context) == Window()) return true;
+  RECT client;
+  GetClientRect(Window(), &client);
+  FillRect(context, &client, Ground());
+  return true;
+}
+
+/// The colours, or the style of all that is drawn. The newer kinds of controls hear of colours by their parents alone.
+void Form_Window::Look_Changed(UINT message) {
+  context_.Themes.Forget();
+  surface_.Repaint_All();
+  if (message != WM_SYSCOLORCHANGE) return;
+  for (const auto& native : natives_) SendMessageA(native->Window(), message, 0, 0);
 }
 
 bool Form_Window::Active_Changed(bool active) {
   toolkit::Input& input = form_.System().Input;
-  // A form may unload by what it is told, which must not happen while the system is changing the active window.
+  // Posted, since the form's handler may unload it, which must not happen while the system is changing the active
+  // window.
   PostMessageA(Window(), tell_of_activity, 0, 0);
   if (active) {
     context_.Active = this;
@@ -143,7 +186,8 @@ bool Form_Window::Active_Changed(bool active) {
   return false;
 }
 
-/// A place that the user gave the window is the form's; one that the form gave it is kept to the fraction of a pixel.
+/// A place that the user chose is written to the form. A place that the form set stays there, with its fraction of a
+/// pixel.
 void Form_Window::Place_Changed(const WINDOWPOS& place) {
   if ((place.flags & SWP_NOMOVE) != 0 || IsIconic(Window()) != 0) return;
   if (place.x == place_.left && place.y == place_.top) return;
@@ -152,11 +196,31 @@ void Form_Window::Place_Changed(const WINDOWPOS& place) {
   form_.Top.Keep(place.y * context_.Scale.Y);
 }
 
-bool Form_Window::Set_Pointer(WPARAM over, LPARAM part) const {
-  constexpr int four_arrows = 5;
-  if (reinterpret_cast<HWND>(over) != Window() || LOWORD(part) != HTCLIENT) return false;
-  SetCursor(LoadCursorA(nullptr, form_.MousePointer == four_arrows ? IDC_SIZEALL : IDC_ARROW));
+/// Returns false where the window under the pointer has a shape of its own.
+bool Form_Window::Set_Pointer(HWND over, WORD part) const {
+  if (context_.Pointers.Busy()) {
+    context_.Pointers.Show(toolkit::Pointer::Hourglass);
+    return true;
+  }
+  POINT at;
+  if (part != HTCLIENT || GetCursorPos(&at) == 0 || ScreenToClient(Window(), &at) == 0) return false;
+  const toolkit::Control* const control = Control_At(form_, context_.Scale, at);
+  const bool own = control != nullptr && control->MousePointer() != toolkit::Pointer::Default;
+  const toolkit::Pointer pointer = own ? control->MousePointer() : form_.MousePointer();
+  if (over != Window() && pointer == toolkit::Pointer::Default) return false;
+  context_.Pointers.Show(pointer);
   return true;
+}
+
+/// The pointer of the form, or of the control, has changed: it is shown at once where it is over that. While the mouse is
+/// held the pointer is that of what changes it.
+void Form_Window::Show_Pointer(const toolkit::Control* changed) const {
+  if (context_.Pointers.Busy()) return;
+  if (changed != nullptr && GetCapture() == Window()) return context_.Pointers.Show(changed->MousePointer);
+  POINT at;
+  if (GetCursorPos(&at) == 0) return;
+  const HWND under = WindowFromPoint(at);
+  if (under == Window() || IsChild(Window(), under) != 0 || GetCapture() == Window()) Set_Pointer(Window(), HTCLIENT);
 }
 
 void Form_Window::Tips_Changed() {
@@ -166,21 +230,24 @@ void Form_Window::Tips_Changed() {
 
 void Form_Window::Follow_Tip(POINT at) {
   const toolkit::Control* const control = Control_At(form_, context_.Scale, at);
-  if (control == nullptr || control->ToolTipText().empty()) tip_.Remove();
-  else tip_.Watch(Window(), context_.Scale.Pixels(control->In_Twips()), control->ToolTipText());
+  // A native control has a tip of its own.
+  if (control == nullptr || control->ToolTipText().empty() || Native(*control) != nullptr) tip_.Remove();
+  else tip_.Watch(Window(), context_.Scale.Pixels(control->In_Window()), control->ToolTipText());
 }
 
 bool Form_Window::Take_Key(const MSG& message) {
   toolkit::Input& input = form_.System().Input;
   const int code = static_cast<int>(message.wParam);
   const toolkit::Key key{code, GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0, GetKeyState(VK_MENU) < 0};
-  // F10 is a key like the others: the system would look for a menu bar.
+  // F10 is used up here like any other key: the system would look for a menu bar.
   switch (message.message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
       // The system hides the marks of focus and accelerators until the keys are used.
-      if (code == VK_TAB)
+      if (code == VK_TAB || (code >= VK_PRIOR && code <= VK_DOWN))
         SendMessageA(Window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+      if (const Native_Control* const native = Native(message.hwnd); native != nullptr && native->Keeps_Keys())
+        if (code != VK_TAB) return false;
       return input.Key_Down(form_, key) || code == VK_F10;
     case WM_SYSCHAR: return input.Accelerator(form_, static_cast<char>(code));
     case WM_KEYUP:

@@ -26,13 +26,14 @@ HRGN Make_Region(const std::vector<toolkit::Pixel_Rect>& rects) {
   return ExtCreateRegion(nullptr, static_cast<DWORD>(bytes.size()), data);
 }
 
-/// A window without a frame has none: nobody sees it, and other instances look for this one by its title alone.
+/// A window without a frame gets no title: nobody would see it, and a newer instance that looks for this one by title
+/// must find its hidden window.
 const char* Title_Of(const toolkit::Form& form) {
   return form.Border == toolkit::Form_Border::None ? "" : form.Caption().c_str();
 }
 
-/// The window that this one stays in front of. The shell's window, to which the calendar belongs as a part of the desktop,
-/// isn't burdened with windows of ours.
+/// The window that this one stays in front of. The shell's window, to which the calendar belongs as a part of the
+/// desktop, never owns windows of ours.
 HWND Owner_Of(const toolkit::Form& form) {
   if (form.Owner == nullptr || !form.Owner->Loaded()) return nullptr;
   const HWND owner = To_Window(form.Owner->Handle());
@@ -40,22 +41,6 @@ HWND Owner_Of(const toolkit::Form& form) {
   const bool embedded = ancestor != nullptr && ancestor(owner, GA_PARENT) != GetDesktopWindow();
   return embedded ? nullptr : owner;
 }
-
-/// The painting of what of a window is marked.
-class Painting {
- public:
-  explicit Painting(HWND window) : window_(window) { BeginPaint(window, &session_); }
-  Painting(const Painting&) = delete;
-  Painting& operator=(const Painting&) = delete;
-  ~Painting() { EndPaint(window_, &session_); }
-
-  [[nodiscard]] HDC Target() const { return session_.hdc; }
-  [[nodiscard]] const RECT& Area() const { return session_.rcPaint; }
-
- private:
-  HWND window_;
-  PAINTSTRUCT session_{};
-};
 
 }  // namespace
 
@@ -69,8 +54,9 @@ Frame_Style Style_Of(toolkit::Form_Border border) {
 toolkit::Control* Control_At(const toolkit::Form& form, const Scale& scale, POINT pixel) {
   const auto& controls = form.Controls();
   const auto hit = std::find_if(controls.rbegin(), controls.rend(), [&](const toolkit::Control* control) {
-    const RECT place = scale.Pixels(control->In_Twips());
-    return control->Visible && PtInRect(&place, pixel) != 0;
+    if (!control->On_View()) return false;
+    const RECT place = scale.Pixels(control->In_Window());
+    return PtInRect(&place, pixel) != 0;
   });
   return hit == controls.rend() ? nullptr : *hit;
 }
@@ -87,7 +73,7 @@ void Form_Window::Register_Class(HINSTANCE instance) {
 }
 
 Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
-    : form_(form), context_(context), place_(Wanted_Place()), tip_(context.Common_Controls) {
+    : form_(form), context_(context), place_(Wanted_Place()), surface_(form, context), tip_(context.Common_Controls) {
   Register_Class(context.Instance);
   const Frame_Style frame = Style_Of(form.Border);
   window_.Reset(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
@@ -102,10 +88,9 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
     }
   }
   if (!form.Accepts_Input()) EnableWindow(Window(), FALSE);
-  for (toolkit::Control* const control : form.Controls()) {
+  surface_.Begin(Window());
+  for (toolkit::Control* const control : form.Controls())
     if (auto native = Make_Native_Control(Window(), *control, context)) natives_.push_back(std::move(native));
-    else Painted(*control);
-  }
   context.Windows.Add(*this);
 }
 
@@ -118,7 +103,7 @@ Form_Window::~Form_Window() {
 }
 
 void Form_Window::Show(bool activate) {
-  shown_ = true;
+  surface_.Set_Shown(true);
   Settle();
   context_.Note_Pointer(form_.System().Input);
   constexpr UINT stay = SWP_NOMOVE | SWP_NOSIZE;
@@ -129,12 +114,12 @@ void Form_Window::Show(bool activate) {
 }
 
 void Form_Window::Hide() {
-  shown_ = false;
+  surface_.Set_Shown(false);
   context_.Note_Pointer(form_.System().Input);
   ShowWindow(Window(), SW_HIDE);
 }
 
-// Below another program's window a press makes that one active, and gives it the keys, unless it is told otherwise.
+// Inside another program's window a press would make that window active and give it the keys.
 void Form_Window::Activate() {
   if (GetActiveWindow() != Window()) SetActiveWindow(Window());
   const HWND focus = GetFocus();
@@ -142,6 +127,25 @@ void Form_Window::Activate() {
 }
 
 bool Form_Window::Minimised() const { return IsIconic(Window()) != 0; }
+
+// An active window gives the activity on, any other leaves it where it is.
+void Form_Window::Set_Minimised(bool minimised) {
+  const int how = GetActiveWindow() == Window() ? SW_MINIMIZE : SW_SHOWMINNOACTIVE;
+  ShowWindow(Window(), minimised ? how : SW_RESTORE);
+  // Not every system takes the activity from a window without a box for that.
+  if (minimised && GetActiveWindow() == Window()) SetActiveWindow(Next_Behind());
+}
+
+/// The next window of the program behind this one that the user can reach; nullptr if there is none.
+HWND Form_Window::Next_Behind() const {
+  const auto& windows = context_.Windows.All();
+  for (HWND next = GetWindow(Window(), GW_HWNDNEXT); next != nullptr; next = GetWindow(next, GW_HWNDNEXT)) {
+    const bool reachable = IsWindowVisible(next) != 0 && IsWindowEnabled(next) != 0 && IsIconic(next) == 0;
+    const auto is_next = [next](const Program_Window* window) { return window->Window() == next; };
+    if (reachable && std::any_of(windows.begin(), windows.end(), is_next)) return next;
+  }
+  return nullptr;
+}
 
 void Form_Window::Focus(toolkit::Control* control) {
   const Native_Control* const native = control != nullptr ? Native(*control) : nullptr;
@@ -157,10 +161,15 @@ void Form_Window::Form_Changed(toolkit::Aspect aspect) {
   if (aspect == Bounds) moved_ = true;
   if (aspect == Caption) SetWindowTextA(Window(), Title_Of(form_));
   if (aspect == Enabled) EnableWindow(Window(), form_.Accepts_Input());
-  if (aspect == Appearance) Repaint_All();
-  POINT at;
-  if (aspect == Pointer && GetCursorPos(&at) != 0 && (GetCapture() == Window() || WindowFromPoint(at) == Window()))
-    Set_Pointer(reinterpret_cast<WPARAM>(Window()), HTCLIENT);
+  if (aspect == Appearance) surface_.Repaint_All();
+  if (aspect == Pointer) Show_Pointer(nullptr);
+}
+
+// The native controls paint themselves, in the same way.
+void Form_Window::Paint_Now() {
+  Settle();
+  UpdateWindow(Window());
+  for (const auto& native : natives_) UpdateWindow(native->Window());
 }
 
 RECT Form_Window::Wanted_Place() const {
@@ -187,7 +196,12 @@ void Form_Window::Set_Round_Region(int width, int height, int corner) {
 void Form_Window::Settle() {
   if (std::exchange(moved_, false)) Settle_Place();
   if (std::exchange(cut_, false)) Settle_Region();
-  if (all_marked_ || !marks_.empty()) Settle_Marks();
+  if (std::exchange(natives_changed_, false)) Settle_Natives();
+  surface_.Settle();
+}
+
+void Form_Window::Settle_Natives() {
+  for (const auto& native : natives_) native->Settle();
 }
 
 void Form_Window::Settle_Place() {
@@ -196,51 +210,33 @@ void Form_Window::Settle_Place() {
   const bool same_size = wanted.right - wanted.left == place_.right - place_.left &&
                          wanted.bottom - wanted.top == place_.bottom - place_.top;
   // An outline follows the size as a whole.
-  if (!same_size && form_.Outline_Corner != 0) Repaint_All();
+  if (!same_size && form_.Outline_Corner != 0) surface_.Repaint_All();
   place_ = wanted;
+  if (Minimised()) return Place_For_Return();
   context_.Note_Pointer(form_.System().Input);
   SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
+/// A window that is an icon has its place when it comes back. The system counts that from the corner of the work area.
+void Form_Window::Place_For_Return() const {
+  WINDOWPLACEMENT placement = {};
+  placement.length = sizeof placement;
+  GetWindowPlacement(Window(), &placement);
+  placement.rcNormalPosition = place_;
+  RECT work_area = {};
+  if ((Style_Of(form_.Border).Extended & WS_EX_TOOLWINDOW) == 0)
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
+  OffsetRect(&placement.rcNormalPosition, -work_area.left, -work_area.top);
+  placement.showCmd = SW_SHOWMINNOACTIVE;
+  SetWindowPlacement(Window(), &placement);
+}
+
 void Form_Window::Settle_Region() {
   context_.Note_Pointer(form_.System().Input);
-  // From here on the region is the system's.
+  // From here on the system owns the region.
   SetWindowRgn(Window(), new_region_.Take(), TRUE);
-  Repaint_All();
-}
-
-void Form_Window::Settle_Marks() {
-  constexpr std::size_t few = 4;
-  if (std::exchange(all_marked_, false)) {
-    InvalidateRect(Window(), nullptr, FALSE);
-  } else if (marks_.size() <= few) {
-    for (const RECT& mark : marks_) InvalidateRect(Window(), &mark, FALSE);
-  } else {
-    // What lies between them is painted faster than each of them is told.
-    RECT all = {};
-    for (const RECT& mark : marks_) UnionRect(&all, &all, &mark);
-    InvalidateRect(Window(), &all, FALSE);
-  }
-  marks_.clear();
-}
-
-void Form_Window::Repaint_All() { all_marked_ = shown_; }
-
-/// The entry of a label or picture; nullptr for any other control.
-Painted_Control* Form_Window::Painted(const toolkit::Control& control) {
-  const auto known = std::find_if(painted_.begin(), painted_.end(),
-                                  [&](const Painted_Control& painted) { return painted.Control == &control; });
-  if (known != painted_.end()) return &*known;
-  const auto* const label = dynamic_cast<const toolkit::Label*>(&control);
-  const auto* const image = dynamic_cast<const toolkit::Image*>(&control);
-  if (label == nullptr && image == nullptr) return nullptr;
-  Painted_Control& painted = painted_.emplace_back();
-  painted.Control = &control;
-  painted.Label = label;
-  painted.Image = image;
-  Update_Painted(painted, false);
-  return &painted;
+  surface_.Repaint_All();
 }
 
 Native_Control* Form_Window::Native(const toolkit::Control& control) const {
@@ -249,52 +245,22 @@ Native_Control* Form_Window::Native(const toolkit::Control& control) const {
   return found == natives_.end() ? nullptr : found->get();
 }
 
-void Form_Window::Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) {
-  if (Native_Control* const native = Native(control)) native->Changed(aspect);
-  else if (Painted_Control* const painted = Painted(control)) Painted_Changed(*painted, aspect);
+Native_Control* Form_Window::Native(HWND window) const {
+  const auto found =
+      std::find_if(natives_.begin(), natives_.end(), [&](const auto& native) { return native->Window() == window; });
+  return found == natives_.end() ? nullptr : found->get();
 }
 
-void Form_Window::Painted_Changed(Painted_Control& painted, toolkit::Aspect aspect) {
+void Form_Window::Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) {
   using enum toolkit::Aspect;
-  switch (aspect) {
-    case Bounds:
-    case Visible: Update_Painted(painted, true); break;
-    case Appearance: painted.Face = nullptr; [[fallthrough]];
-    case Caption: Mark(painted); break;
-    default: break;
+  if (aspect == Pointer) return Show_Pointer(&control);
+  if (Native_Control* const native = Native(control)) {
+    natives_changed_ = true;
+    native->Changed(aspect);
+  } else {
+    surface_.Changed(control, aspect);
   }
   if (aspect == Bounds || aspect == Visible || aspect == Tool_Tip) Tips_Changed();
-}
-
-void Form_Window::Update_Painted(Painted_Control& painted, bool repaint) {
-  const RECT place = context_.Scale.Pixels(painted.Control->In_Twips());
-  const bool shown = painted.Control->Visible;
-  if (shown == painted.Shown && EqualRect(&place, &painted.Place) != 0) return;
-  if (repaint && painted.Shown && !painted.Waiting) Mark(painted.Place);
-  painted.Place = place;
-  painted.Shown = shown;
-  painted.Waiting = false;
-  if (repaint) Mark(painted);
-}
-
-/// Marks a control for painting, once for however many changes come before the painting.
-void Form_Window::Mark(Painted_Control& painted) {
-  if (!painted.Shown || painted.Waiting) return;
-  painted.Waiting = true;
-  Mark(painted.Place);
-}
-
-/// A hidden window is painted as a whole when it is shown.
-void Form_Window::Mark(const RECT& place) {
-  if (shown_ && !all_marked_) marks_.push_back(place);
-}
-
-void Form_Window::Paint() {
-  for (Painted_Control& painted : painted_) painted.Waiting = false;
-  const Painting painting(Window());
-  RECT client;
-  GetClientRect(Window(), &client);
-  context_.Painter.Paint(painting.Target(), painting.Area(), client, form_, painted_);
 }
 
 }  // namespace win32

@@ -1,4 +1,4 @@
-// One window of the system for one form. It paints the labels, holds the controls that have windows of their own, and
+// One window of the system for one form. It paints the controls that have no windows of their own, holds those that have, and
 // decodes what the user does into the form's input functions.
 #pragma once
 
@@ -7,12 +7,13 @@
 #include <vector>
 
 #include "toolkit/form.h"
+#include "win32/form_surface.h"
 #include "win32/native_control.h"
 #include "win32/tip_window.h"
 
 namespace win32 {
 
-/// The frame of a window of that border.
+/// The system's styles for a border.
 struct Frame_Style {
   DWORD Style, Extended;
 };
@@ -33,9 +34,11 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Activate() override;
   void Form_Changed(toolkit::Aspect aspect) override;
   void Control_Changed(toolkit::Control& control, toolkit::Aspect aspect) override;
+  void Paint_Now() override;
   void Set_Region(const toolkit::Region& region) override;
   void Set_Round_Region(int width, int height, int corner) override;
   [[nodiscard]] bool Minimised() const override;
+  void Set_Minimised(bool minimised) override;
   void Focus(toolkit::Control* control) override;
   void Capture_Mouse() override { SetCapture(Window()); }
   void Release_Mouse() override;
@@ -44,7 +47,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   [[nodiscard]] HWND Window() const override { return window_.Get(); }
   [[nodiscard]] toolkit::Form& Form() const override { return form_; }
 
-  /// Brings the window to where the form says, cuts it to its region and marks for painting what has changed.
+  /// Moves the window to where the form is, cuts it to its region and marks what has changed for painting.
   void Settle() override;
   bool Take_Key(const MSG& message) override;
 
@@ -52,30 +55,29 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   static void Register_Class(HINSTANCE instance);
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
 
-  // What a message means. Each returns true if the message is handled. **A handler may destroy this window: touch no member
-  // after calling one.**
+  // What a message means. Each returns true if the message is handled. **A handler may destroy this window: touch no
+  // member after calling one.**
   bool Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
   bool Mouse_Message(UINT message, WPARAM w, LPARAM l);
   bool Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
+  bool Erase(HDC context);
+  void Look_Changed(UINT message);
   [[nodiscard]] std::optional<toolkit::Control*> Under(POINT on_screen, toolkit::Control* control) const;
   void Capture_Changed(HWND to);
   bool Active_Changed(bool active);
   void Place_Changed(const WINDOWPOS& place);
-  bool Set_Pointer(WPARAM over, LPARAM part) const;
-  void Paint();
+  bool Set_Pointer(HWND over, WORD part) const;
+  void Show_Pointer(const toolkit::Control* changed) const;
 
   [[nodiscard]] RECT Wanted_Place() const;
   void Settle_Place();
+  void Place_For_Return() const;
+  [[nodiscard]] HWND Next_Behind() const;
   void Settle_Region();
-  void Settle_Marks();
-  void Repaint_All();
-  Painted_Control* Painted(const toolkit::Control& control);
-  void Update_Painted(Painted_Control& painted, bool repaint);
-  void Painted_Changed(Painted_Control& painted, toolkit::Aspect aspect);
-  void Mark(Painted_Control& painted);
-  void Mark(const RECT& place);
+  void Settle_Natives();
   [[nodiscard]] Native_Control* Native(const toolkit::Control& control) const;
-  LRESULT Ground(HDC context);
+  [[nodiscard]] Native_Control* Native(HWND window) const;
+  HBRUSH Ground();
   void Tips_Changed();
   void Follow_Tip(POINT at);
 
@@ -83,18 +85,16 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   Window_Context& context_;
   Window_Owner window_;
   RECT place_{};  // pixels, in the parent
-  std::vector<Painted_Control> painted_;
+  Form_Surface surface_;
   std::vector<std::unique_ptr<Native_Control>> natives_;
   Brush_Owner ground_;  // behind the native controls
   COLORREF ground_colour_ = 0;
   Tip_Window tip_;
-  // What is to be settled. The marks are rectangles in pixels of the client area.
-  bool moved_ = false, cut_ = false, all_marked_ = false;
-  std::vector<RECT> marks_;
+  // What is to be settled.
+  bool moved_ = false, cut_ = false, natives_changed_ = true;
   Region_Owner new_region_;
   toolkit::Region region_;  // the present one, unless it is round
   bool round_ = true;       // or there is none yet
-  bool shown_ = false;
   bool tip_check_posted_ = false;
 };
 

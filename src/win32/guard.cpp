@@ -8,7 +8,7 @@ namespace win32 {
 void Guard::Quit() noexcept {
   ending_ = true;
   PostQuitMessage(0);
-  // A menu's own loop may take no notice of the end.
+  // The loop of an open menu may ignore the message to quit.
   if (const auto end_menu = Find_Function<BOOL WINAPI()>(GetModuleHandleA("user32.dll"), "EndMenu")) end_menu();
 }
 

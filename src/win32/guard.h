@@ -1,5 +1,5 @@
-// The one place where an exception ends that would otherwise leave a callback of the system. The first one that isn't
-// the ordinary end is kept for the report, and the program ends with it.
+// The one place that catches exceptions before they leave a callback of the system. The first one other than
+// Program_Quit is kept for the report, and ends the program.
 #pragma once
 
 #include <exception>
@@ -9,10 +9,11 @@ namespace win32 {
 
 class Guard {
  public:
-  /// What follows each work that ran to its end.
+  /// Called after each `work` that ran to its end.
   std::function<void()> Afterwards;
 
-  /// Runs what the system called for. Returns whether it ran to its end. Once the program is ending nothing runs any more.
+  /// Runs `work`, as a callback of the system asks. Returns false if it threw, or wasn't run since the program is
+  /// ending.
   template <class Work>
   bool Run(Work&& work) noexcept {
     if (ending_) return false;
@@ -26,14 +27,14 @@ class Guard {
     }
   }
 
-  /// The message loops end, the innermost first.
+  /// Ends the program: its message loops end, the innermost first.
   void Quit() noexcept;
   [[nodiscard]] bool Ending() const noexcept { return ending_; }
 
-  /// Throws Program_Quit once the program is ending: what a wait inside a handler does when it comes back.
+  /// Throws Program_Quit once the program is ending. A wait inside a handler calls it before it returns.
   void Throw_If_Ending() const;
 
-  /// What the program ended with; none after an ordinary end.
+  /// The exception that ended the program; none after an ordinary end.
   [[nodiscard]] std::exception_ptr Failure() const noexcept { return failure_; }
 
  private:

@@ -1,4 +1,4 @@
-// Owners of the system's handles: one template, one name for each kind of handle and each way of letting it go.
+// Owners of the system's handles: one template, and one name for each kind of handle and each way to release it.
 #pragma once
 
 #include <utility>
@@ -7,7 +7,7 @@
 
 namespace win32 {
 
-/// Owns one handle; 0 is none. `Release` is a function object that lets a handle go.
+/// Owns one handle; 0 is none. `Release` is a function object that releases a handle.
 template <class Raw, class Release>
 class Owner {
  public:
@@ -28,7 +28,7 @@ class Owner {
     if (old != Raw()) Release()(old);
   }
 
-  /// Gives the handle away.
+  /// Gives up the handle: from now on the caller owns it.
   [[nodiscard]] Raw Take() noexcept { return std::exchange(raw_, Raw()); }
 
  private:
@@ -77,7 +77,7 @@ using Search_Owner = Owner<HANDLE, Close_Search>;
 using Key_Owner = Owner<HKEY, Close_Key>;
 using Library_Owner = Owner<HMODULE, Free_Library>;
 
-/// Files and searches name their failure differently from everything else.
+/// The calls that open files and searches return INVALID_HANDLE_VALUE for a failure, all others nullptr.
 inline HANDLE Valid_Or_None(HANDLE handle) { return handle == INVALID_HANDLE_VALUE ? nullptr : handle; }
 
 }  // namespace win32

@@ -4,7 +4,7 @@ namespace win32 {
 
 namespace {
 
-/// A name that all processes of this executable have in common.
+/// The same name in all processes of this executable.
 std::string Mutex_Name() {
   char path[MAX_PATH + 1];
   const std::string text(path, GetModuleFileNameA(nullptr, path, MAX_PATH));

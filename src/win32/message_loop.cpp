@@ -13,19 +13,19 @@ void Message_Loop::Wait_Events(std::int64_t micros) {
   context_.Guard.Throw_If_Ending();
   context_.Windows.Settle();
   if (Serve_Waiting()) return;
-  constexpr std::int64_t longest_wait = 1000000;  // milliseconds; callers come back when nothing has happened
+  constexpr std::int64_t longest_wait = 1000000;  // milliseconds; callers wait again if nothing has happened
   const auto wait = std::clamp<std::int64_t>((micros + 999) / 1000, 0, longest_wait);
   MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(wait), QS_ALLINPUT);
   Serve_Waiting();
 }
 
-/// Serves what is in the queue. Returns whether there was anything.
+/// Serves all messages in the queue. Returns false if there was none.
 bool Message_Loop::Serve_Waiting() {
   bool any = false;
   MSG message;
   while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
     any = true;
-    // The end is for the outer loops as well.
+    // The outer loops have to see the end too.
     if (message.message == WM_QUIT) context_.Guard.Quit();
     else Dispatch(message);
     context_.Guard.Throw_If_Ending();

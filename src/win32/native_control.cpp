@@ -1,31 +1,30 @@
 #include "win32/native_control.h"
 
 #include "toolkit/form.h"
-#include "win32/native_kinds.h"
 
 namespace win32 {
 
 Native_Control::Native_Control(HWND parent, toolkit::Control& control, Window_Context& context)
-    : parent_(parent), control_(control), context_(context), place_(context.Scale.Pixels(control.In_Twips())) {}
+    : parent_(parent), control_(control), context_(context), tip_(context.Common_Controls) {}
 
-// The window itself is destroyed with its parent, and is the plain system's again until then.
+// The window itself is destroyed with its parent. Until then it is the system's own control again.
 Native_Control::~Native_Control() {
   if (procedure_ == nullptr) return;
   SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure_));
   SetWindowLongPtrA(window_, GWLP_USERDATA, 0);
 }
 
-void Native_Control::Make(const Kind& kind, const std::string& text, const toolkit::Font_Properties& font) {
-  const DWORD shown = control_.Visible ? WS_VISIBLE : 0;
-  const DWORD enabled = control_.Enabled ? 0 : WS_DISABLED;
+void Native_Control::Make(const Kind& kind, const std::string& text) {
+  const DWORD shown = control_.On_View() ? WS_VISIBLE : 0;
+  const DWORD enabled = control_.Usable() ? 0 : WS_DISABLED;
   const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(parent_, GWLP_HINSTANCE));
+  place_ = Native_Control::Wanted_Place();
   window_ = CreateWindowExA(kind.Extended, kind.Class, text.c_str(), WS_CHILD | kind.Style | shown | enabled,
                             place_.left, place_.top, place_.right - place_.left, place_.bottom - place_.top, parent_,
                             nullptr, instance, nullptr);
   SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   procedure_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Native_Control::Procedure)));
-  Show_Font(font);
 }
 
 LRESULT CALLBACK Native_Control::Procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
@@ -35,32 +34,48 @@ LRESULT CALLBACK Native_Control::Procedure(HWND window, UINT message, WPARAM w, 
   bool taken = false;
   self->context_.Guard.Run([&] {
     if (message == WM_SETFOCUS) self->control_.Window.System().Input.Focus_Came(self->control_);
+    if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK) self->Follow_Tip(message, w, l);
     taken = self->Intercept(message, w, l);
   });
   return taken ? 0 : CallWindowProcA(procedure, window, message, w, l);
+}
+
+void Native_Control::Follow_Tip(UINT message, WPARAM w, LPARAM l) {
+  if (control_.ToolTipText().empty()) {
+    tip_.Remove();
+    return;
+  }
+  RECT client;
+  GetClientRect(window_, &client);
+  tip_.Watch(window_, client, control_.ToolTipText());
+  tip_.Relay(window_, message, w, l);
 }
 
 void Native_Control::Changed(toolkit::Aspect aspect) {
   using enum toolkit::Aspect;
   switch (aspect) {
     case Bounds: Show_Place(); break;
-    case Visible: ShowWindow(window_, control_.Visible ? SW_SHOWNA : SW_HIDE); break;
-    case Enabled: EnableWindow(window_, control_.Enabled); break;
+    case Visible: ShowWindow(window_, control_.On_View() ? SW_SHOWNA : SW_HIDE); break;
+    case Enabled: EnableWindow(window_, control_.Usable()); break;
     default: Show(aspect); break;
   }
 }
 
+RECT Native_Control::Wanted_Place() const { return context_.Scale.Pixels(control_.In_Window()); }
+
 void Native_Control::Show_Place() {
-  const RECT place = context_.Scale.Pixels(control_.In_Twips());
+  const RECT place = Wanted_Place();
   if (EqualRect(&place, &place_) != 0) return;
   place_ = place;
   MoveWindow(window_, place.left, place.top, place.right - place.left, place.bottom - place.top, TRUE);
 }
 
+Face& Native_Control::Font_Of(const toolkit::Font_Properties& font) const {
+  return context_.Fonts.Get({font.FontName, font.FontSize, font.FontBold, font.FontItalic, font.FontUnderline});
+}
+
 void Native_Control::Show_Font(const toolkit::Font_Properties& font) {
-  const toolkit::Font description{font.FontName, font.FontSize, font.FontBold, font.FontItalic, font.FontUnderline};
-  const HFONT handle = context_.Fonts.Get(description).Handle.Get();
-  SendMessageA(window_, WM_SETFONT, reinterpret_cast<WPARAM>(handle), TRUE);
+  SendMessageA(window_, WM_SETFONT, reinterpret_cast<WPARAM>(Font_Of(font).Handle.Get()), TRUE);
 }
 
 void Native_Control::Show_Text(const std::string& text) { SetWindowTextA(window_, text.c_str()); }
@@ -69,16 +84,6 @@ void Native_Control::Forward_To_Form(UINT message, WPARAM w, LPARAM l) const {
   POINT at = {static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))};
   MapWindowPoints(window_, parent_, &at, 1);
   SendMessageA(parent_, message, w, MAKELPARAM(at.x, at.y));
-}
-
-std::unique_ptr<Native_Control> Make_Native_Control(HWND parent, toolkit::Control& control, Window_Context& context) {
-  if (auto* const text = dynamic_cast<toolkit::Text_Box*>(&control))
-    return std::make_unique<Native_Text_Box>(parent, *text, context);
-  if (auto* const check = dynamic_cast<toolkit::Check_Box*>(&control))
-    return std::make_unique<Native_Check_Box>(parent, *check, context);
-  if (auto* const button = dynamic_cast<toolkit::Command_Button*>(&control))
-    return std::make_unique<Native_Push_Button>(parent, *button, context);
-  return nullptr;
 }
 
 }  // namespace win32

@@ -1,5 +1,5 @@
-// A control that is a window of the system's own: it is made, shows what the control has become, and reports what it did.
-// One class for each kind derives from it; the form's window holds them all.
+// A control that is a window of the system's own: it is made, shows what the control has become, and reports what it
+// did. One class for each kind derives from it; the form's window holds them all.
 #pragma once
 
 #include <memory>
@@ -7,6 +7,7 @@
 
 #include "toolkit/control.h"
 #include "toolkit/label.h"
+#include "win32/tip_window.h"
 #include "win32/window_context.h"
 
 namespace win32 {
@@ -23,12 +24,21 @@ class Native_Control {
   /// Shows a changed property.
   void Changed(toolkit::Aspect aspect);
 
-  /// What the system's control tells its parent, as a WM_COMMAND code. **A handler may destroy this control: touch no
-  /// member after calling one.**
+  /// Shows what is shown once for however many changes; comes after changes, before the display is looked at.
+  virtual void Settle() {}
+
+  // What the system's control tells its parent. **A handler may destroy this control: touch no member after calling one.**
+
   virtual void Command(WORD /*code*/) {}
+  virtual void Scrolled(WORD /*code*/) {}
+  virtual void Notified(UINT /*code*/) {}
+  virtual void Draw(const DRAWITEMSTRUCT& /*item*/) {}
+
+  /// Whether the keys are the system's at this moment.
+  [[nodiscard]] virtual bool Keeps_Keys() const { return false; }
 
  protected:
-  /// What the system makes the window of.
+  /// What the system makes the window from.
   struct Kind {
     const char* Class;
     DWORD Style, Extended;
@@ -36,31 +46,47 @@ class Native_Control {
 
   Native_Control(HWND parent, toolkit::Control& control, Window_Context& context);
 
-  /// Makes the window, as the last step of a kind's construction.
-  void Make(const Kind& kind, const std::string& text, const toolkit::Font_Properties& font);
+  /// Makes the window, as the first step of a kind's construction.
+  void Make(const Kind& kind, const std::string& text = {});
 
   /// Shows a change that isn't of place, visibility or enabledness.
   virtual void Show(toolkit::Aspect aspect) = 0;
 
+  /// The place of the window, in pixels of the form's client area, and its showing.
+  [[nodiscard]] virtual RECT Wanted_Place() const;
+  virtual void Show_Place();
+
   /// A message to the system's control before it gets it. Returns true if it shall not.
   virtual bool Intercept(UINT /*message*/, WPARAM /*w*/, LPARAM /*l*/) { return false; }
 
+  /// A message straight to the system's control, without a look at what it changes.
+  LRESULT Send(UINT message, WPARAM w = 0, LPARAM l = 0) const {
+    return CallWindowProcA(procedure_, window_, message, w, l);
+  }
+
+  /// The font of such a control.
+  [[nodiscard]] Face& Font_Of(const toolkit::Font_Properties& font) const;
   void Show_Font(const toolkit::Font_Properties& font);
   void Show_Text(const std::string& text);
 
-  /// A mouse message to this window, for the form's: its input takes the road of all controls.
+  /// Sends a mouse message of this window to the form's window, where its input takes the road of all controls. **A
+  /// handler may destroy this control: touch no member after this call.**
   void Forward_To_Form(UINT message, WPARAM w, LPARAM l) const;
+
+  [[nodiscard]] Window_Context& Context() const { return context_; }
+  [[nodiscard]] HWND Parent() const { return parent_; }
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
-  void Show_Place();
+  void Follow_Tip(UINT message, WPARAM w, LPARAM l);
 
   const HWND parent_;
   toolkit::Control& control_;
   Window_Context& context_;
-  HWND window_ = nullptr;  // goes with its parent
+  HWND window_ = nullptr;  // destroyed with its parent
   WNDPROC procedure_ = nullptr;
   RECT place_{};
+  Tip_Window tip_;
 };
 
 /// The system's control for a control of the toolkit; nullptr for a kind that the form's window paints itself.

@@ -8,7 +8,7 @@ namespace {
 
 bool Is_Text(DWORD type) { return type == REG_SZ || type == REG_EXPAND_SZ; }
 
-/// Reads a value whole; a text gets the terminator that it may have been written without.
+/// Reads a whole value. A text that was written without its terminator gets one.
 LONG Read_Value(HKEY key, const std::string& name, std::string& bytes, DWORD& type) {
   DWORD size = 0;
   LONG status = RegQueryValueExA(key, name.c_str(), nullptr, &type, nullptr, &size);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "win32/graphics.h"
 #include "win32/resource_numbers.h"
 
 namespace win32 {
@@ -43,7 +44,7 @@ bool Is_Icon(platform::Stock_Picture picture) {
   }
 }
 
-/// The colour of the corner is the ground that the picture was drawn on: it becomes the menus' own.
+/// The picture's background has the colour of its corner: it gets the colour of the menus instead.
 void Put_On_Menu_Ground(HBITMAP bitmap) {
   DIBSECTION section = {};
   if (GetObjectA(bitmap, sizeof section, &section) != sizeof section || section.dsBm.bmBitsPixel != 24) return;
@@ -59,6 +60,22 @@ void Put_On_Menu_Ground(HBITMAP bitmap) {
       if (std::equal(pixel.begin(), pixel.end(), ground.begin()))
         std::copy(wanted.begin(), wanted.end(), pixel.begin());
     }
+}
+
+/// Draws the pixels that aren't of the colour of the corner.
+void Draw_Without_Ground(HDC context, HBITMAP bitmap, POINT corner, SIZE size) {
+  const Context_Owner source(CreateCompatibleDC(context)), mask(CreateCompatibleDC(context));
+  const Bitmap_Owner ground(CreateBitmap(size.cx, size.cy, 1, 1, nullptr));
+  const Selection picture(source.Get(), bitmap), is_ground(mask.Get(), ground.Get());
+  // Into a bitmap of two colours goes white where the source has its background colour.
+  SetBkColor(source.Get(), GetPixel(source.Get(), 0, 0));
+  BitBlt(mask.Get(), 0, 0, size.cx, size.cy, source.Get(), 0, 0, SRCCOPY);
+  SetTextColor(context, RGB(0, 0, 0));
+  SetBkColor(context, RGB(255, 255, 255));
+  const auto put = [&](HDC from, DWORD how) { BitBlt(context, corner.x, corner.y, size.cx, size.cy, from, 0, 0, how); };
+  put(source.Get(), SRCINVERT);
+  put(mask.Get(), SRCAND);
+  put(source.Get(), SRCINVERT);
 }
 
 }  // namespace
@@ -88,6 +105,26 @@ void Stock_Pictures::Draw(HDC context, platform::Stock_Picture picture, const RE
   const HGDIOBJ before = SelectObject(source.Get(), bitmap);
   StretchBlt(context, place.left, place.top, width, height, source.Get(), 0, 0, size.bmWidth, size.bmHeight, SRCCOPY);
   SelectObject(source.Get(), before);
+}
+
+SIZE Stock_Pictures::Size(platform::Stock_Picture picture) {
+  if (Is_Icon(picture)) return {GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)};
+  const HBITMAP bitmap = Menu_Bitmap(picture);
+  BITMAP size = {};
+  if (bitmap == nullptr || GetObjectA(bitmap, sizeof size, &size) == 0) return {};
+  return {size.bmWidth, size.bmHeight};
+}
+
+void Stock_Pictures::Draw_Plain(HDC context, platform::Stock_Picture picture, POINT corner, bool enabled) {
+  const SIZE size = Size(picture);
+  if (size.cx == 0) return;
+  if (Is_Icon(picture)) {
+    const auto icon = reinterpret_cast<LPARAM>(Icon(picture, size.cx, size.cy));
+    const UINT look = enabled ? DSS_NORMAL : DSS_DISABLED;
+    DrawStateA(context, nullptr, nullptr, icon, 0, corner.x, corner.y, size.cx, size.cy, DST_ICON | look);
+  } else {
+    Draw_Without_Ground(context, Menu_Bitmap(picture), corner, size);
+  }
 }
 
 HBITMAP Stock_Pictures::Menu_Bitmap(platform::Stock_Picture picture) {

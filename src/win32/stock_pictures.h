@@ -16,8 +16,14 @@ class Stock_Pictures {
   /// The program's icon in one of its own sizes, for the frame of a window.
   HICON Frame_Icon(int width, int height);
 
-  /// Draws the picture, stretched to the place; none draws nothing.
+  /// Draws the picture, stretched to the place (pixels). Stock_Picture::None draws nothing.
   void Draw(HDC context, platform::Stock_Picture picture, const RECT& place);
+
+  /// The picture's own size in pixels; that of an icon is the system's for icons. 0 by 0 for none.
+  SIZE Size(platform::Stock_Picture picture);
+
+  /// Draws the picture in its own size, without the ground that a bitmap was drawn on; greyed for what is disabled.
+  void Draw_Plain(HDC context, platform::Stock_Picture picture, POINT corner, bool enabled);
 
   /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.
   HBITMAP Menu_Bitmap(platform::Stock_Picture picture);

@@ -24,11 +24,7 @@ void Send_Tool(HWND window, UINT message, const TTTOOLINFOA& tool) {
 
 bool Tip_Window::Make(HWND owner) {
   if (window_) return true;
-  // The library of the tips is loaded with the first of them: a start without one is the quicker for it.
-  if (!controls_) controls_.Reset(LoadLibraryA("comctl32.dll"));
-  const auto start = Find_Function<void WINAPI()>(controls_.Get(), "InitCommonControls");
-  if (start == nullptr) return false;
-  start();
+  if (!controls_.Start()) return false;
   owner_ = owner;
   window_.Reset(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0,
                                 0, 0, owner, nullptr, GetModuleHandleA(nullptr), nullptr));

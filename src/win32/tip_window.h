@@ -1,29 +1,28 @@
-// The tip of a window: one tool of the system's tip window, which lies over the control under the pointer.
+// The tip of a window: one tool of the system's tip window, which covers the control under the pointer.
 #pragma once
 
 #include <string>
 
-#include "win32/handle.h"
+#include "win32/common_controls.h"
 
 namespace win32 {
 
 class Tip_Window {
  public:
-  /// `controls` takes the library of the tips when it is first needed.
-  explicit Tip_Window(Library_Owner& controls) : controls_(controls) {}
+  explicit Tip_Window(Common_Controls& controls) : controls_(controls) {}
 
   /// Shows the text while the pointer rests in the place (pixels of the owner's client area).
   void Watch(HWND owner, const RECT& place, const std::string& text);
   void Remove();
   [[nodiscard]] bool Watching() const { return watching_; }
 
-  /// Lets the tip window see a mouse message of its owner.
+  /// Passes a mouse message of the owner to the tip window.
   void Relay(HWND owner, UINT message, WPARAM w, LPARAM l) const;
 
  private:
   bool Make(HWND owner);
 
-  Library_Owner& controls_;
+  Common_Controls& controls_;
   Window_Owner window_;
   HWND owner_ = nullptr;
   bool watching_ = false;

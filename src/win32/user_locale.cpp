@@ -1,6 +1,7 @@
 #include "win32/user_locale.h"
 
-#include "win32/windows_api.h"
+#include "basic/date_reading.h"
+#include "win32/handle.h"
 
 namespace win32 {
 
@@ -12,7 +13,7 @@ std::string Info(LCTYPE what) {
   return size > 0 ? std::string(text, static_cast<std::size_t>(size) - 1) : std::string();
 }
 
-/// Appends what the system makes of a day, by a flag or by a picture; nothing if it can't.
+/// Appends the day as the system writes it, by a flag or by a picture; appends nothing if it can't.
 void Append_By_System(std::string& to, const basic::Civil_Date& date, DWORD flags, const char* picture) {
   SYSTEMTIME day = {};
   day.wYear = static_cast<WORD>(date.Year);
@@ -23,7 +24,8 @@ void Append_By_System(std::string& to, const basic::Civil_Date& date, DWORD flag
   if (size > 0) to.append(text, static_cast<std::size_t>(size) - 1);
 }
 
-/// The picture with the year's pieces replaced by the digits of `year`, as text that stands for itself.
+/// The picture with the digits of `year` in place of its pieces for the year, in quotes so that they stand for
+/// themselves.
 std::string With_Year(std::string_view picture, int year) {
   std::string result;
   bool quoted = false;
@@ -44,8 +46,8 @@ std::string With_Year(std::string_view picture, int year) {
 }
 
 void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE picture) {
-  // The system's days begin in 1601. An earlier one is written as the same day of a later cycle of 400 years, of the
-  // same month and weekday, with its own year put in.
+  // The system's days begin in 1601. An earlier day is written as the same day some cycles of 400 years later, which
+  // has the same month and weekday, with its own year put in.
   constexpr int systems_first_year = 1601;
   basic::Civil_Date date = basic::Civil_From_Serial(day);
   if (date.Year >= systems_first_year) {
@@ -55,6 +57,12 @@ void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE pict
   const std::string with_year = With_Year(Info(picture), date.Year);
   while (date.Year < systems_first_year) date.Year += 400;
   Append_By_System(to, date, 0, with_year.c_str());
+}
+
+basic::Date_Order Order() {
+  const std::string number = Info(LOCALE_IDATE);
+  if (number == "0") return basic::Date_Order::Month_First;
+  return number == "2" ? basic::Date_Order::Year_First : basic::Date_Order::Day_First;
 }
 
 }  // namespace
@@ -89,6 +97,14 @@ void User_Locale::Append_Short_Date(std::string& to, basic::Serial_Day day) {
 
 void User_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
   Append_Day(to, day, DATE_LONGDATE, LOCALE_SLONGDATE);
+}
+
+basic::Serial_Day User_Locale::Read_Date(const std::string& text) { return Read_Moment(text).Day; }
+
+/// Numbers are read here, names and times by the system's automation.
+basic::Moment User_Locale::Read_Moment(const std::string& text) {
+  if (const auto day = basic::Read_Numeric_Date(text, Order())) return {*day, 0};
+  return automation_.Moment_Of_Text(text);
 }
 
 }  // namespace win32

@@ -1,4 +1,4 @@
-// The user's locale, with what the user changed of it.
+// The user's locale, with the changes that the user made to it.
 #pragma once
 
 #include "platform/locale.h"
@@ -13,9 +13,10 @@ class User_Locale final : public platform::Locale {
   const basic::Date_Words& Words() override { return words_; }
   basic::Weekday First_Weekday() override;
   void Append_General_Date(std::string& to, const basic::Moment& moment) override;
-  basic::Moment Read_Moment(const std::string& text) override { return automation_.Moment_Of_Text(text); }
+  basic::Moment Read_Moment(const std::string& text) override;
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
+  basic::Serial_Day Read_Date(const std::string& text) override;
 
  private:
   basic::Date_Words words_;

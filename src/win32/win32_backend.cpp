@@ -10,8 +10,8 @@ std::unique_ptr<toolkit::Form_Peer> Win32_Backend::Make_Peer(toolkit::Form& form
   return std::make_unique<Form_Window>(form, context_);
 }
 
-// Asked ten times a second: as long as messages tell every change, the system needn't be. A message box of ours changes
-// nothing, unless another program is active meanwhile.
+// Called ten times a second, so it asks the system only if messages don't report every change of the active window. A
+// message box of ours doesn't change the answer, unless another program is active meanwhile.
 toolkit::Form* Win32_Backend::Active_Form() {
   if (context_.Behind_Box != nullptr) return Own_Active_Window() != nullptr ? &context_.Behind_Box->Form() : nullptr;
   if (!context_.Embedded) return context_.Active != nullptr ? &context_.Active->Form() : nullptr;

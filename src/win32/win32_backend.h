@@ -17,6 +17,7 @@ class Win32_Backend final : public toolkit::Backend {
   double Twips_Per_Pixel(toolkit::Axis axis) override;
   double Frame_Size(toolkit::Form_Border border, toolkit::Axis axis) override;
   double Screen_Size(toolkit::Axis axis) override;
+  void Show_Busy(bool busy) override { context_.Pointers.Set_Busy(busy); }
   std::string Font_Given_For(const std::string& name) override;
   double Text_Width(const toolkit::Font& font, std::string_view text) override;
   double Text_Height(const toolkit::Font& font, std::string_view text, double width) override;

@@ -26,7 +26,7 @@ UINT Flag_Of(platform::Box_Buttons buttons) {
   return MB_OK;
 }
 
-/// A box that could not be shown, or was taken away, has not been agreed to.
+/// A box that couldn't be shown, or was closed by the system, counts as not agreed to.
 platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
   using platform::Box_Answer;
   switch (result) {
@@ -39,8 +39,8 @@ platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
   return buttons == platform::Box_Buttons::Yes_No ? Box_Answer::No : Box_Answer::Cancel;
 }
 
-/// The window that a box belongs to, with which it would be destroyed: the active dialog or the calendar, never a window
-/// that closes by itself. The calendar is the program's first window.
+/// The window that owns a box, and would take it along when it is destroyed: the active dialog or the calendar, never a
+/// window that closes by itself. The calendar is the program's first window.
 const Program_Window* Owner_Of_Box(const Window_List& windows, const Program_Window* active) {
   if (active == nullptr || active->Form().Border != toolkit::Form_Border::None) return active;
   const Program_Window* const calendar = windows.All().front();

@@ -6,10 +6,11 @@
 #include "win32/desktop.h"
 #include "win32/disk_files.h"
 #include "win32/instance_window.h"
-#include "win32/jpeg_pictures.h"
 #include "win32/local_clock.h"
 #include "win32/message_loop.h"
 #include "win32/registry_services.h"
+#include "win32/shell_launcher.h"
+#include "win32/system_pictures.h"
 #include "win32/system_profiles.h"
 #include "win32/user_locale.h"
 #include "win32/win32_backend.h"
@@ -38,9 +39,10 @@ struct Win32_Platform::Parts {
   System_Registry Registry;
   System_Profiles Profiles;
   Desktop_Picture Wallpaper;
-  Jpeg_Pictures Pictures;
-  platform::System System{Clock,  Locale,    Files, Loop,     Message_Box, Popup_Menu, Store,
-                          Screen, Instances, Shell, Registry, Profiles,    Wallpaper,  Pictures};
+  System_Pictures Pictures;
+  Shell_Launcher Launcher;
+  platform::System System{Clock,     Locale, Files,    Loop,     Message_Box, Popup_Menu, Store,   Screen,
+                          Instances, Shell,  Registry, Profiles, Wallpaper,   Pictures,   Launcher, File_Dialog};
 };
 
 namespace {
@@ -60,7 +62,7 @@ std::string Report_Of(const std::exception_ptr& failure) {
 }
 
 void Report(const std::exception_ptr& failure) {
-  // A box that finds the end of the program in the queue closes at once.
+  // A box closes at once if it finds the message to quit in the queue.
   MSG message;
   while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) continue;
   MessageBoxA(nullptr, Report_Of(failure).c_str(), "Meridex", MB_OK | MB_ICONHAND | MB_SETFOREGROUND | MB_TASKMODAL);

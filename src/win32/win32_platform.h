@@ -20,7 +20,7 @@ class Win32_Platform {
   [[nodiscard]] toolkit::Backend& Backend();
   [[nodiscard]] platform::System& System();
 
-  /// Calls `start` and serves messages until the program quits. Gives the exit status: 0, or 1 when an exception ended
+  /// Calls `start` and serves messages until the program quits. Returns the exit status: 0, or 1 if an exception ended
   /// the program, which is reported in a message box.
   int Run(const std::function<void()>& start);
 

@@ -8,13 +8,13 @@ namespace {
 
 void Insert(HMENU menu, UINT position, const platform::Menu_Item& item) {
   MENUITEMINFOA record = {};
-  // The size up to the text's length: what was added after it later isn't known to the older systems.
+  // Older systems know the record only up to the length of its text: 44 bytes in a 32-bit program.
   record.cbSize = sizeof(void*) == 4 ? 44 : sizeof record;
   record.fMask = MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_TYPE;
   record.fType = MFT_STRING;
   record.fState = item.Grey ? MF_GRAYED : MFS_ENABLED;
   record.wID = static_cast<UINT>(item.Number);
-  record.dwTypeData = const_cast<char*>(item.Text.c_str());  // read alone
+  record.dwTypeData = const_cast<char*>(item.Text.c_str());  // it is only read
   record.cch = static_cast<UINT>(item.Text.size());
   InsertMenuItemA(menu, position, TRUE, &record);
 }

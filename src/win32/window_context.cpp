@@ -5,7 +5,7 @@
 namespace win32 {
 
 void Window_List::Settle() {
-  // By number: settling sends messages, and those may settle in their turn.
+  // By index: settling sends messages, which may settle the windows again.
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
 }
 

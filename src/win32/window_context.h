@@ -3,8 +3,10 @@
 
 #include <vector>
 
+#include "win32/common_controls.h"
 #include "win32/guard.h"
 #include "win32/painter.h"
+#include "win32/pointers.h"
 #include "win32/scale.h"
 
 namespace toolkit {
@@ -20,11 +22,11 @@ class Program_Window {
   [[nodiscard]] virtual HWND Window() const = 0;
   [[nodiscard]] virtual toolkit::Form& Form() const = 0;
 
-  /// Shows what the form has become since the last time.
+  /// Shows all changes of the form since the last call.
   virtual void Settle() = 0;
 
-  /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this window:
-  /// touch no member after calling one.**
+  /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this
+  /// window: touch no member after calling one.**
   virtual bool Take_Key(const MSG& message) = 0;
 
  protected:
@@ -38,8 +40,8 @@ class Window_List {
   void Remove(Program_Window& window) { std::erase(windows_, &window); }
   [[nodiscard]] const std::vector<Program_Window*>& All() const { return windows_; }
 
-  /// Comes after each callback of the system and before each wait, so that however many properties change in between,
-  /// the display is told once.
+  /// Called after each callback of the system and before each wait: the display changes once, however many properties
+  /// have changed in between.
   void Settle();
 
   /// The program's window that is or holds this one; nullptr if it belongs to none.
@@ -50,7 +52,7 @@ class Window_List {
 };
 
 struct Window_Context {
-  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance) {
+  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance), Pointers(instance) {
     Guard.Afterwards = [this] { Windows.Settle(); };
   }
 
@@ -59,23 +61,26 @@ struct Window_Context {
   const win32::Scale Scale = Scale::Of_Screen();
   win32::Fonts Fonts{Scale};
   Stock_Pictures Pictures;
-  win32::Painter Painter{Fonts, Pictures};
-  Library_Owner Common_Controls;  ///< loaded with the first tip
+  win32::Themes Themes;
+  win32::Painter Painter{{Fonts, Pictures, Themes}};
+  win32::Common_Controls Common_Controls;
+  win32::Pointers Pointers;
   Window_List Windows;
 
-  /// The active window as the system's messages have told, nullptr if it is none of ours.
+  /// The active window, as far as the system's messages have reported it; nullptr if it isn't one of ours.
   Program_Window* Active = nullptr;
-  /// The window that was active when the message box that is open came up.
+  /// The window that was active when the open message box came up; nullptr if none is open.
   Program_Window* Behind_Box = nullptr;
-  /// A window of ours belongs to another program's window. The two programs share one state of input then, and the messages
-  /// don't tell all of its changes.
+  /// True once a window of ours is a child of another program's window. The two programs then share one state of input,
+  /// and the messages don't report all of its changes.
   bool Embedded = false;
 
-  /// Where the pointer was last seen, in pixels of the screen. The system reports a move whenever windows change under a
-  /// pointer at rest: what comes from the same place moved nothing.
+  /// Where the pointer was last seen, in pixels of the screen. The system also reports a move when a window changes
+  /// under a pointer at rest: a report from the same place isn't a move.
   POINT Pointer{};
 
-  /// Before a window changes under the pointer. While a control has the mouse its moves all count.
+  /// Called before a window changes under the pointer. Does nothing while a control has the mouse: then all moves
+  /// count.
   void Note_Pointer(const toolkit::Input& input);
 };
 

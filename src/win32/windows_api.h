@@ -1,4 +1,4 @@
-// The system's own header, as the files of this folder take it.
+// The system's own header, as all files of this folder include it.
 #pragma once
 
 #include <windows.h>
@@ -12,13 +12,14 @@ namespace win32 {
 inline platform::Window_Handle To_Handle(HWND window) { return reinterpret_cast<platform::Window_Handle>(window); }
 inline HWND To_Window(platform::Window_Handle handle) { return reinterpret_cast<HWND>(handle); }
 
-/// The active window of this thread, nullptr where another thread's is: below the shell's window the two share one state.
+/// The active window of this thread, nullptr if it is another thread's: inside the shell's window the two share one
+/// state.
 inline HWND Own_Active_Window() {
   const HWND active = GetActiveWindow();
   return active != nullptr && GetWindowThreadProcessId(active, nullptr) == GetCurrentThreadId() ? active : nullptr;
 }
 
-/// A function of a library that may be missing there; nullptr then.
+/// A function of a library; nullptr if the library or the function is missing.
 template <class Function>
 Function* Find_Function(HMODULE library, const char* name) {
   if (library == nullptr) return nullptr;

@@ -1,5 +1,6 @@
 // What the program relies on of the clock, the locale and the loop. The tests run in British English.
 #include "basic/serial_day.h"
+#include "tests/basic/error_of.h"
 #include "tests/contract/service_world.h"
 
 namespace {
@@ -52,4 +53,19 @@ TEST_F(Clock_And_Locale_Cases, Days_have_a_short_and_a_long_form) {
   text = "on ";
   Locale.Append_Long_Date(text, fifth_of_march_2004);
   EXPECT_NE(text.find("5 March 2004"), std::string::npos) << text;
+}
+
+TEST_F(Clock_And_Locale_Cases, A_date_is_read_as_the_locale_writes_it) {
+  for (const char* const text : {"5/3/2004", "05/03/2004", " 5.3.04 ", "5-3-2004", "2004-3-5"})
+    EXPECT_EQ(Locale.Read_Date(text), fifth_of_march_2004) << text;
+  EXPECT_EQ(Locale.Read_Date("13/3/2004"), fifth_of_march_2004 + 8);
+  EXPECT_EQ(Locale.Read_Date("3/13/2004"), fifth_of_march_2004 + 8);
+  std::string text;
+  Locale.Append_Short_Date(text, fifth_of_march_2004);
+  EXPECT_EQ(Locale.Read_Date(text), fifth_of_march_2004);
+}
+
+TEST_F(Clock_And_Locale_Cases, A_text_that_is_no_date_is_error_13) {
+  for (const char* const text : {"", "abc", "30/2/2004", "29/2/2003", "0/1/2004"})
+    EXPECT_EQ(Error_Of([&] { Locale.Read_Date(text); }), 13) << text;
 }

@@ -118,6 +118,14 @@ TEST_F(File_Cases, The_files_of_a_folder_are_listed_without_regard_to_case_and_w
   EXPECT_EQ(Files.File_Names(Path("Case")), (std::vector<std::string>{"a.txt", "A2.txt", "b.txt", "C.txt"}));
 }
 
+TEST_F(File_Cases, The_folders_of_a_folder_are_listed_without_regard_to_case_and_without_files) {
+  for (const char* const name : {"b", "C", "a"}) World->Make_Folder(std::string("Folders\\") + name);
+  Files.Create(Path("Folders\\file"));
+  EXPECT_EQ(Files.Folder_Names(Path("Folders")), (std::vector<std::string>{"a", "b", "C"}));
+  EXPECT_TRUE(Files.Folder_Names(Path("Folders\\a")).empty());
+  EXPECT_EQ(Error_Of([this] { Files.Folder_Names(Path("None")); }), 76);
+}
+
 TEST_F(File_Cases, The_program_lies_in_its_folder) {
   const std::string folder = Files.Program_Folder();
   EXPECT_TRUE(Files.Folder_Exists(folder));

@@ -54,7 +54,8 @@ class Program_Cases : public Service_Cases {
             .Registry = system.Registry,
             .Profiles = system.Profiles,
             .Wallpaper = system.Wallpaper,
-            .Pictures = system.Pictures};
+            .Pictures = system.Pictures,
+            .Shell_Open = system.Shell_Open};
   }
 
   void Start() {

@@ -34,13 +34,31 @@ class Memory_User : public User {
     static const std::map<Pressed_Key, memory::Typed_Key> keys = {
         {Pressed_Key::Tab, {{toolkit::key_tab}, ""}},       {Pressed_Key::Enter, {{toolkit::key_enter}, "\r\n"}},
         {Pressed_Key::Escape, {{toolkit::key_escape}, ""}}, {Pressed_Key::Space, {{toolkit::key_space}, " "}},
-        {Pressed_Key::F9, {{toolkit::key_f9}, ""}},         {Pressed_Key::Alt_O, {{'O', false, false, true}, "o"}}};
+        {Pressed_Key::F9, {{toolkit::key_f9}, ""}},         {Pressed_Key::Alt_O, {{'O', false, false, true}, "o"}},
+        {Pressed_Key::Up, {{toolkit::key_up}, ""}},         {Pressed_Key::Down, {{toolkit::key_down}, ""}},
+        {Pressed_Key::Left, {{toolkit::key_left}, ""}},     {Pressed_Key::Right, {{toolkit::key_right}, ""}},
+        {Pressed_Key::Home, {{toolkit::key_home}, ""}},     {Pressed_Key::Page_Down, {{toolkit::key_page_down}, ""}},
+        {Pressed_Key::End, {{toolkit::key_end}, ""}}};
     Key(keys.at(key));
   }
   void Type(char letter) override { Key({{basic::Upper_Case({&letter, 1}).front()}, {&letter, 1}}); }
 
   void Paste(toolkit::Text_Box& box, const std::string& text) override {
     Run([&] { box.User_Character(text); });
+  }
+
+  void Click_Item(toolkit::List_Box& list, int item) override { Click_Part(list, item); }
+  void Click_Tab(toolkit::Tab_Strip& strip, int tab) override { Click_Part(strip, tab); }
+  void Choose_Item(toolkit::Combo_Box& box, int item) override {
+    Run([&] { platform_.User.Choose(box, item); });
+  }
+  void Drag_Thumb(toolkit::Slider& slider, int to) override {
+    Run([&] { platform_.User.Slide(slider, to); });
+  }
+  std::vector<std::string> Shown_Items(toolkit::Item_List& list) override {
+    std::vector<std::string> items;
+    for (int i = 0; i < list.ListCount(); ++i) items.push_back(list.List(i));
+    return items;
   }
 
   void Answer(Box_Answer answer, std::function<void()> meanwhile) override {
@@ -57,6 +75,10 @@ class Memory_User : public User {
   void Run(const std::function<void()>& work) { platform_.Loop.Dispatch(work); }
 
  private:
+  void Click_Part(Control& control, int part) {
+    Click(control.Window, &control);
+    Run([&] { memory::Memory_User::Pick(control, part); });
+  }
   static toolkit::Mouse_Event Middle_Of(const Form& window, const Control* control, Mouse_Button button) {
     if (control == nullptr) return {button, window.Width - 1, window.Height - 1};
     return {button, control->In_Twips().Width / 2, control->In_Twips().Height / 2};

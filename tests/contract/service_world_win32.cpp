@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/contract/service_world.h"
+#include "tests/win32/native_parts.h"
 #include "win32/win32_platform.h"
 
 namespace {
@@ -67,6 +68,13 @@ class System_User : public User {
       case Pressed_Key::Escape: return Key(VK_ESCAPE);
       case Pressed_Key::Space: return Key(VK_SPACE);
       case Pressed_Key::F9: return Key(VK_F9);
+      case Pressed_Key::Up: return Key(VK_UP);
+      case Pressed_Key::Down: return Key(VK_DOWN);
+      case Pressed_Key::Left: return Key(VK_LEFT);
+      case Pressed_Key::Right: return Key(VK_RIGHT);
+      case Pressed_Key::Page_Down: return Key(VK_NEXT);
+      case Pressed_Key::Home: return Key(VK_HOME);
+      case Pressed_Key::End: return Key(VK_END);
       case Pressed_Key::Alt_O:
         keybd_event(VK_MENU, 0x38, 0, 0);
         Key('O');
@@ -89,6 +97,23 @@ class System_User : public User {
     keybd_event(VK_CONTROL, 0x1D, KEYEVENTF_KEYUP, 0);
     Wait(50);
   }
+
+  void Click_Item(toolkit::List_Box& list, int item) override { Click_At(Middle_Of_Item(Window_Of(list), item)); }
+  void Click_Tab(toolkit::Tab_Strip& strip, int tab) override { Click_At(Middle_Of_Tab(Window_Of(strip), tab - 1)); }
+  void Choose_Item(toolkit::Combo_Box& box, int item) override {
+    Click(box.Window, &box);
+    Click_At(Middle_Of_Item(Dropped_List(Window_Of(box)), item));
+  }
+  void Drag_Thumb(toolkit::Slider& slider, int to) override {
+    const HWND window = Window_Of(slider);
+    Point_At(Middle_Of_Thumb(window));
+    mouse_event(Flag(Mouse_Button::Left, true), 0, 0, 0, 0);
+    Wait(50);
+    Point_At(Place_On_Slider(window, to));
+    mouse_event(Flag(Mouse_Button::Left, false), 0, 0, 0, 0);
+    Wait(50);
+  }
+  std::vector<std::string> Shown_Items(toolkit::Item_List& list) override { return Items_In(Window_Of(list)); }
 
   void Answer(Box_Answer answer, std::function<void()> meanwhile) override {
     Later([=, meanwhile = std::move(meanwhile)] {
@@ -135,13 +160,29 @@ class System_User : public User {
     keybd_event(code, scan, KEYEVENTF_KEYUP, 0);
     Wait(50);
   }
-  void Point_At(Form& window, Control* control) {
-    toolkit::Bounds place{window.Width - 30, window.Height - 30, 0, 0};
-    if (control != nullptr) place = control->In_Twips();
-    POINT at = {
+  HWND Window_Of(const Control& control) {
+    return Native_Part(reinterpret_cast<HWND>(control.Window.Handle()), Pixel_In(control.In_Window()));
+  }
+  void Click_At(POINT on_screen) {
+    Point_At(on_screen);
+    for (const bool down : {true, false}) {
+      mouse_event(Flag(Mouse_Button::Left, down), 0, 0, 0, 0);
+      Wait(50);
+    }
+  }
+  POINT Pixel_In(const toolkit::Bounds& place) {
+    return {
         static_cast<LONG>((place.Left + place.Width / 2) / platform_.Backend().Twips_Per_Pixel(toolkit::Axis::Across)),
         static_cast<LONG>((place.Top + place.Height / 2) / platform_.Backend().Twips_Per_Pixel(toolkit::Axis::Down))};
+  }
+  void Point_At(Form& window, Control* control) {
+    toolkit::Bounds place{window.Width - 30, window.Height - 30, 0, 0};
+    if (control != nullptr) place = control->In_Window();
+    POINT at = Pixel_In(place);
     ClientToScreen(reinterpret_cast<HWND>(window.Handle()), &at);
+    Point_At(at);
+  }
+  void Point_At(POINT at) {
     // The display's own echo of an earlier move may come late, and puts the pointer back.
     for (int tries = 0, there = 0; tries < 50 && there < 2; ++tries) {
       POINT now = {};

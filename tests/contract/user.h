@@ -3,12 +3,17 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "platform/message_box.h"
 #include "toolkit/form.h"
+#include "toolkit/item_list.h"
+#include "toolkit/slider.h"
+#include "toolkit/tab_strip.h"
 #include "toolkit/text_box.h"
 
-enum class Pressed_Key { Tab, Enter, Escape, Space, F9, Alt_O };
+enum class Pressed_Key { Tab, Enter, Escape, Space, F9, Alt_O, Up, Down, Left, Right, Page_Down, Home, End };
 
 class User {
  public:
@@ -29,6 +34,17 @@ class User {
     Press(window, control, toolkit::Mouse_Button::Left);
     Release(window, control, toolkit::Mouse_Button::Left);
   }
+
+  // The parts of the system's own controls, which the user sees: an item of a list (from 0 on), one of a drop-down list that
+  // is opened for it, a tab (from 1 on), the place of a slider's thumb.
+
+  virtual void Click_Item(toolkit::List_Box& list, int item) = 0;
+  virtual void Choose_Item(toolkit::Combo_Box& box, int item) = 0;
+  virtual void Click_Tab(toolkit::Tab_Strip& strip, int tab) = 0;
+  virtual void Drag_Thumb(toolkit::Slider& slider, int to) = 0;
+
+  /// The items that the window system shows in a list, from the first to the last.
+  virtual std::vector<std::string> Shown_Items(toolkit::Item_List& list) = 0;
 
   /// Answers the next message box when it has been open for a while, after `meanwhile`.
   virtual void Answer(platform::Box_Answer answer, std::function<void()> meanwhile) = 0;

@@ -2,6 +2,7 @@
 //
 //   desktop_probe              one JSON object a line for each top window, with its child windows
 //   desktop_probe post WINDOW MESSAGE WPARAM LPARAM
+//   desktop_probe show TITLE   a window of that title, of a program that isn't the calendar; until it is closed or ended
 //   desktop_probe copy FILE    the file's bytes become the text of the clipboard
 //   desktop_probe watch        the visible windows' places as often as they change, one JSON object a line, with the time in
 //                              milliseconds; until it is ended
@@ -113,10 +114,28 @@ int Watch() {
   }
 }
 
+LRESULT CALLBACK Plain_Window(HWND window, UINT message, WPARAM w, LPARAM l) {
+  if (message == WM_DESTROY) PostQuitMessage(0);
+  return DefWindowProcA(window, message, w, l);
+}
+
+int Show(const char* title) {
+  WNDCLASSA description{};
+  description.lpfnWndProc = Plain_Window;
+  description.lpszClassName = "Probe_Window";
+  RegisterClassA(&description);
+  const HWND window = CreateWindowExA(0, "Probe_Window", title, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 200, 100,
+                                      nullptr, nullptr, nullptr, nullptr);
+  MSG message;
+  while (window != nullptr && GetMessageA(&message, nullptr, 0, 0) > 0) DispatchMessageA(&message);
+  return 0;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   if (count == 3 && std::strcmp(arguments[1], "copy") == 0) return Copy(arguments[2]);
+  if (count == 3 && std::strcmp(arguments[1], "show") == 0) return Show(arguments[2]);
   if (count == 2 && std::strcmp(arguments[1], "watch") == 0) return Watch();
   if (count == 6 && std::strcmp(arguments[1], "post") == 0) {
     const auto window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::atoll(arguments[2])));

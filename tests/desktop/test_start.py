@@ -31,6 +31,12 @@ class Start(Desktop_Test):
         desktop.calendar()
         self.assertIsNone(second.poll(), "the second goes on")
 
+    def test_another_programs_window_of_the_same_title_is_left_alone(self):
+        desktop = self.desktop()
+        desktop.show_foreign_window("Meridex")
+        desktop.started()
+        self.assertTrue(desktop.foreign_window("Meridex"))
+
     def ends_with(self, number, description, **stored):
         desktop = self.desktop(**stored)
         program = desktop.start()

@@ -8,6 +8,7 @@
 #include "memory/memory_files.h"
 #include "memory/memory_message_box.h"
 #include "memory/memory_pictures.h"
+#include "memory/memory_profiles.h"
 #include "memory/memory_registry.h"
 #include "memory/memory_screen.h"
 #include "memory/memory_store.h"
@@ -53,7 +54,9 @@ struct Pack_World {
   state::Calendar_State State;
   packs::Set_Wallpaper_Mod Set_Wallpaper_Mod{Registry, Wallpaper};
   packs::Pack_Lookup Packs{Files, Channel, Pictures, Message_Box, Settings, Set_Wallpaper_Mod};
-  packs::Wallpaper_Stuff Wallpaper_Stuff{Packs, Set_Wallpaper_Mod, Clock, Settings.Values, State};
+  memory::Memory_Profiles Profiles{Files};
+  settings::Registry Registry_Module{Registry, Profiles, Files};
+  packs::Wallpaper_Stuff Wallpaper_Stuff{Packs, Set_Wallpaper_Mod, Registry_Module, Clock, Settings.Values, State};
 };
 
 using Wallpapers = std::vector<memory::Memory_Wallpaper::Setting>;

@@ -115,6 +115,10 @@ class Fake_Backend : public toolkit::Backend {
                               std::to_string(corner));
     }
     [[nodiscard]] bool Minimised() const override { return backend_.Minimised; }
+    void Set_Minimised(bool minimised) override {
+      backend_.Minimised = minimised;
+      backend_.Told.emplace_back(minimised ? "minimise" : "restore");
+    }
     void Focus(toolkit::Control* control) override {
       backend_.Told.push_back("focus " + (control != nullptr ? control->Name : "window"));
     }

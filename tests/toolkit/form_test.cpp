@@ -146,6 +146,37 @@ TEST(Form, Takes_its_window_along_when_it_goes) {
   EXPECT_EQ(backend.Windows, 0);
 }
 
+TEST(Form, Takes_the_windows_that_it_owns_along_when_it_unloads) {
+  Fake_Backend backend;
+  Form owner(backend, "Settings_Frm"), other(backend, "Edit_Frm");
+  Form first(backend, "frmBalloon", Form_Border::None, &owner),
+      second(backend, "frmBalloon", Form_Border::None, &owner);
+  for (Form* const form : {&owner, &other, &first, &second}) form->Load();
+  first.On_Unload = [&] { second.Unload(); };
+  owner.On_Unload = [&] { EXPECT_TRUE(first.Loaded()) << "which it may still ask for"; };
+  owner.Unload();
+  EXPECT_FALSE(first.Loaded());
+  EXPECT_FALSE(second.Loaded());
+  EXPECT_FALSE(owner.Loaded());
+  EXPECT_TRUE(other.Loaded());
+}
+
+TEST(Form, Hears_of_no_activity_while_it_unloads) {
+  Fake_Backend backend;
+  Form owner(backend, "Settings_Frm");
+  Form owned(backend, "frmBalloon", Form_Border::None, &owner);
+  owner.Show();
+  owned.Show();
+  backend.Active = &owned;
+  int activations = 0;
+  owner.On_Activate = [&] { ++activations; };
+  // The system gives the activity back to the owner when the owned window goes.
+  owned.On_Unload = [&] { backend.Input.Activity_Came(owner); };
+  owner.Unload();
+  backend.Input.Tell_Of_Activity();
+  EXPECT_EQ(activations, 0);
+}
+
 TEST(Form, Unloads_by_its_close_box_unless_told_otherwise) {
   Loaded_Form form;
   int closes = 0;

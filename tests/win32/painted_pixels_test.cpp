@@ -25,21 +25,19 @@ class Painted {
       label->Caption = "";
       label->BackColor = static_cast<toolkit::Colour>(labels_.size() + 1);
       labels_.push_back(label);
-      win32::Painted_Control painted;
-      painted.Control = label;
-      painted.Label = label;
-      painted.Place = scale.Pixels(label->In_Twips());
-      painted.Shown = label->Visible;
-      controls_.push_back(painted);
+      auto painted = win32::Make_Painted_Control(*label);
+      painted->Place = scale.Pixels(label->In_Twips());
+      painted->Shown = label->Visible;
+      controls_.push_back({label, std::move(painted)});
     }
   }
 
-  std::vector<win32::Painted_Control>& Controls() { return controls_; }
+  [[nodiscard]] const win32::Painted_List& Controls() const { return controls_; }
   [[nodiscard]] const Label* Of(COLORREF colour) const { return colour == 0 ? nullptr : labels_.at(colour - 1); }
 
  private:
   std::vector<Label*> labels_;
-  std::vector<win32::Painted_Control> controls_;
+  win32::Painted_List controls_;
 };
 
 int Wrong_Pixels(presentation::Main_Frm& main_frm, int dpi) {
@@ -55,7 +53,8 @@ int Wrong_Pixels(presentation::Main_Frm& main_frm, int dpi) {
   SelectObject(context.Get(), bitmap.Get());
   win32::Fonts fonts(scale);
   win32::Stock_Pictures pictures(nullptr);
-  win32::Painter(fonts, pictures).Paint(context.Get(), client, client, main_frm.Window, painted.Controls());
+  win32::Themes themes;
+  win32::Painter({fonts, pictures, themes}).Paint(context.Get(), client, client, main_frm.Window, painted.Controls());
   GdiFlush();
   const auto row = [&](LONG y) { return static_cast<const std::uint32_t*>(bits) + y * client.right; };
   const auto same_row = [&](LONG a, LONG b) {

@@ -51,7 +51,8 @@ void Play_Dialogs(World& world, const Words& /*words*/) {
 }
 
 void Play_Launched(World& world, const Words& /*words*/) {
-  for (const std::string& address : world.Platform.Shell_Open.Take_Launched()) world.Print("launched " + Quoted(address));
+  for (const std::string& address : world.Platform.Shell_Open.Take_Launched())
+    world.Print("launched " + Quoted(address));
 }
 
 /// The path without the program folder, if it lies in that.

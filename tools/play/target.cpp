@@ -60,7 +60,8 @@ std::optional<Target> Find_Target(const World& world, const std::string& name) {
   const Name_Parts parts = Split(name);
   std::vector<toolkit::Form*> windows;
   if (parts.window.empty()) {
-    if (toolkit::Form* const window = world.Find_Window(name); window != nullptr) return Target{name, window, nullptr, {}};
+    if (toolkit::Form* const window = world.Find_Window(name); window != nullptr)
+      return Target{name, window, nullptr, {}};
     windows = world.Platform.Windows().From_The_Front();
   } else if (toolkit::Form* const window = world.Find_Window(parts.window); window != nullptr) {
     windows.push_back(window);

@@ -174,6 +174,14 @@ class Desktop:
         status, _ = self.prefix.run(PROBE, "post", *map(str, (window, message, first, second)))
         assert status == 0, "the message wasn't posted"
 
+    def show_foreign_window(self, title):
+        """Another program shows a window of that title."""
+        self.programs.append(self.prefix.start(PROBE, "show", title))
+        wait_for(lambda: self.foreign_window(title), f'another program\'s window "{title}"')
+
+    def foreign_window(self, title):
+        return any(window["class"] == "Probe_Window" and window["text"] == title for window in self.probe())
+
     def copy(self, path):
         """Puts the text of a file of the prefix on the clipboard."""
         status, _ = self.prefix.run(PROBE, "copy", path)

@@ -1,0 +1,143 @@
+#include "win32/native_lists.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace win32 {
+
+namespace {
+
+constexpr int items_dropped = 8;
+constexpr UINT set_items_dropped = 0x1701;  // CB_SETMINVISIBLE, of the newer versions of the library
+
+}  // namespace
+
+void Native_Item_List::Show(toolkit::Aspect aspect) {
+  using enum toolkit::Aspect;
+  switch (aspect) {
+    case Items: stale_ = true; break;
+    case Selection: Show_Selection(); break;
+    case Appearance:
+      Show_Font(list_);
+      Show_Place();
+      if (!stale_) Show_Widest(Widest());
+      break;
+    default: break;
+  }
+}
+
+void Native_Item_List::Settle() {
+  if (stale_ && list_.On_View()) Fill();
+}
+
+void Native_Item_List::Fill() {
+  stale_ = false;
+  constexpr std::size_t bytes_an_item = 32;
+  const int count = list_.ListCount();
+  Send(WM_SETREDRAW, FALSE);
+  Send(messages_.Clear);
+  const auto items = static_cast<std::size_t>(count);
+  Send(messages_.Make_Room, items, static_cast<LPARAM>(items * bytes_an_item));
+  for (int i = 0; i < count; ++i) Send(messages_.Add, 0, reinterpret_cast<LPARAM>(list_.List(i).c_str()));
+  Show_Selection();
+  Show_Widest(Widest());
+  Send(WM_SETREDRAW, TRUE);
+  InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void Native_Item_List::Show_Selection() {
+  if (stale_ || Selected() == list_.ListIndex()) return;
+  Send(messages_.Select, static_cast<WPARAM>(list_.ListIndex()));
+}
+
+int Native_Item_List::Widest() const {
+  Face& face = Font_Of(list_);
+  int widest = 0;
+  for (int i = 0; i < list_.ListCount(); ++i) widest = std::max(widest, Context().Fonts.Width(face, list_.List(i)));
+  return widest;
+}
+
+Native_List_Box::Native_List_Box(HWND parent, toolkit::List_Box& list, Window_Context& context)
+    : Native_Item_List(parent, list, context,
+                       {LB_RESETCONTENT, LB_INITSTORAGE, LB_ADDSTRING, LB_SETCURSEL, LB_GETCURSEL}) {
+  Make({"LISTBOX", WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, WS_EX_CLIENTEDGE});
+  Show_Font(list);
+}
+
+void Native_List_Box::Show_Widest(int pixels) {
+  constexpr int margins = 8;
+  Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels + margins));
+}
+
+void Native_List_Box::Command(WORD code) {
+  // A click on the entry that was selected before changes nothing to the system, and clicks all the same.
+  const bool picked = code == LBN_SELCHANGE || code == static_cast<WORD>(LBN_SELCANCEL);
+  const int selected = Selected();
+  if (picked && selected >= 0) List().User_Select(selected);
+  else if (code == LBN_DBLCLK && List().Usable() && List().On_Double_Click) List().On_Double_Click();
+}
+
+Native_Combo_Box::Native_Combo_Box(HWND parent, toolkit::Combo_Box& box, Window_Context& context)
+    : Native_Item_List(parent, box, context,
+                       {CB_RESETCONTENT, CB_INITSTORAGE, CB_ADDSTRING, CB_SETCURSEL, CB_GETCURSEL}) {
+  Make({"COMBOBOX", WS_VSCROLL | CBS_DROPDOWNLIST, 0});
+  Show_Font(box);
+  Send(set_items_dropped, items_dropped);
+  // What the text needs is seen where there is room for more.
+  constexpr int much = 200;
+  SetWindowPos(Window(), nullptr, 0, 0, much, much, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  least_height_ = Closed_Height();
+  around_field_ = least_height_ - static_cast<int>(Send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
+  Native_Combo_Box::Show_Place();
+}
+
+int Native_Combo_Box::Closed_Height() const {
+  RECT place = {};
+  GetWindowRect(Window(), &place);
+  return place.bottom - place.top;
+}
+
+/// The height told is that of the closed box; a box that is told to be lower than its text is as high as that needs.
+int Native_Combo_Box::Wanted_Height() const {
+  const RECT told = Native_Control::Wanted_Place();
+  return std::max<int>(told.bottom - told.top, least_height_);
+}
+
+/// The system counts the list to the box.
+RECT Native_Combo_Box::Wanted_Place() const {
+  constexpr int borders = 2;
+  RECT place = Native_Control::Wanted_Place();
+  place.top += (place.bottom - place.top - Wanted_Height()) / 2;
+  place.bottom = place.top + Wanted_Height() + items_dropped * static_cast<int>(Send(CB_GETITEMHEIGHT)) + borders;
+  return place;
+}
+
+void Native_Combo_Box::Show_Place() {
+  Native_Control::Show_Place();
+  Show_Height();
+}
+
+/// The system takes the height of the field within the box, and differs in what it counts to that.
+void Native_Combo_Box::Show_Height() {
+  for (int tries = 0; tries < 2 && Closed_Height() != Wanted_Height(); ++tries) {
+    Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), Wanted_Height() - around_field_);
+    around_field_ += Closed_Height() - Wanted_Height();
+  }
+}
+
+void Native_Combo_Box::Show_Widest(int pixels) {
+  const int around = GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXEDGE) + 4;
+  Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(pixels + around));
+}
+
+bool Native_Combo_Box::Keeps_Keys() const { return Send(CB_GETDROPPEDSTATE) != 0; }
+
+// What the user goes over while the list is dropped isn't picked yet.
+void Native_Combo_Box::Command(WORD code) {
+  const int selected = Selected();
+  if (code == CBN_SELENDCANCEL) return Show_Selection();
+  const bool moved = code == CBN_SELCHANGE && !Keeps_Keys() && selected != List().ListIndex();
+  if ((code == CBN_SELENDOK || moved) && selected >= 0) List().User_Select(selected);
+}
+
+}  // namespace win32

@@ -1,0 +1,42 @@
+#include "win32/themes.h"
+
+#include <utility>
+
+namespace win32 {
+
+// The style's handle is kept; nullptr is an answer too. A library that isn't there is asked for once.
+HANDLE Themes::Buttons() {
+  if (std::exchange(asked_, true)) return buttons_;
+  if (!library_) library_.Reset(LoadLibraryA("uxtheme.dll"));
+  const auto in_use = Find_Function<BOOL WINAPI()>(library_.Get(), "IsAppThemed");
+  const auto open = Find_Function<HANDLE WINAPI(HWND, const wchar_t*)>(library_.Get(), "OpenThemeData");
+  if (in_use == nullptr || open == nullptr || in_use() == 0) return nullptr;
+  return buttons_ = open(nullptr, L"BUTTON");
+}
+
+bool Themes::Draw(HDC context, const Look& look, const RECT& place) {
+  const HANDLE buttons = Buttons();
+  if (buttons == nullptr) return false;
+  const auto draw = Find_Function<HRESULT WINAPI(HANDLE, HDC, int, int, const RECT*, const RECT*)>(
+      library_.Get(), "DrawThemeBackground");
+  return draw != nullptr && SUCCEEDED(draw(buttons, context, look.Part, look.State, &place, nullptr));
+}
+
+COLORREF Themes::Text_Colour(const Look& look, COLORREF otherwise) {
+  constexpr int text_colour = 3803;  // TMT_TEXTCOLOR
+  const HANDLE buttons = Buttons();
+  const auto ask = Find_Function<HRESULT WINAPI(HANDLE, int, int, int, COLORREF*)>(library_.Get(), "GetThemeColor");
+  COLORREF colour = otherwise;
+  if (buttons == nullptr || ask == nullptr || FAILED(ask(buttons, look.Part, look.State, text_colour, &colour)))
+    return otherwise;
+  return colour;
+}
+
+void Themes::Forget() {
+  const auto close = Find_Function<HRESULT WINAPI(HANDLE)>(library_.Get(), "CloseThemeData");
+  if (buttons_ != nullptr && close != nullptr) close(buttons_);
+  buttons_ = nullptr;
+  asked_ = false;
+}
+
+}  // namespace win32
