@@ -1,7 +1,6 @@
 #include "exchange/csv.h"
 
 #include "basic/convert.h"
-#include "basic/line_reader.h"
 #include "basic/text.h"
 #include "events/event_line.h"
 #include "exchange/line_merge.h"
@@ -13,16 +12,6 @@ namespace {
 constexpr const char* csv_filter = "Comma Separated Values File (*.csv)|*.csv";
 constexpr File_Kind csv_out = {"Export Events as CSV File", csv_filter, ".csv"};
 constexpr File_Kind csv_in = {"Import Events from CSV File", csv_filter};
-
-/// A record goes on until a line that ends in a double quote. Throws error 62 where the file ends before that.
-std::string Next_Record(basic::Line_Reader& reader) {
-  std::string record(reader.Next());
-  while (!record.ends_with('"')) {
-    record += ' ';
-    record += reader.Next();
-  }
-  return record;
-}
 
 /// The day and the text of an entry that the import has put into its list.
 struct Staged_Entry {

@@ -60,6 +60,15 @@ bool Find_Columns(std::string_view line, Csv_Columns& columns) {
   return true;
 }
 
+std::string Next_Record(basic::Line_Reader& reader) {
+  std::string record(reader.Next());
+  while (!record.ends_with('"')) {
+    record += ' ';
+    record += reader.Next();
+  }
+  return record;
+}
+
 std::vector<Csv_Field> Read_Fields(std::string_view record) {
   const std::string line = basic::Replace_All(record, "\"\"", "") + ',';
   std::vector<Csv_Field> fields;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "basic/int16.h"
+#include "basic/line_reader.h"
 
 namespace exchange {
 
@@ -18,6 +19,10 @@ struct Csv_Columns {
 /// Finds the columns by the headings, a line in small letters. Returns false, with nothing changed, where one of the wanted
 /// words occurs nowhere in it. A heading counts only if it is such a word and no more. Throws error 6 beyond 32767 columns.
 bool Find_Columns(std::string_view line, Csv_Columns& columns);
+
+/// The next lines up to one that ends in a double quote, with a blank between each two. Throws error 62 where the file ends
+/// before that.
+std::string Next_Record(basic::Line_Reader& reader);
 
 /// A field that stood in double quotes.
 struct Csv_Field {

@@ -62,6 +62,14 @@ TEST(Csv_Headings, End_at_the_last_16_bit_number) {
   EXPECT_EQ(Error_Of([&] { Find_Columns(wanted + std::string(32765, ',') + "subject", columns); }), 6);
 }
 
+TEST(Csv_Records, Go_on_to_a_line_that_ends_in_a_quote) {
+  basic::Line_Reader reader("\"a\"\r\n\"b\r\n\r\nc\"\n\"\nd\n");
+  EXPECT_EQ(exchange::Next_Record(reader), "\"a\"");
+  EXPECT_EQ(exchange::Next_Record(reader), "\"b  c\"");
+  EXPECT_EQ(exchange::Next_Record(reader), "\"");
+  EXPECT_EQ(Error_Of([&] { (void)exchange::Next_Record(reader); }), 62);
+}
+
 TEST(Csv_Fields, Are_those_in_quotes) {
   EXPECT_EQ(Fields("\"a\",\"b\",\"c\""), (Texts{"0:a", "1:b", "2:c"}));
   EXPECT_EQ(Fields("\"a\",b,\"c\""), (Texts{"0:a", "2:c"}));
