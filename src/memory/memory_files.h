@@ -70,7 +70,7 @@ class Memory_Files : public platform::Files {
     bool Is_Folder = false;
     bool Full = false;
     std::size_t Room = 0;  // how long a copy over a full one may be
-    int Writers = 0;  // how often the file is open for writing
+    int Writers = 0;       // how often the file is open for writing
   };
 
   [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool of_folders) const;

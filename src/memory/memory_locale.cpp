@@ -41,8 +41,7 @@ basic::Date_Words German() {
 
 const std::array<Locale_Data, 3>& All() {
   static const std::array<Locale_Data, 3> locales{{
-      {"en-GB", English(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "d ", " yyyy",
-       "HH:mm:ss"},
+      {"en-GB", English(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "d ", " yyyy", "HH:mm:ss"},
       {"en-US", English(), Weekday::Sunday, "m/d/yyyy", basic::Date_Order::Month_First, "dddd, ", " d, yyyy",
        "h:mm:ss AM/PM"},
       {"de-DE", German(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "dddd, d. ", " yyyy",

@@ -40,9 +40,10 @@ Settings_Frm::Settings_Frm(toolkit::Backend& backend, const platform::System& sy
       Data_Files(Transfer, Events.Overview, parts.Event_File, parts.Desk, parts.Dates),
       Config(Transfer, *this, parts.Stored, parts.Desk),
       Csv(Transfer, Events.Overview, parts.Event_File, parts.Desk, parts.Dates, parts.Csv_Columns),
-      Exchange(Settings_Fra[exchange_page], Data_Files, Config, Csv), About(Settings_Fra[about_page], system.Shell_Open, system.Files),
-      Ok_Btn(Window, "Ok_Btn"), Cancel_Btn(Window, "Cancel_Btn"), Apply_Btn(Window, "Apply_Btn"), desk_(parts.Desk),
-      stored_(parts.Stored), calendar_(parts.Calendar),
+      Exchange(Settings_Fra[exchange_page], Data_Files, Config, Csv),
+      About(Settings_Fra[about_page], system.Shell_Open, system.Files), Ok_Btn(Window, "Ok_Btn"),
+      Cancel_Btn(Window, "Cancel_Btn"), Apply_Btn(Window, "Apply_Btn"), desk_(parts.Desk), stored_(parts.Stored),
+      calendar_(parts.Calendar),
       months_(Wallpaper, parts.Desk, parts.Date_Watch, parts.Main_Frm, parts.Waits, parts.Stored.Values) {
   Place_Controls();
   Tie_Events();

@@ -41,7 +41,7 @@ struct Win32_Platform::Parts {
   Desktop_Picture Wallpaper;
   System_Pictures Pictures;
   Shell_Launcher Launcher;
-  platform::System System{Clock,     Locale, Files,    Loop,     Message_Box, Popup_Menu, Store,   Screen,
+  platform::System System{Clock,     Locale, Files,    Loop,     Message_Box, Popup_Menu, Store,    Screen,
                           Instances, Shell,  Registry, Profiles, Wallpaper,   Pictures,   Launcher, File_Dialog};
 };
 
