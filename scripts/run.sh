@@ -89,6 +89,7 @@ fill_folder() {
   local folder=$WINEPREFIX/drive_c/Meridex pack
   mkdir -p "$folder"
   cp "$program" "$folder/"
+  cp -r "$root/guide" "$folder/"
   [ -z "$desktop" ] || cp "$output"/tools/desktop/*.exe "$output"/tools/desktop/*.dll "$folder/"
   for pack in packs/*/; do
     [ ! -f "$pack/settings.ini" ] || cp -r "${pack%/}" "$folder/"

@@ -14,11 +14,11 @@ constexpr double name_size = 20.25, version_size = 9.75, text_size = 11.25;  // 
 constexpr toolkit::Colour blue = 0xFF0000;
 
 struct Label_Row {
-  toolkit::Label About_Tab::*Label;
-  const char* Caption;
+  toolkit::Label About_Tab::*Label = nullptr;
+  const char* Caption = "";
   toolkit::Bounds Place;
-  double Size;
-  toolkit::Alignment Alignment;
+  double Size = text_size;
+  toolkit::Alignment Alignment = toolkit::Alignment::Left;
 };
 
 constexpr std::array<Label_Row, 9> rows{{

@@ -173,7 +173,7 @@ void Colours_Tab::ShowColors(Colour colour) {
 }
 
 /// Only the forms for which the window has a text box are written.
-void Colours_Tab::Write_Form(int index, const std::string& form) {
+void Colours_Tab::Write_Form(int index, const std::string& form) const {
   if (index < txCol.Count()) txCol[index].Text = form;
 }
 

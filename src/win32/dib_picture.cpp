@@ -1,6 +1,7 @@
 #include "win32/dib_picture.h"
 
 #include "basic/run_error.h"
+#include "win32/graphics.h"
 
 namespace win32 {
 
@@ -52,15 +53,21 @@ void Dib_Picture::Copy_From(HBITMAP bitmap) {
 }
 
 void Dib_Picture::Draw(HDC context, const RECT& place) const {
-  const Context_Owner source(CreateCompatibleDC(context));
-  const HGDIOBJ before = SelectObject(source.Get(), bitmap_.Get());
   // Systems that can't blend the pixels that fall together leave them out.
   SetStretchBltMode(context, COLORONCOLOR);
   SetStretchBltMode(context, HALFTONE);
   SetBrushOrgEx(context, 0, 0, nullptr);
-  StretchBlt(context, place.left, place.top, place.right - place.left, place.bottom - place.top, source.Get(), 0, 0,
-             width_, height_, SRCCOPY);
-  SelectObject(source.Get(), before);
+  On_Context([&](HDC source) {
+    StretchBlt(context, place.left, place.top, place.right - place.left, place.bottom - place.top, source, 0, 0, width_,
+               height_, SRCCOPY);
+  });
+}
+
+void Dib_Picture::On_Context(const std::function<void(HDC context)>& draw) const {
+  const Context_Owner context(CreateCompatibleDC(nullptr));
+  const Selection selected(context.Get(), bitmap_.Get());
+  draw(context.Get());
+  GdiFlush();
 }
 
 }  // namespace win32

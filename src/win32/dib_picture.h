@@ -25,6 +25,9 @@ class Dib_Picture final : public platform::Picture {
   /// Draws it, stretched to the place.
   void Draw(HDC context, const RECT& place) const;
 
+  /// Calls for drawing on it.
+  void On_Context(const std::function<void(HDC context)>& draw) const;
+
  private:
   [[nodiscard]] std::uint32_t* At(int x, int y) const;
 

@@ -196,6 +196,12 @@ void Form_Window::Place_Changed(const WINDOWPOS& place) {
   form_.Top.Keep(place.y * context_.Scale.Y);
 }
 
+/// That of a control, or of the window where the control has none or there is no control.
+toolkit::Pointer Form_Window::Pointer_Over(const toolkit::Control* control) const {
+  const bool own = control != nullptr && control->MousePointer() != toolkit::Pointer::Default;
+  return own ? control->MousePointer() : form_.MousePointer();
+}
+
 /// Returns false where the window under the pointer has a shape of its own.
 bool Form_Window::Set_Pointer(HWND over, WORD part) const {
   if (context_.Pointers.Busy()) {
@@ -204,9 +210,7 @@ bool Form_Window::Set_Pointer(HWND over, WORD part) const {
   }
   POINT at;
   if (part != HTCLIENT || GetCursorPos(&at) == 0 || ScreenToClient(Window(), &at) == 0) return false;
-  const toolkit::Control* const control = Control_At(form_, context_.Scale, at);
-  const bool own = control != nullptr && control->MousePointer() != toolkit::Pointer::Default;
-  const toolkit::Pointer pointer = own ? control->MousePointer() : form_.MousePointer();
+  const toolkit::Pointer pointer = Pointer_Over(Control_At(form_, context_.Scale, at));
   if (over != Window() && pointer == toolkit::Pointer::Default) return false;
   context_.Pointers.Show(pointer);
   return true;
@@ -216,7 +220,7 @@ bool Form_Window::Set_Pointer(HWND over, WORD part) const {
 /// held the pointer is that of what changes it.
 void Form_Window::Show_Pointer(const toolkit::Control* changed) const {
   if (context_.Pointers.Busy()) return;
-  if (changed != nullptr && GetCapture() == Window()) return context_.Pointers.Show(changed->MousePointer);
+  if (changed != nullptr && GetCapture() == Window()) return context_.Pointers.Show(Pointer_Over(changed));
   POINT at;
   if (GetCursorPos(&at) == 0) return;
   const HWND under = WindowFromPoint(at);

@@ -66,6 +66,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Capture_Changed(HWND to);
   bool Active_Changed(bool active);
   void Place_Changed(const WINDOWPOS& place);
+  [[nodiscard]] toolkit::Pointer Pointer_Over(const toolkit::Control* control) const;
   bool Set_Pointer(HWND over, WORD part) const;
   void Show_Pointer(const toolkit::Control* changed) const;
 

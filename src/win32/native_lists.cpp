@@ -82,47 +82,23 @@ Native_Combo_Box::Native_Combo_Box(HWND parent, toolkit::Combo_Box& box, Window_
                        {CB_RESETCONTENT, CB_INITSTORAGE, CB_ADDSTRING, CB_SETCURSEL, CB_GETCURSEL}) {
   Make({"COMBOBOX", WS_VSCROLL | CBS_DROPDOWNLIST, 0});
   Show_Font(box);
-  Send(set_items_dropped, items_dropped);
-  // What the text needs is seen where there is room for more.
+  // In a window that is too low for it the box would be cut off.
   constexpr int much = 200;
   SetWindowPos(Window(), nullptr, 0, 0, much, much, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  least_height_ = Closed_Height();
-  around_field_ = least_height_ - static_cast<int>(Send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
+  Send(set_items_dropped, items_dropped);
   Native_Combo_Box::Show_Place();
 }
 
-int Native_Combo_Box::Closed_Height() const {
-  RECT place = {};
-  GetWindowRect(Window(), &place);
-  return place.bottom - place.top;
-}
-
-/// The height told is that of the closed box; a box that is told to be lower than its text is as high as that needs.
-int Native_Combo_Box::Wanted_Height() const {
-  const RECT told = Native_Control::Wanted_Place();
-  return std::max<int>(told.bottom - told.top, least_height_);
-}
-
-/// The system counts the list to the box.
+/// The closed box is as high as its text needs, which the system knows, and lies in the middle of the height told. The list
+/// counts to the box.
 RECT Native_Combo_Box::Wanted_Place() const {
   constexpr int borders = 2;
-  RECT place = Native_Control::Wanted_Place();
-  place.top += (place.bottom - place.top - Wanted_Height()) / 2;
-  place.bottom = place.top + Wanted_Height() + items_dropped * static_cast<int>(Send(CB_GETITEMHEIGHT)) + borders;
+  RECT closed = {}, place = Native_Control::Wanted_Place();
+  GetWindowRect(Window(), &closed);
+  const LONG height = closed.bottom - closed.top;
+  place.top += (place.bottom - place.top - height) / 2;
+  place.bottom = place.top + height + items_dropped * static_cast<LONG>(Send(CB_GETITEMHEIGHT)) + borders;
   return place;
-}
-
-void Native_Combo_Box::Show_Place() {
-  Native_Control::Show_Place();
-  Show_Height();
-}
-
-/// The system takes the height of the field within the box, and differs in what it counts to that.
-void Native_Combo_Box::Show_Height() {
-  for (int tries = 0; tries < 2 && Closed_Height() != Wanted_Height(); ++tries) {
-    Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), Wanted_Height() - around_field_);
-    around_field_ += Closed_Height() - Wanted_Height();
-  }
 }
 
 void Native_Combo_Box::Show_Widest(int pixels) {

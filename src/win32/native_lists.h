@@ -62,14 +62,6 @@ class Native_Combo_Box final : public Native_Item_List {
  private:
   void Show_Widest(int pixels) override;
   [[nodiscard]] RECT Wanted_Place() const override;
-  void Show_Place() override;
-  void Show_Height();
-  [[nodiscard]] int Closed_Height() const;
-  [[nodiscard]] int Wanted_Height() const;
-
-  // Of the closed box, in pixels.
-  int least_height_ = 0;  // so that its text isn't cut off
-  int around_field_ = 0;  // what its field doesn't count
 };
 
 }  // namespace win32

@@ -29,12 +29,14 @@ void Native_Tab_Strip::Show_Selected() {
   if (Send(TCM_GETCURSEL) != place) Send(TCM_SETCURSEL, static_cast<WPARAM>(place));
 }
 
-/// The border of the page stays.
+/// The border of the page stays, without the margin within it, whose colour may differ from the form's.
 void Native_Tab_Strip::Cut_Page_Out() {
+  constexpr int border = 2;  // pixels
   RECT all = {};
   GetClientRect(Window(), &all);
   RECT page = all;
   Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
+  page = {border, page.top, all.right - border, all.bottom - border};
   const Region_Owner hole(CreateRectRgnIndirect(&page));
   Region_Owner rest(CreateRectRgnIndirect(&all));
   CombineRgn(rest.Get(), rest.Get(), hole.Get(), RGN_DIFF);

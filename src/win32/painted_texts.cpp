@@ -23,6 +23,9 @@ void Draw_Text(HDC context, const std::string& text, RECT& place, UINT format) {
 // The system's measures of a group box, in pixels.
 constexpr int caption_indent = 9, gap_beside_caption = 2;
 
+// Its numbers in the system's visual styles.
+constexpr int group_box = 4, normal = 1, disabled = 2;
+
 }  // namespace
 
 bool Painted_Text::Shows(toolkit::Aspect aspect) {
@@ -85,16 +88,19 @@ void Painted_Frame::Draw_Line(HDC context, Themes& themes, const RECT& caption) 
 }
 
 void Painted_Frame::Draw_Caption(HDC context, Themes& themes, RECT caption) const {
-  const COLORREF usual = GetSysColor(COLOR_BTNTEXT);
-  const COLORREF otherwise = frame_.Usable() ? usual : Grey_On(To_Colour(frame_.Window.BackColor), usual);
+  constexpr COLORREF none = CLR_INVALID;
+  const COLORREF usual = themes.Text_Colour({group_box, normal}, GetSysColor(COLOR_BTNTEXT));
+  COLORREF colour = usual;
+  if (!frame_.Usable()) {
+    // A style may have no look of its own for what is disabled.
+    colour = themes.Text_Colour(Look(), none);
+    if (colour == none || colour == usual) colour = Grey_On(To_Colour(frame_.Window.BackColor), usual);
+  }
   SetBkMode(context, TRANSPARENT);
-  SetTextColor(context, themes.Text_Colour(Look(), otherwise));
+  SetTextColor(context, colour);
   Draw_Text(context, frame_.Caption, caption, DT_SINGLELINE);
 }
 
-Themes::Look Painted_Frame::Look() const {
-  constexpr int group_box = 4, normal = 1, disabled = 2;
-  return {group_box, frame_.Usable() ? normal : disabled};
-}
+Themes::Look Painted_Frame::Look() const { return {group_box, frame_.Usable() ? normal : disabled}; }
 
 }  // namespace win32

@@ -1,8 +1,10 @@
 #include "win32/stock_pictures.h"
 
 #include <algorithm>
+#include <functional>
 #include <span>
 
+#include "win32/dib_picture.h"
 #include "win32/graphics.h"
 #include "win32/resource_numbers.h"
 
@@ -78,6 +80,30 @@ void Draw_Without_Ground(HDC context, HBITMAP bitmap, POINT corner, SIZE size) {
   put(source.Get(), SRCINVERT);
 }
 
+/// The brightness of a colour alone, half mixed with the ground.
+COLORREF Faded(COLORREF colour, COLORREF ground) {
+  const int grey = (GetRValue(colour) * 3 + GetGValue(colour) * 6 + GetBValue(colour)) / 10;
+  const auto mixed = [grey](BYTE behind) { return (grey + behind) / 2; };
+  return RGB(mixed(GetRValue(ground)), mixed(GetGValue(ground)), mixed(GetBValue(ground)));
+}
+
+/// Draws what `draw` draws in grey, and half of it: it is disabled.
+void Draw_Faded(HDC context, POINT corner, SIZE size, const std::function<void(HDC to, POINT at)>& draw) {
+  const auto copy = [&](const Dib_Picture& picture) {
+    picture.On_Context([&](HDC to) { BitBlt(to, 0, 0, size.cx, size.cy, context, corner.x, corner.y, SRCCOPY); });
+  };
+  Dib_Picture ground(size.cx, size.cy), drawn(size.cx, size.cy);
+  copy(ground);
+  copy(drawn);
+  drawn.On_Context([&](HDC to) { draw(to, {0, 0}); });
+  for (int y = 0; y < size.cy; ++y)
+    for (int x = 0; x < size.cx; ++x) {
+      const auto before = static_cast<COLORREF>(ground.Pixel(x, y)), now = static_cast<COLORREF>(drawn.Pixel(x, y));
+      if (now != before) drawn.Set_Pixel(x, y, static_cast<int>(Faded(now, before)));
+    }
+  drawn.Draw(context, {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy});
+}
+
 }  // namespace
 
 HICON Stock_Pictures::Frame_Icon(int width, int height) {
@@ -118,13 +144,13 @@ SIZE Stock_Pictures::Size(platform::Stock_Picture picture) {
 void Stock_Pictures::Draw_Plain(HDC context, platform::Stock_Picture picture, POINT corner, bool enabled) {
   const SIZE size = Size(picture);
   if (size.cx == 0) return;
-  if (Is_Icon(picture)) {
-    const auto icon = reinterpret_cast<LPARAM>(Icon(picture, size.cx, size.cy));
-    const UINT look = enabled ? DSS_NORMAL : DSS_DISABLED;
-    DrawStateA(context, nullptr, nullptr, icon, 0, corner.x, corner.y, size.cx, size.cy, DST_ICON | look);
-  } else {
-    Draw_Without_Ground(context, Menu_Bitmap(picture), corner, size);
-  }
+  const auto draw = [&](HDC to, POINT at) {
+    if (Is_Icon(picture))
+      DrawIconEx(to, at.x, at.y, Icon(picture, size.cx, size.cy), size.cx, size.cy, 0, nullptr, DI_NORMAL);
+    else Draw_Without_Ground(to, Menu_Bitmap(picture), at, size);
+  };
+  if (enabled) draw(context, corner);
+  else Draw_Faded(context, corner, size, draw);
 }
 
 HBITMAP Stock_Pictures::Menu_Bitmap(platform::Stock_Picture picture) {

@@ -22,7 +22,7 @@ class Stock_Pictures {
   /// The picture's own size in pixels; that of an icon is the system's for icons. 0 by 0 for none.
   SIZE Size(platform::Stock_Picture picture);
 
-  /// Draws the picture in its own size, without the ground that a bitmap was drawn on; greyed for what is disabled.
+  /// Draws the picture in its own size, without the ground that a bitmap was drawn on; faded for what is disabled.
   void Draw_Plain(HDC context, platform::Stock_Picture picture, POINT corner, bool enabled);
 
   /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.

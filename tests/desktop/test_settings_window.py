@@ -91,7 +91,7 @@ class Settings_Visit(Desktop_Test):
         wait_for(lambda: desktop.stored(section, key) == value, f"{key} to be stored as {value}")
 
     def test_a_whole_visit_by_the_keys(self):
-        desktop, window = self.opened(events=["5/3/2004=Tea"])
+        desktop, window = self.opened(events=["9/3/2004=Tea"])
         keys = desktop.screen.key
         # The events: the other option shows the list.
         keys("Tab", "Up")
@@ -177,7 +177,7 @@ class Settings_Packs(Desktop_Test):
     LONGEST = 115
 
     def test_the_preview_of_twelve_months_puts_the_desktop_back(self):
-        settings = {"Use Themes": 1, "Pack Name": "Seasons", "Settings Tab": 6}
+        settings = {"Use Themes": 1, "Use Theme Pos": 0, "Use Theme Style": 0, "Pack Name": "Seasons", "Settings Tab": 6}
         desktop = self.desktop(settings=settings, shell=True)
         shutil.copytree(SEASONS, desktop.folder / "Seasons")
         desktop.started()

@@ -83,3 +83,33 @@ TEST_F(System_Pictures_Test, A_bitmap_that_cannot_be_written_is_error_75) {
   const int error = Error_Of([&] { Pictures.Convert_To_Bitmap(Jpeg, nowhere); });
   EXPECT_TRUE(error == 75 || error == 76) << error;
 }
+
+TEST_F(System_Pictures_Test, A_loaded_picture_has_the_pixels_of_the_bitmap_that_it_would_become) {
+  ASSERT_EQ(Error_Of_Bytes(Picture), 0);
+  const platform::Shared_Picture from_jpeg = Pictures.Load(PACKS_FOLDER "\\Seasons\\7.jpg");
+  const platform::Shared_Picture from_bitmap = Pictures.Load(Bitmap);
+  EXPECT_EQ(from_jpeg->Width(), 1280);
+  EXPECT_EQ(from_jpeg->Height(), 1024);
+  std::string bytes;
+  Files.Read_Whole(Bitmap, bytes);
+  for (const int y : {0, 17, 500, 1023})
+    for (const int x : {0, 100, 640, 1279}) {
+      EXPECT_EQ(from_jpeg->Pixel(x, y), from_bitmap->Pixel(x, y)) << x << ' ' << y;
+      const auto at = static_cast<std::size_t>(54 + ((1023 - y) * 1280 + x) * 3);
+      const std::uint32_t stored = Number_At(bytes, at, 3);
+      const auto swapped = static_cast<int>(stored >> 16 | (stored & 0xFF00) | (stored & 0xFF) << 16);
+      EXPECT_EQ(from_jpeg->Pixel(x, y), swapped) << x << ' ' << y;
+    }
+}
+
+TEST_F(System_Pictures_Test, A_broken_picture_is_not_loaded) {
+  for (const std::size_t kept : {std::size_t{0}, std::size_t{100}, Picture.size() / 2}) {
+    Files.Create(Jpeg)->Write(Picture.substr(0, kept));
+    try {
+      Pictures.Load(Jpeg);
+      ADD_FAILURE() << kept;
+    } catch (const basic::Run_Error& error) {
+      EXPECT_EQ(error.Number(), 481) << kept;
+    }
+  }
+}

@@ -44,7 +44,7 @@ class Colours_Tab_Test : public ::testing::Test, public Program_World {
     Platform.Loop.Dispatch([&] { Platform.User.Move(palette.Window, &palette, event); });
   }
 
-  std::string Number() { return Get<toolkit::Text_Box>("txCol").Text; }
+  std::string Number() { return Get<toolkit::Text_Box>("txCol").Text(); }
 };
 
 constexpr const char* samples[] = {"Col_Today_Pic", "Col_Normal_Pic", "Col_Num_Pic",     "Col_Text_Pic",

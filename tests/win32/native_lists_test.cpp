@@ -81,15 +81,21 @@ TEST_F(Native_Lists, A_wider_entry_than_the_list_can_be_scrolled_to) {
   EXPECT_GT(SendMessageA(Child("ListBox"), LB_GETHORIZONTALEXTENT, 0, 0), client.right);
 }
 
-TEST_F(Native_Lists, A_closed_drop_down_list_is_as_high_as_it_is_told_and_drops_eight_items) {
+TEST_F(Native_Lists, A_closed_drop_down_list_lies_in_the_middle_of_its_height_and_drops_eight_items) {
   Page.Visible = true;
   Fill(Box, 20);
-  for (const double height : {315.0, 420.0, 600.0}) {
+  const double pixel = Backend.Twips_Per_Pixel(toolkit::Axis::Down);
+  LONG natural = 0;
+  for (const double height : {315.0, 240.0, 420.0, 600.0}) {
     Box.Height = height;
     Wait(50);
     RECT closed = {};
     GetWindowRect(Child("ComboBox"), &closed);
-    EXPECT_EQ(closed.bottom - closed.top, static_cast<LONG>(height / Backend.Twips_Per_Pixel(toolkit::Axis::Down)));
+    if (natural == 0) natural = closed.bottom - closed.top;
+    EXPECT_EQ(closed.bottom - closed.top, natural) << "whatever is told, its text isn't cut off";
+    POINT middle = {closed.left, (closed.top + closed.bottom) / 2};
+    ScreenToClient(Handle(), &middle);
+    EXPECT_NEAR(middle.y, (Box.Top + height / 2) / pixel, 1);
   }
   const HWND box = Child("ComboBox");
   SendMessageA(box, CB_SHOWDROPDOWN, TRUE, 0);

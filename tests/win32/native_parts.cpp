@@ -23,12 +23,26 @@ bool Is_Combo_Box(HWND window) {
   return lstrcmpiA(name, "ComboBox") == 0;
 }
 
+BOOL CALLBACK Find_Tip(HWND window, LPARAM found) {
+  char window_class[32] = "";
+  GetClassNameA(window, window_class, sizeof window_class);
+  if (lstrcmpiA(window_class, "tooltips_class32") != 0 || IsWindowVisible(window) == 0) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
 }  // namespace
 
 HWND Native_Part(HWND form, POINT pixel) {
   const HWND found = ChildWindowFromPoint(form, pixel);
   if (found == nullptr || found == form) throw std::logic_error("no control of the system's at that place");
   return found;
+}
+
+HWND Shown_Tip() {
+  HWND tip = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), Find_Tip, reinterpret_cast<LPARAM>(&tip));
+  return tip;
 }
 
 HWND Dropped_List(HWND combo_box) {

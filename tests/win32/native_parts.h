@@ -12,6 +12,9 @@ HWND Native_Part(HWND form, POINT pixel);
 /// The list that a drop-down list has dropped.
 HWND Dropped_List(HWND combo_box);
 
+/// The tip that is on the screen, nullptr if none is.
+HWND Shown_Tip();
+
 // Places in pixels of the screen. Items and tabs count from 0 on.
 
 POINT Middle_Of_Item(HWND list, int item);

@@ -41,10 +41,11 @@ void Press(World& world, const Target& target, const Mouse_Event& event, bool tw
   else user.Press(*target.Window, target.Control, event);
 }
 
-void Release(World& world, const Target& target, const Mouse_Event& event) {
+/// The second release of a double-click is no click.
+void Release(World& world, const Target& target, const Mouse_Event& event, bool clicks = true) {
   if (!world.Is_There(target.Window, target.Control)) return;
   world.Platform.User.Release(*target.Window, target.Control, event);
-  if (target.Item && event.Button == Mouse_Button::Left && Can_Be_Reached(world, target))
+  if (clicks && target.Item && event.Button == Mouse_Button::Left && Can_Be_Reached(world, target))
     memory::Memory_User::Pick(*target.Control, *target.Item);
 }
 
@@ -146,9 +147,9 @@ void Play_Click(World& world, const Words& words) {
 void Play_Double_Click(World& world, const Words& words) {
   const auto target = Reach(world, words[0]);
   if (!target) return;
-  const auto release = [&] { Release(world, *target, left_click); };
-  Gesture(world, {[&] { Press(world, *target, left_click); }, release, [&] { Press(world, *target, left_click, true); },
-                  release})
+  Gesture(world,
+          {[&] { Press(world, *target, left_click); }, [&] { Release(world, *target, left_click); },
+           [&] { Press(world, *target, left_click, true); }, [&] { Release(world, *target, left_click, false); }})
       .Play();
 }
 
