@@ -100,6 +100,15 @@ TEST_F(Csv_Program_Test, The_old_file_comes_back_from_a_full_disk) {
   EXPECT_EQ(Import_Csv(), Done(3)) << "the file number is free";
 }
 
+TEST_F(Csv_Program_Test, An_event_file_that_is_too_long_fails_with_its_own_message_first) {
+  std::string many;
+  for (int i = 0; i < 32768; ++i) many += "\"1/1/2010=x\"\r\n";
+  Put("calendar.dat", many);
+  Put("in.csv", Rows(1));
+  EXPECT_EQ(Import_Csv(), std::string("Error loading in data file.\n") + failed);
+  EXPECT_EQ(File("calendar.dat"), many);
+}
+
 TEST_F(Csv_Program_Test, Undoing_that_fails_ends_the_program) {
   Put("calendar.dat", "\"1/1/2010=first\"\r\n");
   Put("in.csv", Rows(1));
