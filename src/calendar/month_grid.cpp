@@ -1,5 +1,6 @@
 #include "calendar/month_grid.h"
 
+#include "basic/date_pattern.h"
 #include "presentation/transparent_form.h"
 #include "presentation/which_style.h"
 
@@ -91,11 +92,15 @@ void Month_Grid::Select_Day_Of_Box(basic::Int16 box) {
   calendar_.Selected_Date = events::Date_Key(Day_Of_Box(box), calendar_.View_Month, calendar_.View_Year);
 }
 
-void Month_Grid::Select_Today() { Select_Day(dates_.Present_Day()); }
+void Month_Grid::Select_Today() {
+  const basic::Civil_Date today = dates_.Today();
+  calendar_.Selected_Date = events::Date_Key(today.Day, today.Month, today.Year);
+}
 
 void Month_Grid::Select_Day(basic::Serial_Day day) {
-  const basic::Civil_Date date = basic::Civil_From_Serial(day);
-  calendar_.Selected_Date = events::Date_Key(date.Day, date.Month, date.Year);
+  basic::Date_Words words = dates_.Words();
+  words.Date_Separator = "/";
+  calendar_.Selected_Date = basic::Format_Date({day, 0}, "d/m/yyyy", words);
 }
 
 std::int32_t Month_Grid::Days_From_Today(basic::Int16 box) const {

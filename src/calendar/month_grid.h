@@ -66,6 +66,7 @@ class Month_Grid {
   /// Set Selected_Date: to the day of a box of the month on view, to today, or to any day.
   void Select_Day_Of_Box(basic::Int16 box);
   void Select_Today();
+  /// The same of any day, with four digits for the year whatever it is.
   void Select_Day(basic::Serial_Day day);
 
   /// The number of days from today to the day of a box, negative if that lies before today.

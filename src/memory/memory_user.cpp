@@ -127,9 +127,7 @@ void Memory_User::Press_Key(Form& window, const Typed_Key& key) {
 }
 
 void Memory_User::Type(toolkit::Text_Box& box, const std::string& text) {
-  Form& window = box.Window;
-  window.Set_Focus(box);
-  if (!input_.Is_There(&window, &box)) return;
+  if (!Take_Focus(box)) return;
   box.SelStart.Keep(static_cast<int>(text.size()));
   box.SelLength.Keep(0);
   box.User_Text(text);
@@ -140,16 +138,24 @@ void Memory_User::Pick(Control& control, int item) {
   if (auto* const strip = dynamic_cast<toolkit::Tab_Strip*>(&control)) strip->User_Select(item);
 }
 
-void Memory_User::Choose(toolkit::Combo_Box& box, int item) {
-  Form& window = box.Window;
-  window.Set_Focus(box);
-  if (input_.Is_There(&window, &box)) box.User_Select(item);
+void Memory_User::Choose(toolkit::Combo_Box& box, std::string_view item) {
+  if (!Take_Focus(box)) return;
+  int index = 0;
+  while (index < box.ListCount() && box.List(index) != item) ++index;
+  if (index < box.ListCount()) box.User_Select(index);
+}
+
+/// The window becomes active by it, which may change what is in it. Returns whether the control can be used after that.
+bool Memory_User::Take_Focus(Control& control) {
+  Form& window = control.Window;
+  window.Set_Focus(control);
+  return input_.Is_There(&window, &control) && control.On_View() && control.Usable();
 }
 
 void Memory_User::Slide(toolkit::Slider& slider, int value) {
   Form& window = slider.Window;
-  window.Set_Focus(slider);
-  if (input_.Is_There(&window, &slider)) slider.User_Press();
+  if (!Take_Focus(slider)) return;
+  slider.User_Press();
   if (input_.Is_There(&window, &slider)) slider.User_Scroll(value);
   if (input_.Is_There(&window, &slider)) slider.User_Release();
 }

@@ -44,8 +44,8 @@ class Memory_User {
   /// Clicks an item of a list (from 0 on) or a tab (from 1 on).
   static void Pick(toolkit::Control& control, int item);
 
-  /// Opens a drop-down list and picks an item (from 0 on).
-  void Choose(toolkit::Combo_Box& box, int item);
+  /// The user opens a drop-down list and picks the item of that text, if it is there by then.
+  void Choose(toolkit::Combo_Box& box, std::string_view item);
 
   /// Takes hold of a slider, drags it to a value and lets it go.
   void Slide(toolkit::Slider& slider, int value);
@@ -54,6 +54,7 @@ class Memory_User {
   void Type(toolkit::Text_Box& box, const std::string& text);
 
  private:
+  bool Take_Focus(toolkit::Control& control);
   void Begin(toolkit::Form& window, toolkit::Control* control, const toolkit::Mouse_Event& event, bool twice);
   static void Key_In_Text_Box(toolkit::Text_Box& box, const Typed_Key& key);
 

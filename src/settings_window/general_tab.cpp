@@ -27,9 +27,10 @@ void Select_Number(toolkit::Combo_Box& list, basic::Int16 index) {
 
 /// A stored text that is no entry of its list stays what it is: it becomes one.
 void Select_Or_Add(toolkit::Combo_Box& list, const std::string& text) {
-  if (list.Select_Text(text)) return;
-  list.Add_Item(text);
-  list.Select(list.ListCount() - 1);
+  int item = 0;
+  while (item < list.ListCount() && list.List(item) != text) ++item;
+  if (item == list.ListCount()) list.Add_Item(text);
+  list.Select(item);
 }
 
 int Tick_Of(basic::Int16 value) { return value == 0 ? 0 : 1; }

@@ -11,6 +11,8 @@ void Settings_Opener::Show() {
     windows_.push_back(std::make_unique<Settings_Frm>(backend_, system_, parts_));
   }
   toolkit::Form& window = windows_.back()->Window;
+  window.Load();
+  if (!window.Loaded()) return;
   parts_.Calendar.Settings_Visible = true;
   window.Show();
 }

@@ -63,7 +63,9 @@ void Statistics::Get_Stats() {
 
 void Statistics::Reset_Vars() { counters_ = {}; }
 
+/// All lines are counted in one moment.
 void Statistics::Load_Dates() {
+  today_ = dates_.Present_Day();
   if (event_file_.Load_Dates([this](std::string_view line) { Workout_Stats(line); })) Write_Labels();
 }
 
@@ -75,14 +77,13 @@ void Statistics::Workout_Stats(std::string_view line) {
     Count_Month(month);
     return;
   }
-  const basic::Serial_Day today = dates_.Present_Day();
   const std::string date =
       basic::To_Text(day) + "/" + basic::To_Text(month) + "/" + std::string(basic::Trim_Blanks(year));
-  const basic::Serial_Day days = dates_.Read_Date(date) - today;
+  const basic::Serial_Day days = dates_.Read_Date(date) - today_;
   if (days < 0) counters_.Before_Count += 1;
   if (days > 0) counters_.After_Count += 1;
   counters_.Total_Count += 1;
-  if (basic::To_Int16(year) != basic::Civil_From_Serial(today).Year) return;
+  if (basic::To_Int16(year) != basic::Civil_From_Serial(today_).Year) return;
   counters_.Year_Count += 1;
   Count_Month(month);
 }

@@ -49,6 +49,7 @@ class Statistics {
 
   events::Event_File& event_file_;
   calendar::Dates& dates_;
+  basic::Serial_Day today_ = 0;
   Counters counters_;
   std::array<std::string_view, 12> month_titles_;
 };

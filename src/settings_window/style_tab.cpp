@@ -85,6 +85,7 @@ void Style_Tab::Make_Examples() {
   Example4_Lbl.Caption = " 1";
   for (toolkit::Label* const box : {&Example5_Lbl, &Example1_Lbl, &Example4_Lbl}) {
     box->BackColor = toolkit::white;
+    box->ForeColor = toolkit::black;  // on white in every scheme of colours
     box->Fixed_Border = true;
     box->FontName = "Arial";
     box->FontSize = 9;
@@ -94,9 +95,11 @@ void Style_Tab::Make_Examples() {
   Example2_Lbl.Caption = "This is an example.";
   Example2_Lbl.Alignment = Alignment::Centre;
   Example2_Lbl.Transparent = true;
+  Example2_Lbl.ForeColor = toolkit::black;
   Example3_Lbl.Place({720, 3195, 870, 285});
   Example3_Lbl.Caption = "This is an...";
   Example3_Lbl.Transparent = true;
+  Example3_Lbl.ForeColor = toolkit::black;
 }
 
 void Style_Tab::Tie_Events() {

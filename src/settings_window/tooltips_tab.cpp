@@ -75,11 +75,13 @@ void Tooltips_Tab::Place_Controls() {
   TipBoxExample_Lbl.Place({540, 810, 825, 915});
   TipBoxExample_Lbl.Caption = " 1";
   TipBoxExample_Lbl.BackColor = toolkit::white;
+  TipBoxExample_Lbl.ForeColor = toolkit::black;  // on white in every scheme of colours
   TipBoxExample_Lbl.Fixed_Border = true;
   TipExample_Lbl.Place({585, 1080, 735, 600});
   TipExample_Lbl.Caption = example;
   TipExample_Lbl.Alignment = toolkit::Alignment::Centre;
   TipExample_Lbl.Transparent = true;
+  TipExample_Lbl.ForeColor = toolkit::black;
   Frame14.Place({0, 1980, 5100, 1860});
   Frame14.Caption = "Notes";
   TipsNotes_Lbl.Place({225, 405, 4695, 1230});

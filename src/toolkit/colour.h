@@ -7,6 +7,7 @@ namespace toolkit {
 /// that the low byte names.
 using Colour = int;
 
+constexpr Colour black = 0;
 constexpr Colour white = 0xFFFFFF;
 
 constexpr bool Is_System_Colour(Colour colour) { return colour < 0; }

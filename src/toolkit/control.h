@@ -14,7 +14,8 @@ namespace toolkit {
 
 enum class Mouse_Button { None = 0, Left = 1, Right = 2, Middle = 4 };
 
-/// What the pointer does: the button (of a move the one that is held), the place in twips, and whether Shift is held.
+/// What the pointer does: the button (of a move the one that is held), the place in twips, and
+/// whether Shift, Ctrl or Alt is held.
 struct Mouse_Event {
   Mouse_Button Button = Mouse_Button::None;
   double X = 0, Y = 0;

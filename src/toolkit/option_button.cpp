@@ -49,18 +49,31 @@ bool Option_Button::Key_Down(const Key& key) {
     case key_left: Go_To_Next(true); return true;
     case key_down:
     case key_right: Go_To_Next(false); return true;
+    case key_home:
+    case key_page_up: Go_To(*Group_In_Reach().front()); return true;
+    case key_end:
+    case key_page_down: Go_To(*Group_In_Reach().back()); return true;
     default: return false;
   }
 }
 
 void Option_Button::Go_To_Next(bool backwards) {
-  std::vector<Option_Button*> group = Group();
-  std::erase_if(group, [this](const auto* option) { return option != this && !option->Can_Have_Focus(); });
+  std::vector<Option_Button*> group = Group_In_Reach();
   if (backwards) std::reverse(group.begin(), group.end());
   auto next = std::find(group.begin(), group.end(), this) + 1;
   if (next == group.end()) next = group.begin();
-  if (*next == this) return;
-  Option_Button& option = **next;
+  Go_To(**next);
+}
+
+/// The options of the group that can have the focus, with this one.
+std::vector<Option_Button*> Option_Button::Group_In_Reach() const {
+  std::vector<Option_Button*> group = Group();
+  std::erase_if(group, [this](const auto* option) { return option != this && !option->Can_Have_Focus(); });
+  return group;
+}
+
+void Option_Button::Go_To(Option_Button& option) {
+  if (&option == this) return;
   Window.System().Input.Move_Focus(Window, &option);
   option.Value = true;
 }

@@ -28,7 +28,7 @@ class Option_Button : public Control, public Font_Properties {
   [[nodiscard]] bool Double_Clicks() const override { return false; }
   [[nodiscard]] bool Clicks_Before_Release() const override { return true; }
 
-  /// The arrows go to the next option of the group, and turn it on.
+  /// The arrows go to the next option of the group, Home and End and the pages to its ends, and turn it on.
   bool Key_Down(const Key& key) override;
   void Key_Up(const Key& key) override;
   void Show_Held(bool held) override { Held = held; }
@@ -36,7 +36,9 @@ class Option_Button : public Control, public Font_Properties {
 
  private:
   [[nodiscard]] std::vector<Option_Button*> Group() const;
+  [[nodiscard]] std::vector<Option_Button*> Group_In_Reach() const;
   void Go_To_Next(bool backwards);
+  void Go_To(Option_Button& option);
 };
 
 }  // namespace toolkit

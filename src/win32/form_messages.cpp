@@ -21,6 +21,9 @@ Mouse_Button Held_Button(WPARAM keys) {
   return (keys & MK_MBUTTON) != 0 ? Mouse_Button::Middle : Mouse_Button::None;
 }
 
+/// Whether Shift, Ctrl or Alt is held.
+bool With_Shift(WPARAM keys) { return (keys & (MK_SHIFT | MK_CONTROL)) != 0 || GetKeyState(VK_MENU) < 0; }
+
 POINT Point_Of(LPARAM l) { return {static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))}; }
 
 }  // namespace
@@ -79,7 +82,7 @@ bool Form_Window::Mouse_Message(UINT message, WPARAM w, LPARAM l) {
   tip_.Relay(Window(), message, w, l);
   toolkit::Control* const control = Control_At(form_, context_.Scale, at);
   toolkit::Input& input = form_.System().Input;
-  toolkit::Mouse_Event event{Mouse_Button::Left, at.x * context_.Scale.X, at.y * context_.Scale.Y, (w & MK_SHIFT) != 0};
+  toolkit::Mouse_Event event{Mouse_Button::Left, at.x * context_.Scale.X, at.y * context_.Scale.Y, With_Shift(w)};
   if (message == WM_RBUTTONDOWN || message == WM_RBUTTONUP || message == WM_RBUTTONDBLCLK)
     event.Button = Mouse_Button::Right;
   if (message == WM_MBUTTONDOWN || message == WM_MBUTTONUP || message == WM_MBUTTONDBLCLK)
@@ -140,6 +143,7 @@ bool Form_Window::Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& resul
     default:
       result = reinterpret_cast<LRESULT>(Ground());
       SetBkColor(reinterpret_cast<HDC>(w), ground_colour_);
+      SetTextColor(reinterpret_cast<HDC>(w), To_Colour(form_.ForeColor));
       return true;
   }
 }
@@ -216,8 +220,8 @@ bool Form_Window::Set_Pointer(HWND over, WORD part) const {
   return true;
 }
 
-/// The pointer of the form, or of the control, has changed: it is shown at once where it is over that. While the mouse is
-/// held the pointer is that of what changes it.
+/// The pointer of the form, or of the control, has changed: it is shown at once where it is over that. While the mouse
+/// is held the pointer is that of what changes it.
 void Form_Window::Show_Pointer(const toolkit::Control* changed) const {
   if (context_.Pointers.Busy()) return;
   if (changed != nullptr && GetCapture() == Window()) return context_.Pointers.Show(Pointer_Over(changed));

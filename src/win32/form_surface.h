@@ -1,4 +1,5 @@
-// What a form's window paints itself: its controls without windows of their own, and which of them have to be painted anew.
+// What a form's window paints itself: its controls without windows of their own, and which of them have to be painted
+// anew.
 #pragma once
 
 #include <vector>

@@ -1,5 +1,5 @@
-// One window of the system for one form. It paints the controls that have no windows of their own, holds those that have, and
-// decodes what the user does into the form's input functions.
+// One window of the system for one form. It paints the controls that have no windows of their own, holds those that
+// have, and decodes what the user does into the form's input functions.
 #pragma once
 
 #include <optional>

@@ -27,7 +27,8 @@ class Native_Control {
   /// Shows what is shown once for however many changes; comes after changes, before the display is looked at.
   virtual void Settle() {}
 
-  // What the system's control tells its parent. **A handler may destroy this control: touch no member after calling one.**
+  // What the system's control tells its parent. **A handler may destroy this control: touch no member after calling
+  // one.**
 
   virtual void Command(WORD /*code*/) {}
   virtual void Scrolled(WORD /*code*/) {}

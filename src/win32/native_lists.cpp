@@ -89,8 +89,8 @@ Native_Combo_Box::Native_Combo_Box(HWND parent, toolkit::Combo_Box& box, Window_
   Native_Combo_Box::Show_Place();
 }
 
-/// The closed box is as high as its text needs, which the system knows, and lies in the middle of the height told. The list
-/// counts to the box.
+/// The closed box is as high as its text needs, which the system knows, and lies in the middle of the height told. The
+/// list counts to the box.
 RECT Native_Combo_Box::Wanted_Place() const {
   constexpr int borders = 2;
   RECT closed = {}, place = Native_Control::Wanted_Place();

@@ -1,4 +1,5 @@
-// A control without a window of its own, as the form's window knows and paints it. One class for each kind derives from it.
+// A control without a window of its own, as the form's window knows and paints it. One class for each kind derives from
+// it.
 #pragma once
 
 #include <memory>

@@ -12,8 +12,8 @@ namespace win32 {
 /// A decoded picture, and the libraries that decoded it: they are loaded for as long as one is being looked at.
 class Decoded_Picture {
  public:
-  /// Takes a JPEG or a bitmap of at most 64 million pixels. Throws error 481 for any other file, and 429 on a system that
-  /// decodes none.
+  /// Takes a JPEG or a bitmap of at most 64 million pixels. Throws error 481 for any other file, and 429 on a system
+  /// that decodes none.
   explicit Decoded_Picture(std::string_view file);
   Decoded_Picture(const Decoded_Picture&) = delete;
   Decoded_Picture& operator=(const Decoded_Picture&) = delete;

@@ -59,7 +59,7 @@ void Append_Day(std::string& to, basic::Serial_Day day, DWORD flags, LCTYPE pict
   Append_By_System(to, date, 0, with_year.c_str());
 }
 
-basic::Date_Order Order() {
+basic::Date_Order Present_Order() {
   const std::string number = Info(LOCALE_IDATE);
   if (number == "0") return basic::Date_Order::Month_First;
   return number == "2" ? basic::Date_Order::Year_First : basic::Date_Order::Day_First;
@@ -76,6 +76,7 @@ User_Locale::User_Locale() {
   for (LCTYPE i = 0; i < 12; ++i) words_.Months[i] = Info(LOCALE_SMONTHNAME1 + i);
   words_.Date_Separator = Info(LOCALE_SDATE);
   words_.Time_Separator = Info(LOCALE_STIME);
+  order_ = Present_Order();
 }
 
 basic::Weekday User_Locale::First_Weekday() {
@@ -103,7 +104,7 @@ basic::Serial_Day User_Locale::Read_Date(const std::string& text) { return Read_
 
 /// Numbers are read here, names and times by the system's automation.
 basic::Moment User_Locale::Read_Moment(const std::string& text) {
-  if (const auto day = basic::Read_Numeric_Date(text, Order())) return {*day, 0};
+  if (const auto day = basic::Read_Numeric_Date(text, order_)) return {*day, 0};
   return automation_.Moment_Of_Text(text);
 }
 

@@ -1,6 +1,7 @@
 // The user's locale, with the changes that the user made to it.
 #pragma once
 
+#include "basic/date_reading.h"
 #include "platform/locale.h"
 #include "win32/automation_dates.h"
 
@@ -20,6 +21,7 @@ class User_Locale final : public platform::Locale {
 
  private:
   basic::Date_Words words_;
+  basic::Date_Order order_ = basic::Date_Order::Day_First;
   Automation_Dates automation_;
 };
 

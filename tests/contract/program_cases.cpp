@@ -1,5 +1,5 @@
-// The whole program over a window system, with a clock that the case sets: a tick and a midnight under a message box and
-// under a menu.
+// The whole program over a window system, with a clock that the case sets: a tick and a midnight under a message box
+// and under a menu.
 #include "main/meridex.h"
 #include "tests/contract/service_world.h"
 

@@ -50,7 +50,7 @@ class Memory_User : public User {
   void Click_Item(toolkit::List_Box& list, int item) override { Click_Part(list, item); }
   void Click_Tab(toolkit::Tab_Strip& strip, int tab) override { Click_Part(strip, tab); }
   void Choose_Item(toolkit::Combo_Box& box, int item) override {
-    Run([&] { platform_.User.Choose(box, item); });
+    Run([&] { platform_.User.Choose(box, box.List(item)); });
   }
   void Drag_Thumb(toolkit::Slider& slider, int to) override {
     Run([&] { platform_.User.Slide(slider, to); });

@@ -18,8 +18,8 @@ using toolkit::Mouse_Button;
 
 constexpr UINT while_open = 500;  // milliseconds
 
-/// What is to be done when a box or a menu has been open for a while; returns false to be asked again a moment later. The
-/// system serves one at a time.
+/// What is to be done when a box or a menu has been open for a while; returns false to be asked again a moment later.
+/// The system serves one at a time.
 std::function<bool()> due;
 
 void CALLBACK Do_What_Is_Due(HWND, UINT, UINT_PTR timer, DWORD) {

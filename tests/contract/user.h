@@ -35,8 +35,8 @@ class User {
     Release(window, control, toolkit::Mouse_Button::Left);
   }
 
-  // The parts of the system's own controls, which the user sees: an item of a list (from 0 on), one of a drop-down list that
-  // is opened for it, a tab (from 1 on), the place of a slider's thumb.
+  // The parts of the system's own controls, which the user sees: an item of a list (from 0 on), one of a drop-down list
+  // that is opened for it, a tab (from 1 on), the place of a slider's thumb.
 
   virtual void Click_Item(toolkit::List_Box& list, int item) = 0;
   virtual void Choose_Item(toolkit::Combo_Box& box, int item) = 0;

@@ -156,7 +156,21 @@ TEST_F(Option_Button_Test, The_space_key_clicks_when_it_goes_up) {
 
 TEST_F(Option_Button_Test, Other_keys_are_not_its_own) {
   Window.Set_Focus(One);
-  for (const int key : {toolkit::key_enter, toolkit::key_home, toolkit::key_f5}) EXPECT_FALSE(One.Key_Down({key}));
+  for (const int key : {toolkit::key_enter, toolkit::key_f5}) EXPECT_FALSE(One.Key_Down({key}));
+}
+
+TEST_F(Option_Button_Test, Home_and_End_and_the_pages_go_to_the_ends_of_the_group) {
+  Window.Set_Focus(Two);
+  EXPECT_TRUE(Two.Key_Down({toolkit::key_end}));
+  EXPECT_EQ(Focus(), "Three");
+  EXPECT_TRUE(Three.Key_Down({toolkit::key_end})) << "it is there already";
+  EXPECT_TRUE(Three.Key_Down({toolkit::key_home}));
+  EXPECT_EQ(Focus(), "One");
+  EXPECT_TRUE(One.Key_Down({toolkit::key_page_down}));
+  One.Enabled = false;
+  EXPECT_TRUE(Three.Key_Down({toolkit::key_page_up}));
+  EXPECT_EQ(Focus(), "Two");
+  EXPECT_EQ(Take_Clicked(), (Words{"Three on", "One on", "Three on", "Two on"}));
 }
 
 TEST_F(Option_Button_Test, The_mouse_holds_it_and_turns_it_on_before_the_release_is_told) {

@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-/// The system's control that lies at a pixel of its form's client area, visible or not; throws std::logic_error if none does.
+/// The system's control that lies at a pixel of its form's client area, visible or not; throws std::logic_error if none
+/// does.
 HWND Native_Part(HWND form, POINT pixel);
 
 /// The list that a drop-down list has dropped.

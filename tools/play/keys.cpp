@@ -99,7 +99,7 @@ void Play_Select(World& world, const Words& words) {
   int item = 0;
   while (item < box->ListCount() && box->List(item) != words[1]) ++item;
   if (item == box->ListCount()) throw Cannot_Play(words[0] + " has no entry " + Quoted(words[1]));
-  world.Run([&] { world.Platform.User.Choose(*box, item); });
+  world.Run([&] { world.Platform.User.Choose(*box, words[1]); });
 }
 
 void Play_Slide(World& world, const Words& words) {

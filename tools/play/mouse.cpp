@@ -37,15 +37,23 @@ Mouse_Event Event_Of(const Words& words) {
 void Press(World& world, const Target& target, const Mouse_Event& event, bool twice = false) {
   if (!Can_Be_Reached(world, target)) return;
   auto& user = world.Platform.User;
+  if (event.Button == Mouse_Button::Left) {
+    world.Pressed_Item.reset();
+    // The second press of a double-click is no click of its own.
+    if (target.Item && !twice) world.Pressed_Item = {target.Control, *target.Item};
+  }
   if (twice) user.Press_Twice(*target.Window, target.Control, event);
   else user.Press(*target.Window, target.Control, event);
 }
 
-/// The second release of a double-click is no click.
-void Release(World& world, const Target& target, const Mouse_Event& event, bool clicks = true) {
+/// An item is picked where the button goes down and up over it.
+void Release(World& world, const Target& target, const Mouse_Event& event) {
   if (!world.Is_There(target.Window, target.Control)) return;
+  const bool held = world.Platform.Windows_And_Timers.Input.Holds(event.Button);
   world.Platform.User.Release(*target.Window, target.Control, event);
-  if (clicks && target.Item && event.Button == Mouse_Button::Left && Can_Be_Reached(world, target))
+  if (!target.Item || event.Button != Mouse_Button::Left || !held) return;
+  const World::Item_Press released{target.Control, *target.Item};
+  if (std::exchange(world.Pressed_Item, std::nullopt) == released && Can_Be_Reached(world, target))
     memory::Memory_User::Pick(*target.Control, *target.Item);
 }
 
@@ -147,9 +155,8 @@ void Play_Click(World& world, const Words& words) {
 void Play_Double_Click(World& world, const Words& words) {
   const auto target = Reach(world, words[0]);
   if (!target) return;
-  Gesture(world,
-          {[&] { Press(world, *target, left_click); }, [&] { Release(world, *target, left_click); },
-           [&] { Press(world, *target, left_click, true); }, [&] { Release(world, *target, left_click, false); }})
+  Gesture(world, {[&] { Press(world, *target, left_click); }, [&] { Release(world, *target, left_click); },
+                  [&] { Press(world, *target, left_click, true); }, [&] { Release(world, *target, left_click); }})
       .Play();
 }
 

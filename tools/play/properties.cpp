@@ -134,6 +134,13 @@ std::string List_Item(const Target& target, const std::string& property) {
   return Quoted(index >= 0 && index < list->ListCount() ? list->List(index) : std::string());
 }
 
+/// The caption of a tab.
+std::string Tab_Text(const Target& target, const Tab_Strip& strip, const std::string& property) {
+  const auto place = static_cast<std::size_t>(*target.Item) - 1;
+  if (property != "Caption" || place >= strip.Captions.size()) throw Cannot_Play(target.Name + " has no " + property);
+  return Quoted(strip.Captions[place]);
+}
+
 }  // namespace
 
 void Check_Property(const std::string& property) {
@@ -145,6 +152,8 @@ void Check_Property(const std::string& property) {
 std::string Property_Text(const Target& target, const std::string& property) {
   Check_Property(property);
   if (Is_List_Item(property)) return List_Item(target, property);
+  if (const auto* const strip = dynamic_cast<const Tab_Strip*>(target.Control); target.Item && strip != nullptr)
+    return Tab_Text(target, *strip, property);
   for (const Property_Entry& entry : entries) {
     if (entry.name != property) continue;
     if (target.Control == nullptr && entry.of_window != nullptr) return entry.of_window(*target.Window);

@@ -27,6 +27,14 @@ class World {
 
   memory::Memory_Platform Platform;
 
+  /// The item of a list, or the tab, that the left button was pressed on last.
+  struct Item_Press {
+    const toolkit::Control* Control = nullptr;
+    int Item = 0;
+    bool operator==(const Item_Press&) const = default;
+  };
+  std::optional<Item_Press> Pressed_Item;
+
   void Print(const std::string& line) const { print_(line); }
 
   /// Starts the program, in place of one that runs. Within a handler of the program that one is unwound first.
