@@ -12,9 +12,7 @@ class Exchange_World : public ::testing::Test {
   /// Starts the program anew and opens the window.
   void Open() {
     World.Start();
-    World.Platform.Loop.Dispatch([this] {
-      World.Platform.User.Press_Key(*World.Window("Main_Frm"), {{toolkit::key_f8}, ""});
-    });
+    World.Platform.Loop.Dispatch([this] { World.Window("Main_Frm")->On_Key_Up(toolkit::key_f8); });
     (void)World.Messages();
   }
 
