@@ -38,9 +38,9 @@ platform::System Bench_Program::System_With(platform::Files& files) {
   platform_.Time.Set_Now({basic::Date_Serial(2004, 3, 5), nine_in_the_morning});
   platform_.Begin_Program();
   const platform::System all = platform_.System();
-  return {all.Clock,      all.Locale,   files,         all.Loop,      all.Message_Box,
-          all.Popup_Menu, all.Store,    all.Screen,    all.Instances, all.Shell,
-          all.Registry,   all.Profiles, all.Wallpaper, all.Pictures,  all.Shell_Open};
+  return {all.Clock,     all.Locale,   files,          all.Loop,       all.Message_Box, all.Popup_Menu,
+          all.Store,     all.Screen,   all.Instances,  all.Shell,      all.Registry,    all.Profiles,
+          all.Wallpaper, all.Pictures, all.Shell_Open, all.File_Dialog};
 }
 
 void Bench_Program::Open_Settings() {

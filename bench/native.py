@@ -51,6 +51,15 @@ def overview(programs, data):
     return [Figure("All events sorted and listed, 32,767", nanoseconds(run) / 1e6, "ms", 150)]
 
 
+def exchange(programs):
+    runs = google_benchmark(programs / "bench_exchange", "--benchmark_repetitions=3")
+    runs = {name.split("/")[0]: run for name, run in runs.items()}
+    return [
+        Figure("CSV export of 32,767 events", nanoseconds(runs["Export_Csv"]) / 1e6, "ms", 100),
+        Figure("CSV import of 10,000 rows", nanoseconds(runs["Import_Csv"]) / 1e9, "s", 20),
+    ]
+
+
 def month_print(programs, data, rounds):
     own = [programs / "bench_month_print", data / "32767/calendar.dat", 3, 2004]
     peer = ["gcal", "-H", "no", "-u", f"-f{data / '32767/events.gcal'}", "-cm", "%20040301"]

@@ -50,6 +50,10 @@ std::unique_ptr<basic::Output_File> Posix_Files::Create(const std::string&) {
 
 void Posix_Files::Delete(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
+void Posix_Files::Copy(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
+basic::Moment Posix_Files::Last_Change(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
 bool Posix_Files::File_Exists(const std::string& path) {
   struct stat about {};
   return stat(Real_Path(path).c_str(), &about) == 0 && S_ISREG(about.st_mode);

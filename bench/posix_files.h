@@ -18,6 +18,8 @@ class Posix_Files final : public platform::Files {
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  basic::Moment Last_Change(const std::string& path) override;
   std::string Program_Folder() override { return "C:\\Meridex"; }
   std::string Program_Path() override { return "C:\\Meridex\\meridex.exe"; }
 

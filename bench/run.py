@@ -29,7 +29,7 @@ def make_data():
 def measure(group, quick):
     if group == "native":
         return (native.month_change(PROGRAMS, DATA, 9 if quick else 21) + native.tick(PROGRAMS, DATA) +
-                native.overview(PROGRAMS, DATA) +
+                native.overview(PROGRAMS, DATA) + native.exchange(PROGRAMS) +
                 native.month_print(PROGRAMS, DATA, 15 if quick else 41))
     if group == "size":
         return wine.size()

@@ -57,15 +57,34 @@ class File_Channel {
   /// gathered.
   void Write_Record(std::string_view line);
 
+  /// Adds a line as it stands, and CR LF. Throws as above.
+  void Write_Line(std::string_view line);
+
+  /// Writes what is still to be written; the file stays open. Throws error 61.
+  void Write_Out();
+
+  /// Cuts the file that is being written to its first `size` bytes; what comes next follows on them. Throws error 61 where
+  /// something was still to be written.
+  void Go_Back_To(std::size_t size);
+
   /// Writes the records that still wait and frees the number. Throws error 61 if the disk is full; the number then
   /// stays taken.
   void Close();
 
+  /// Frees the number whatever has failed before; does nothing while it is free.
+  void Give_Up() noexcept;
+
+  /// Whether the number is taken by the file of that path.
+  [[nodiscard]] bool Holds(std::string_view path) const;
+
  private:
+  void Take(const std::string& path);
+  void End_Record();
   void Flush();
 
   Disk& disk_;
   bool taken_ = false;
+  std::string path_;
   std::string buffer_;                    // the file being read, or the records that wait to be written
   std::vector<std::size_t> record_ends_;  // where each of the waiting records ends in the buffer
   std::unique_ptr<Output_File> output_;

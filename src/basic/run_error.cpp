@@ -19,6 +19,7 @@ const char* Run_Error::what() const noexcept {
     case Error_Number::Path_Not_Found: return "Path not found";
     case Error_Number::No_Object: return "The system could not make an object that the calendar needs";
     case Error_Number::Invalid_Picture: return "Invalid picture";
+    case Error_Number::Cancel_Selected: return "Cancel was selected.";
   }
   return "Unknown error";
 }

@@ -23,6 +23,7 @@ enum class Error_Number {
   Path_Not_Found = 76,
   No_Object = 429,
   Invalid_Picture = 481,
+  Cancel_Selected = 32755,
 };
 
 class Run_Error : public std::exception {

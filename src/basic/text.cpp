@@ -26,6 +26,14 @@ std::string Upper_Case(std::string_view text) {
   return result;
 }
 
+std::string Lower_Case(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), [](char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  });
+  return result;
+}
+
 std::string Replace_All(std::string_view text, std::string_view what, std::string_view with) {
   std::string result;
   result.reserve(text.size());

@@ -16,6 +16,7 @@ bool Same_Letters(std::string_view a, std::string_view b);
 
 /// Only the letters a to z change.
 std::string Upper_Case(std::string_view text);
+std::string Lower_Case(std::string_view text);
 
 /// Replaces every `what` (not empty) by `with`, from left to right. The replacements aren't searched again.
 std::string Replace_All(std::string_view text, std::string_view what, std::string_view with);

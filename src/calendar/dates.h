@@ -22,6 +22,12 @@ class Dates {
   /// Reads a date in the locale's order. Throws error 13 if the text isn't a date.
   [[nodiscard]] basic::Serial_Day Read_Date(const std::string& text) const { return locale_.Read_Date(text); }
 
+  /// The general form, and the reading of a date that may have a time with it. The reading throws error 13.
+  void Append_General_Date(std::string& to, const basic::Moment& moment) const {
+    locale_.Append_General_Date(to, moment);
+  }
+  [[nodiscard]] basic::Moment Read_Moment(const std::string& text) const { return locale_.Read_Moment(text); }
+
   /// The first day of the grid's week: the setting's, or the locale's if the setting is 0. Throws error 5 for a setting
   /// outside 0 to 7.
   [[nodiscard]] basic::Weekday First_Day_Of_Week(const settings::Settings& settings) const;

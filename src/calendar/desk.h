@@ -30,6 +30,8 @@ class Desk {
   void Show_Present_Month();
   void Refresh_Calendar() { view_.Refresh_Calendar(); }
   void Rebuild_Month() { view_.Redraw_Grid(); }
+  /// The same without the weekday headers.
+  void Rebuild_Boxes() { view_.Redraw_Boxes(); }
   /// Draws title and grid; does nothing in compact mode.
   void Refresh_Unless_Compact();
 

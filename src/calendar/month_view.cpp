@@ -31,6 +31,10 @@ void Month_View::Refresh_Calendar() {
 
 void Month_View::Redraw_Grid() {
   grid_.Set_Day_Headers();
+  Redraw_Boxes();
+}
+
+void Month_View::Redraw_Boxes() {
   grid_.Setup_Boxes(calendar_.View_Month, calendar_.View_Year);
   Load_Dates();
   Paint();

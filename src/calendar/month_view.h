@@ -34,6 +34,8 @@ class Month_View {
 
   /// Draws the grid of the month on view without the title, also in compact mode.
   void Redraw_Grid();
+  /// The same, and the weekday headers stay as they are.
+  void Redraw_Boxes();
 
   /// Reads the event file into the grid, and shows the alert if it is due. **Events are served while the alert is
   /// open.**

@@ -31,6 +31,10 @@ class Event_File {
   /// Fills Temp_Lst from the file. If there is no file, Temp_Lst keeps what it holds.
   void Load_File();
 
+  /// The lines of the last Load_File, and the file's full path, for an import that merges its own into them.
+  [[nodiscard]] Temp_List& Temp_Lst() { return temp_lst_; }
+  [[nodiscard]] const std::string& Path() const { return path_; }
+
   /// Returns true if the file exists.
   [[nodiscard]] bool Exists() const { return files_.File_Exists(path_); }
 

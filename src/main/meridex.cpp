@@ -34,7 +34,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
       start_up_(system.Instances, stored_, desk_, embedding_, date_watch_, run_at_startup_),
       settings_opener_(backend, system,
                        {desk_, dates_, date_watch_, main_frm_, event_file_, pack_lookup_, pack_browser_, stored_,
-                        run_at_startup_, balloons_, waits_, calendar_}) {
+                        run_at_startup_, balloons_, waits_, calendar_, channel_, csv_columns_}) {
   system.Instances.On_Close_Request = [this] { Exit(); };
   main_frm_.Window.On_Unload = [this] { date_watch_.Dectect_Date_Timer.Disable(); };
   main_frm_.Window.On_Close = [this] { Exit(); };

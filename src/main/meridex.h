@@ -60,5 +60,6 @@ class Meridex {
   calendar::Function_Keys function_keys_;
   calendar::Date_Watch date_watch_;
   calendar::Start_Up start_up_;
+  exchange::Csv_Columns csv_columns_;
   settings_window::Settings_Opener settings_opener_;
 };

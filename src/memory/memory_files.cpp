@@ -160,6 +160,23 @@ void Memory_Files::Delete(const std::string& path) {
   if (entries_.erase(Key_Of(path)) == 0) throw Run_Error(Error_Number::File_Not_Found);
 }
 
+void Memory_Files::Copy(const std::string& from, const std::string& to) {
+  Check_Place(from);
+  const Entry* const source = Find(from);
+  if (source == nullptr) throw Run_Error(Error_Number::File_Not_Found);
+  if (Key_Of(from) == Key_Of(to)) throw Run_Error(Error_Number::Permission_Denied);
+  Check_Place(to);
+  Check_No_Writer(to);
+  const Entry* const target = Find(to);
+  if (target != nullptr && target->Full && source->Bytes.size() > target->Room) {
+    entries_.erase(Key_Of(to));
+    throw Run_Error(Error_Number::Disk_Full);
+  }
+  Entry& copy = Make_File(to);
+  copy.Bytes = source->Bytes;
+  copy.Changed = source->Changed;
+}
+
 std::string Memory_Files::Program_Folder() { return std::string(program_folder); }
 
 std::string Memory_Files::Program_Path() { return Full_Path(program_name); }
@@ -182,7 +199,7 @@ std::optional<std::string> Memory_Files::Bytes(const std::string& path) const {
   return there->Bytes;
 }
 
-basic::Moment Memory_Files::Last_Change(const std::string& path) const {
+basic::Moment Memory_Files::Last_Change(const std::string& path) {
   const Entry* const there = Find(path);
   if (there == nullptr) throw Run_Error(Error_Number::File_Not_Found);
   return there->Changed;
@@ -214,7 +231,9 @@ void Memory_Files::Block(const std::string& path) {
 
 void Memory_Files::Fill_Up(const std::string& path) {
   if (!File_Exists(path)) Put(path, "");
-  Find(path)->Full = true;
+  Entry& file = *Find(path);
+  file.Full = true;
+  file.Room = file.Bytes.size();
 }
 
 }  // namespace memory

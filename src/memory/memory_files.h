@@ -25,6 +25,8 @@ class Memory_Files : public platform::Files {
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  basic::Moment Last_Change(const std::string& path) override;
   std::string Program_Folder() override;
   std::string Program_Path() override;
 
@@ -38,9 +40,6 @@ class Memory_Files : public platform::Files {
   /// The file's bytes; nothing if there is no such file.
   [[nodiscard]] std::optional<std::string> Bytes(const std::string& path) const;
 
-  /// When the file was last written, or the folder made. Throws error 53 if there is neither.
-  [[nodiscard]] basic::Moment Last_Change(const std::string& path) const;
-
   /// Makes a folder and those above it. Throws error 75 if a file is in the way.
   void Make_Folder(const std::string& path);
 
@@ -50,7 +49,8 @@ class Memory_Files : public platform::Files {
   /// Puts a folder in the file's place, so that the path can't be opened: error 75.
   void Block(const std::string& path);
 
-  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes.
+  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes. A copy over it
+  /// may be as long as the file is now.
   void Fill_Up(const std::string& path);
 
   struct Listed {
@@ -69,7 +69,8 @@ class Memory_Files : public platform::Files {
     basic::Moment Changed;
     bool Is_Folder = false;
     bool Full = false;
-    int Writers = 0;  // how often the file is open for writing
+    std::size_t Room = 0;  // how long a copy over a full one may be
+    int Writers = 0;       // how often the file is open for writing
   };
 
   [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool of_folders) const;

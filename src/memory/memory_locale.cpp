@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "basic/date_reading.h"
+#include "basic/moment_reading.h"
 
 namespace memory {
 
@@ -14,6 +14,7 @@ struct Locale_Data {
   std::string_view Short_Date;
   basic::Date_Order Order;
   std::string_view Before_Month, After_Month;  // the long date around the month's name
+  std::string_view Time;
 };
 
 namespace {
@@ -40,9 +41,11 @@ basic::Date_Words German() {
 
 const std::array<Locale_Data, 3>& All() {
   static const std::array<Locale_Data, 3> locales{{
-      {"en-GB", English(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "d ", " yyyy"},
-      {"en-US", English(), Weekday::Sunday, "m/d/yyyy", basic::Date_Order::Month_First, "dddd, ", " d, yyyy"},
-      {"de-DE", German(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "dddd, d. ", " yyyy"},
+      {"en-GB", English(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "d ", " yyyy", "HH:mm:ss"},
+      {"en-US", English(), Weekday::Sunday, "m/d/yyyy", basic::Date_Order::Month_First, "dddd, ", " d, yyyy",
+       "h:mm:ss AM/PM"},
+      {"de-DE", German(), Weekday::Monday, "dd/mm/yyyy", basic::Date_Order::Day_First, "dddd, d. ", " yyyy",
+       "HH:mm:ss"},
   }};
   return locales;
 }
@@ -71,6 +74,19 @@ void Memory_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
   basic::Append_Date(to, {day, 0}, present_->Before_Month, present_->Words);
   to += present_->Words.Month_Name(basic::Civil_From_Serial(day).Month);
   basic::Append_Date(to, {day, 0}, present_->After_Month, present_->Words);
+}
+
+void Memory_Locale::Append_General_Date(std::string& to, const basic::Moment& moment) {
+  Append_Short_Date(to, moment.Day);
+  if (moment.Seconds() == 0) return;
+  to += ' ';
+  basic::Append_Date(to, moment, present_->Time, present_->Words);
+}
+
+basic::Moment Memory_Locale::Read_Moment(const std::string& text) {
+  const auto moment = basic::Read_Moment(text, present_->Order, present_->Words);
+  if (!moment) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
+  return *moment;
 }
 
 basic::Serial_Day Memory_Locale::Read_Date(const std::string& text) {

@@ -17,6 +17,8 @@ class Memory_Locale : public platform::Locale {
   basic::Weekday First_Weekday() override;
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
+  void Append_General_Date(std::string& to, const basic::Moment& moment) override;
+  basic::Moment Read_Moment(const std::string& text) override;
   basic::Serial_Day Read_Date(const std::string& text) override;
 
   /// Chooses the locale for the next program; one that runs keeps its own. Returns false if there is no locale of that

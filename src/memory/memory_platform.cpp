@@ -17,7 +17,8 @@ platform::System Memory_Platform::System() {
           .Profiles = Profiles,
           .Wallpaper = Wallpaper,
           .Pictures = Pictures,
-          .Shell_Open = Shell_Open};
+          .Shell_Open = Shell_Open,
+          .File_Dialog = File_Dialog};
 }
 
 void Memory_Platform::Begin_Program() {

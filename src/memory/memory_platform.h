@@ -3,6 +3,7 @@
 
 #include "memory/memory_backend.h"
 #include "memory/memory_clock.h"
+#include "memory/memory_file_dialog.h"
 #include "memory/memory_files.h"
 #include "memory/memory_instances.h"
 #include "memory/memory_locale.h"
@@ -41,6 +42,7 @@ class Memory_Platform {
   Memory_Shell_Open Shell_Open;
   Memory_Backend Windows_And_Timers{Time, Loop, Screen};
   Memory_Message_Box Message_Box{Loop, Windows_And_Timers.Input};
+  Memory_File_Dialog File_Dialog{Loop, Windows_And_Timers.Input};
   Memory_Menu Menu{Windows_And_Timers.Windows, Loop, Windows_And_Timers.Input};
 
   Memory_User User{Windows_And_Timers.Windows, Windows_And_Timers.Input};

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "basic/file_channel.h"
+#include "basic/serial_day.h"
 
 namespace platform {
 
@@ -24,6 +25,14 @@ class Files : public basic::Disk {
 
   /// Throws error 53, 70 or 75.
   virtual void Delete(const std::string& path) = 0;
+
+  /// Puts a copy of a file in the place of `to`, or makes that; the copy keeps the time of the last change. Throws error 53,
+  /// 75 or 76, error 70 for a file that is being written or that is to be copied onto itself, and error 61 on a full disk,
+  /// which leaves nothing of the copy.
+  virtual void Copy(const std::string& from, const std::string& to) = 0;
+
+  /// The local time of a file's last change. Throws error 53 if it isn't there.
+  virtual basic::Moment Last_Change(const std::string& path) = 0;
 
   /// The folder of the executable, without a backslash at its end.
   virtual std::string Program_Folder() = 0;

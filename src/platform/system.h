@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/desktop_shell.h"
 #include "platform/event_loop.h"
+#include "platform/file_dialog.h"
 #include "platform/files.h"
 #include "platform/instances.h"
 #include "platform/locale.h"
@@ -35,6 +36,7 @@ struct System {
   platform::Wallpaper& Wallpaper;
   platform::Pictures& Pictures;
   platform::Shell_Open& Shell_Open;
+  platform::File_Dialog& File_Dialog;
 };
 
 }  // namespace platform

@@ -34,6 +34,11 @@ void Stored_Settings::Load_Settings() {
     std::visit(Reader{Values, store_.Get(application, key.Section, key.Name, key.Default)}, key.Variable);
 }
 
+void Stored_Settings::Take_Text(const Setting_Key& key, const std::string& text) {
+  store_.Save(application, key.Section, key.Name, text);
+  std::visit(Reader{Values, text}, key.Variable);
+}
+
 void Stored_Settings::Save(const Member& variable) {
   const Setting_Key& key = Key_Of(variable);
   store_.Save(application, key.Section, key.Name, std::visit(Writer{Values}, variable));

@@ -22,6 +22,10 @@ class Stored_Settings {
     Save(variable);
   }
 
+  /// Saves the text of a key as it stands, and then sets the variable by it. Throws error 6 or 13 at a text that the
+  /// variable can't take; it is stored by then.
+  void Take_Text(const Setting_Key& key, const std::string& text);
+
   /// Saves the variable's present value under its key.
   void Save(const Member& variable);
 

@@ -14,9 +14,9 @@ constexpr std::string_view ascending_date = "Ascending Date";
 constexpr std::string_view descending_date = "Descending Date";
 constexpr std::string_view date_added = "Date Added";
 
-constexpr std::string_view every_year_marker = "(evr|yar)";
-constexpr std::string_view behind_date = "  -  ";
-constexpr std::string_view behind_every_year_date = " (every year)  -  ";
+using exchange::behind_date;
+using exchange::behind_every_year_date;
+using exchange::every_year_marker;
 
 /// An entry of the hidden list, without a counter.
 struct Entry {

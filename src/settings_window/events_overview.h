@@ -3,12 +3,13 @@
 #pragma once
 
 #include "calendar/desk.h"
+#include "exchange/overview_lists.h"
 #include "toolkit/frame.h"
 #include "toolkit/item_list.h"
 
 namespace settings_window {
 
-class Events_Overview {
+class Events_Overview : public exchange::Overview_Lists {
  public:
   Events_Overview(toolkit::Frame& page, calendar::Desk& desk, events::Event_File& event_file, calendar::Dates& dates,
                   platform::Message_Box& message_box);
@@ -26,7 +27,7 @@ class Events_Overview {
   void Load();
 
   /// Fills Dates_Lst from the file; without a file the lists keep what they hold.
-  void Reload_Overview();
+  void Reload_Overview() override;
 
   /// Puts a line of the file into Dates_Lst. Throws as Read_Event_Line, error 5 for a date outside the calendar, and error
   /// 6 where the counter overflows.
@@ -35,6 +36,9 @@ class Events_Overview {
   /// Adds all of Dates_Lst to Events_Lst. Throws error 5 for an entry of another order than the present one, and error 6
   /// for more than 32767 entries.
   void Sort_List();
+
+  [[nodiscard]] const toolkit::List_Box& Dates() const override { return Dates_Lst; }
+  [[nodiscard]] toolkit::List_Box& Events() override { return Events_Lst; }
 
   /// What a new order and the opening of the page do.
   void Reload_And_Sort();

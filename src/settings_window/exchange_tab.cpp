@@ -37,7 +37,8 @@ void Make_Buttons(const toolkit::Control_Array<toolkit::Command_Button>& buttons
 
 }  // namespace
 
-Exchange_Tab::Exchange_Tab(toolkit::Frame& page)
+Exchange_Tab::Exchange_Tab(toolkit::Frame& page, exchange::Data_Files& data_files, exchange::Config& config,
+                           exchange::Csv& csv)
     : Frame15(page, "Frame15"), Import_Btn(Frame15, "Import_Btn", imports.size()), Frame2(page, "Frame2"),
       Export_Btn(Frame2, "Export_Btn", exports.size()) {
   Frame15.Place({0, 0, 5145, 1875});
@@ -46,6 +47,13 @@ Exchange_Tab::Exchange_Tab(toolkit::Frame& page)
   Frame2.Place({0, 1965, 5145, 1875});
   Frame2.Caption = "Export";
   Make_Buttons(Export_Btn, exports);
+  Import_Btn[0].On_Click = [&data_files] { data_files.Import_Data(); };
+  Import_Btn[1].On_Click = [&config] { config.Import_Config(); };
+  Import_Btn[2].On_Click = [&csv] { csv.Import_CSV(); };
+  Export_Btn[0].On_Click = [&data_files] { data_files.Export_Data(); };
+  Export_Btn[1].On_Click = [&config] { config.Export_Config(); };
+  Export_Btn[2].On_Click = [&data_files] { data_files.Export_Text(); };
+  Export_Btn[3].On_Click = [&csv] { csv.Export_CSV(); };
 }
 
 }  // namespace settings_window

@@ -1,6 +1,9 @@
 // The tab "Import\Export": a row of picture buttons for what comes into the calendar, and one for what goes out of it.
 #pragma once
 
+#include "exchange/config.h"
+#include "exchange/csv.h"
+#include "exchange/data_files.h"
 #include "toolkit/command_button.h"
 #include "toolkit/control_array.h"
 #include "toolkit/frame.h"
@@ -9,7 +12,7 @@ namespace settings_window {
 
 class Exchange_Tab {
  public:
-  explicit Exchange_Tab(toolkit::Frame& page);
+  Exchange_Tab(toolkit::Frame& page, exchange::Data_Files& data_files, exchange::Config& config, exchange::Csv& csv);
 
   toolkit::Frame Frame15;
   toolkit::Control_Array<toolkit::Command_Button> Import_Btn;  ///< data file, configuration, CSV file

@@ -35,9 +35,15 @@ Settings_Frm::Settings_Frm(toolkit::Backend& backend, const platform::System& sy
       Style(Settings_Fra[style_page], Packs_Page, parts.Desk, parts.Stored, parts.Packs, parts.Browser, parts.Calendar),
       Tooltips(Settings_Fra[tooltips_page], parts.Dates, parts.Balloons, parts.Waits, parts.Calendar),
       Wallpaper(Packs_Page, Style, parts.Desk, parts.Stored, parts.Packs, parts.Browser, parts.Dates),
-      Exchange(Settings_Fra[exchange_page]), About(Settings_Fra[about_page], system.Shell_Open, system.Files),
-      Ok_Btn(Window, "Ok_Btn"), Cancel_Btn(Window, "Cancel_Btn"), Apply_Btn(Window, "Apply_Btn"), desk_(parts.Desk),
-      stored_(parts.Stored), calendar_(parts.Calendar),
+      Dialog1(Window, "Dialog1", system.File_Dialog),
+      Transfer(Window, Dialog1, system.Files, parts.Channel, system.Message_Box),
+      Data_Files(Transfer, Events.Overview, parts.Event_File, parts.Desk, parts.Dates),
+      Config(Transfer, *this, parts.Stored, parts.Desk),
+      Csv(Transfer, Events.Overview, parts.Event_File, parts.Desk, parts.Dates, parts.Csv_Columns),
+      Exchange(Settings_Fra[exchange_page], Data_Files, Config, Csv),
+      About(Settings_Fra[about_page], system.Shell_Open, system.Files), Ok_Btn(Window, "Ok_Btn"),
+      Cancel_Btn(Window, "Cancel_Btn"), Apply_Btn(Window, "Apply_Btn"), desk_(parts.Desk), stored_(parts.Stored),
+      calendar_(parts.Calendar),
       months_(Wallpaper, parts.Desk, parts.Date_Watch, parts.Main_Frm, parts.Waits, parts.Stored.Values) {
   Place_Controls();
   Tie_Events();

@@ -30,9 +30,11 @@ struct Program_Parts {
   tooltips::Balloons& Balloons;
   platform::Waits& Waits;
   state::Calendar_State& Calendar;
+  basic::File_Channel& Channel;
+  exchange::Csv_Columns& Csv_Columns;
 };
 
-class Settings_Frm {
+class Settings_Frm : private exchange::Window_Values {
  public:
   Settings_Frm(toolkit::Backend& backend, const platform::System& system, const Program_Parts& parts);
 
@@ -47,6 +49,11 @@ class Settings_Frm {
   Style_Tab Style;
   Tooltips_Tab Tooltips;
   Wallpaper_Tab Wallpaper;
+  dialogs::OpenSaveDialog Dialog1;
+  exchange::Transfer Transfer;
+  exchange::Data_Files Data_Files;
+  exchange::Config Config;
+  exchange::Csv Csv;
   Exchange_Tab Exchange;
   About_Tab About;
   toolkit::Command_Button Ok_Btn, Cancel_Btn, Apply_Btn;
@@ -66,6 +73,7 @@ class Settings_Frm {
   void None_Vis() const;
   [[nodiscard]] int Which_Tab() const { return TabStrip1.Selected; }
   void Show_Page();
+  [[nodiscard]] exchange::Shown_Values Shown() const override;
 
   calendar::Desk& desk_;
   settings::Stored_Settings& stored_;

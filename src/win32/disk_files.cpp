@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 
+#include "win32/automation_dates.h"
 #include "win32/handle.h"
 
 namespace win32 {
@@ -79,6 +80,8 @@ void Throw_File_Error() {
     case ERROR_BAD_PATHNAME: throw Run_Error(Error_Number::Path_Not_Found);
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION: throw Run_Error(Error_Number::Permission_Denied);
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL: throw Run_Error(Error_Number::Disk_Full);
     default: throw Run_Error(Error_Number::Path_File_Access);
   }
 }
@@ -124,5 +127,16 @@ std::vector<std::string> Disk_Files::Folder_Names(const std::string& folder) {
 void Disk_Files::Delete(const std::string& path) {
   if (DeleteFileA(path.c_str()) == 0) Throw_File_Error();
 }
+
+void Disk_Files::Copy(const std::string& from, const std::string& to) {
+  if (CopyFileA(from.c_str(), to.c_str(), FALSE) != 0) return;
+  const DWORD failure = GetLastError();
+  // Not every system takes away what a full disk has left of a copy.
+  if (failure == ERROR_DISK_FULL || failure == ERROR_HANDLE_DISK_FULL) DeleteFileA(to.c_str());
+  SetLastError(failure);
+  Throw_File_Error();
+}
+
+basic::Moment Disk_Files::Last_Change(const std::string& path) { return Moment_Of_Last_Change(path); }
 
 }  // namespace win32

@@ -16,6 +16,8 @@ class Disk_Files final : public platform::Files {
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Delete(const std::string& path) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  basic::Moment Last_Change(const std::string& path) override;
   std::string Program_Folder() override { return folder_; }
   std::string Program_Path() override { return path_; }
 
@@ -23,7 +25,7 @@ class Disk_Files final : public platform::Files {
   std::string path_, folder_;
 };
 
-/// Throws error 53, 70, 75 or 76, for the reason why the system's last call for a file failed.
+/// Throws error 53, 61, 70, 75 or 76, for the reason why the system's last call for a file failed.
 [[noreturn]] void Throw_File_Error();
 
 }  // namespace win32

@@ -1,9 +1,6 @@
 #include "win32/user_locale.h"
 
-#include <cmath>
-
 #include "basic/date_reading.h"
-#include "basic/run_error.h"
 #include "win32/handle.h"
 
 namespace win32 {
@@ -68,25 +65,6 @@ basic::Date_Order Present_Order() {
   return number == "2" ? basic::Date_Order::Year_First : basic::Date_Order::Day_First;
 }
 
-/// The text as the system's automation takes it.
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
-  wide.resize(static_cast<std::size_t>(length));
-  return wide;
-}
-
-/// What the system's automation makes of a text with names or of two numbers; nothing if it is no date.
-std::optional<basic::Serial_Day> Read_By_System(const std::string& text) {
-  using Reader = HRESULT WINAPI(const wchar_t*, LCID, ULONG, double*);
-  const Library_Owner automation(LoadLibraryA("oleaut32.dll"));
-  const auto read = Find_Function<Reader>(automation.Get(), "VarDateFromStr");
-  double day = 0;
-  if (read == nullptr || FAILED(read(Wide(text).c_str(), LOCALE_USER_DEFAULT, 0, &day))) return std::nullopt;
-  return static_cast<basic::Serial_Day>(std::floor(day));
-}
-
 }  // namespace
 
 User_Locale::User_Locale() {
@@ -104,6 +82,13 @@ basic::Weekday User_Locale::First_Weekday() {
   const std::string number = Info(LOCALE_IFIRSTDAYOFWEEK);
   if (number.size() != 1 || number[0] < '0' || number[0] > '5') return basic::Weekday::Sunday;
   return static_cast<basic::Weekday>(number[0] - '0' + static_cast<int>(basic::Weekday::Monday));
+}
+
+void User_Locale::Append_General_Date(std::string& to, const basic::Moment& moment) {
+  Append_Short_Date(to, moment.Day);
+  if (moment.Seconds() == 0) return;
+  to += ' ';
+  Append_Time(to, moment);
 }
 
 void User_Locale::Append_Short_Date(std::string& to, basic::Serial_Day day) {
@@ -126,11 +111,12 @@ basic::Date_Order User_Locale::Order() {
   return order_;
 }
 
-basic::Serial_Day User_Locale::Read_Date(const std::string& text) {
-  auto day = basic::Read_Numeric_Date(text, Order());
-  if (!day) day = Read_By_System(text);
-  if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
-  return *day;
+basic::Serial_Day User_Locale::Read_Date(const std::string& text) { return Read_Moment(text).Day; }
+
+/// Numbers are read here, names and times by the system's automation.
+basic::Moment User_Locale::Read_Moment(const std::string& text) {
+  if (const auto day = basic::Read_Numeric_Date(text, Order())) return {*day, 0};
+  return automation_.Moment_Of_Text(text);
 }
 
 }  // namespace win32

@@ -3,6 +3,7 @@
 
 #include "basic/date_reading.h"
 #include "platform/locale.h"
+#include "win32/automation_dates.h"
 
 namespace win32 {
 
@@ -12,6 +13,8 @@ class User_Locale final : public platform::Locale {
 
   const basic::Date_Words& Words() override { return words_; }
   basic::Weekday First_Weekday() override;
+  void Append_General_Date(std::string& to, const basic::Moment& moment) override;
+  basic::Moment Read_Moment(const std::string& text) override;
   void Append_Short_Date(std::string& to, basic::Serial_Day day) override;
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override;
   basic::Serial_Day Read_Date(const std::string& text) override;
@@ -23,6 +26,7 @@ class User_Locale final : public platform::Locale {
   basic::Date_Order order_ = basic::Date_Order::Day_First;
   bool asked_ = false;
   unsigned long asked_at_ = 0;  // milliseconds since the system's start
+  Automation_Dates automation_;
 };
 
 }  // namespace win32

@@ -1,8 +1,6 @@
 #include "win32/win32_message_box.h"
 
-#include <algorithm>
-
-#include "toolkit/form.h"
+#include "win32/behind_box.h"
 
 namespace win32 {
 
@@ -49,25 +47,6 @@ const Program_Window* Owner_Of_Box(const Window_List& windows, const Program_Win
   return calendar->Form().Visible() ? calendar : nullptr;
 }
 
-/// Keeps the window that is active when a box opens the active one for the program, until that box has closed. Boxes
-/// that open over the first one change nothing.
-class Behind_Box {
- public:
-  Behind_Box(Window_Context& context, Program_Window* active)
-      : context_(context), first_(context.Behind_Box == nullptr && active != nullptr) {
-    if (first_) context_.Behind_Box = active;
-  }
-  Behind_Box(const Behind_Box&) = delete;
-  Behind_Box& operator=(const Behind_Box&) = delete;
-  ~Behind_Box() {
-    if (first_) context_.Behind_Box = nullptr;
-  }
-
- private:
-  Window_Context& context_;
-  const bool first_;
-};
-
 }  // namespace
 
 platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std::string& text, platform::Box_Icon icon,
@@ -88,17 +67,9 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
                          Flag_Of(icon) | Flag_Of(buttons) | MB_SETFOREGROUND | MB_TASKMODAL);
   }
   context_.Guard.Throw_If_Ending();
-  if (active_form != nullptr) Give_Back_To(active_form);
+  if (active_form != nullptr) Give_Back_To(context_, active_form);
   backend_.Input.Catch_Up();
   return Answer_Of(result, buttons);
-}
-
-/// The system activates the owner of a box that closes, and no window if the owner is disabled.
-void Win32_Message_Box::Give_Back_To(Program_Window* window) {
-  const auto& all = context_.Windows.All();
-  if (std::find(all.begin(), all.end(), window) == all.end()) return;
-  toolkit::Form& form = window->Form();
-  if (form.Visible()) form.Activate();
 }
 
 }  // namespace win32

@@ -15,8 +15,6 @@ class Win32_Message_Box final : public platform::Message_Box {
                             platform::Box_Buttons buttons) override;
 
  private:
-  void Give_Back_To(Program_Window* window);
-
   Window_Context& context_;
   toolkit::Backend& backend_;
 };

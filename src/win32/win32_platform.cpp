@@ -14,6 +14,7 @@
 #include "win32/system_profiles.h"
 #include "win32/user_locale.h"
 #include "win32/win32_backend.h"
+#include "win32/win32_file_dialog.h"
 #include "win32/win32_message_box.h"
 #include "win32/win32_popup_menu.h"
 
@@ -30,6 +31,7 @@ struct Win32_Platform::Parts {
   Disk_Files Files;
   Message_Loop Loop{Context};
   Win32_Message_Box Message_Box{Context, Backend};
+  Win32_File_Dialog File_Dialog{Context, Backend};
   Win32_Popup_Menu Popup_Menu{Context, Backend.Input};
   Registry_Store Store;
   Primary_Screen Screen{Context.Scale};
@@ -39,8 +41,8 @@ struct Win32_Platform::Parts {
   Desktop_Picture Wallpaper;
   System_Pictures Pictures;
   Shell_Launcher Launcher;
-  platform::System System{Clock,     Locale, Files,    Loop,     Message_Box, Popup_Menu, Store,   Screen,
-                          Instances, Shell,  Registry, Profiles, Wallpaper,   Pictures,   Launcher};
+  platform::System System{Clock,     Locale, Files,    Loop,     Message_Box, Popup_Menu, Store,    Screen,
+                          Instances, Shell,  Registry, Profiles, Wallpaper,   Pictures,   Launcher, File_Dialog};
 };
 
 namespace {

@@ -287,3 +287,81 @@ TEST_F(File_Channel_Test, Bears_closing_what_was_never_opened) {
   Content() = "a";
   EXPECT_EQ(Error_Of_Opening(), 0);
 }
+
+TEST_F(File_Channel_Test, Writes_lines_as_they_stand) {
+  Channel.Open_For_Writing(path);
+  Channel.Write_Line("a \"b\"");
+  Channel.Write_Line("");
+  Channel.Write_Record("c");
+  Channel.Close();
+  EXPECT_EQ(Content(), "a \"b\"\r\n\r\n\"c\"\r\n");
+}
+
+TEST_F(File_Channel_Test, Writes_out_and_goes_on) {
+  Channel.Open_For_Writing(path);
+  Channel.Write_Record("a");
+  Channel.Write_Out();
+  EXPECT_EQ(Content(), Record("a"));
+  EXPECT_EQ(Disk.Open_For_Writing, 1);
+  Channel.Write_Record("b");
+  Channel.Close();
+  EXPECT_EQ(Content(), Record("a") + Record("b"));
+}
+
+TEST_F(File_Channel_Test, Goes_back_and_writes_anew_from_there) {
+  Channel.Open_For_Writing(path);
+  for (const char* const line : {"a", "b", "c"}) Channel.Write_Record(line);
+  Channel.Go_Back_To(Record("a").size());
+  Channel.Write_Record("d");
+  Channel.Close();
+  EXPECT_EQ(Content(), Record("a") + Record("d"));
+}
+
+TEST_F(File_Channel_Test, A_full_disk_cuts_behind_a_whole_record_also_after_going_back) {
+  Channel.Open_For_Writing(path);
+  for (const char* const line : {"a", "b", "c"}) Channel.Write_Record(line);
+  Channel.Go_Back_To(Record("a").size());
+  Disk.Room = Record("d").size() + 2;
+  Channel.Write_Record("d");
+  Channel.Write_Record("e");
+  EXPECT_EQ(Error_Of([&] { Channel.Write_Out(); }), 61);
+  EXPECT_EQ(Content(), Record("a") + Record("d"));
+}
+
+TEST_F(File_Channel_Test, What_found_no_room_is_not_written_later) {
+  Channel.Open_For_Writing(path);
+  Channel.Write_Record("a");
+  Disk.Room = 0;
+  EXPECT_EQ(Error_Of([&] { Channel.Write_Out(); }), 61);
+  Disk.Room = 1000;
+  Channel.Give_Up();
+  EXPECT_EQ(Content(), "");
+}
+
+TEST_F(File_Channel_Test, Giving_up_frees_the_number_whatever_took_it) {
+  Channel.Give_Up();
+  Write({"a"});
+  Channel.Open_For_Reading(path);
+  Channel.Give_Up();
+  EXPECT_EQ(Error_Of_Opening(), 0);
+  Channel.Open_For_Writing(path);
+  Channel.Write_Record("b");
+  Channel.Give_Up();
+  EXPECT_EQ(Error_Of_Opening(), 0);
+  EXPECT_EQ(Content(), Record("b"));
+  EXPECT_EQ(Disk.Open_For_Writing, 0);
+  Channel.Open_For_Writing(path);
+  Channel.Write_Record("c");
+  Disk.Room = 0;
+  Channel.Give_Up();
+  EXPECT_EQ(Error_Of_Opening(), 0);
+}
+
+TEST_F(File_Channel_Test, Knows_which_file_has_the_number) {
+  EXPECT_FALSE(Channel.Holds(path));
+  Channel.Open_For_Writing(path);
+  EXPECT_TRUE(Channel.Holds(R"(c:\MERIDEX\Calendar.dat)"));
+  EXPECT_FALSE(Channel.Holds(other));
+  Channel.Close();
+  EXPECT_FALSE(Channel.Holds(path));
+}

@@ -32,6 +32,7 @@ constexpr Known known[] = {
     {Error_Number::Permission_Denied, 70, "Permission denied"},
     {Error_Number::Path_File_Access, 75, "Path/File access error"},
     {Error_Number::Path_Not_Found, 76, "Path not found"},
+    {Error_Number::Cancel_Selected, 32755, "Cancel was selected."},
 };
 
 }  // namespace

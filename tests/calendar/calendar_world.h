@@ -39,6 +39,8 @@ class Fake_Locale : public platform::Locale {
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override {
     to += basic::Format_Date({day, 0}, "<yyyy/mm/dd>", Names);
   }
+  void Append_General_Date(std::string& to, const basic::Moment& moment) override { Append_Short_Date(to, moment.Day); }
+  basic::Moment Read_Moment(const std::string& text) override { return {Read_Date(text), 0}; }
   basic::Serial_Day Read_Date(const std::string&) override {
     throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
   }

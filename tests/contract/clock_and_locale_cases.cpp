@@ -69,3 +69,24 @@ TEST_F(Clock_And_Locale_Cases, A_text_that_is_no_date_is_error_13) {
   for (const char* const text : {"", "abc", "30/2/2004", "29/2/2003", "0/1/2004"})
     EXPECT_EQ(Error_Of([&] { Locale.Read_Date(text); }), 13) << text;
 }
+
+TEST_F(Clock_And_Locale_Cases, A_moment_has_a_general_form_that_reads_back) {
+  std::string text = "at ";
+  Locale.Append_General_Date(text, {fifth_of_march_2004, 0});
+  EXPECT_EQ(text, "at 05/03/2004");
+  text.clear();
+  const basic::Moment afternoon{fifth_of_march_2004, 47'109'000'000};
+  Locale.Append_General_Date(text, afternoon);
+  EXPECT_EQ(text, "05/03/2004 13:05:09");
+  EXPECT_EQ(Locale.Read_Moment(text), afternoon);
+}
+
+TEST_F(Clock_And_Locale_Cases, Moments_are_read_as_people_write_them) {
+  EXPECT_EQ(Locale.Read_Moment("5/3/2004"), (basic::Moment{fifth_of_march_2004, 0}));
+  EXPECT_EQ(Locale.Read_Moment("5 March 2004"), (basic::Moment{fifth_of_march_2004, 0}));
+  EXPECT_EQ(Locale.Read_Moment("05/03/2004 1:05:09 PM"), (basic::Moment{fifth_of_march_2004, 47'109'000'000}));
+  EXPECT_EQ(Locale.Read_Moment("30/12/1899"), (basic::Moment{0, 0}));
+  EXPECT_EQ(Locale.Read_Moment("29/12/1899"), (basic::Moment{-1, 0}));
+  for (const char* const text : {"", "soon", "31/2/2004", "5/3/2004 25:00"})
+    EXPECT_EQ(Error_Of([&] { Locale.Read_Moment(text); }), 13) << text;
+}

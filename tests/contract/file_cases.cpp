@@ -112,6 +112,41 @@ TEST_F(File_Cases, A_file_that_was_closed_can_be_deleted) {
   EXPECT_FALSE(Files.File_Exists(In_Case("file")));
 }
 
+TEST_F(File_Cases, A_copy_has_the_bytes_and_the_time_of_its_source) {
+  Write("source", "new");
+  Write("target", "old, and longer");
+  const basic::Moment written = Files.Last_Change(In_Case("source"));
+  Files.Copy(In_Case("source"), In_Case("target"));
+  Files.Copy(In_Case("source"), In_Case("another"));
+  EXPECT_EQ(Read("target"), "new");
+  EXPECT_EQ(Read("another"), "new");
+  EXPECT_EQ(Files.Last_Change(In_Case("target")), written);
+  EXPECT_EQ(Files.Last_Change(In_Case("another")), written);
+}
+
+TEST_F(File_Cases, A_file_was_changed_a_moment_ago_when_it_has_just_been_written) {
+  Write("file", "x");
+  const std::int64_t now = basic::Second_Count(World->System().Clock.Now());
+  EXPECT_NEAR(static_cast<double>(basic::Second_Count(Files.Last_Change(In_Case("file")))), static_cast<double>(now),
+              5);
+  EXPECT_EQ(Error_Of([&] { Files.Last_Change(In_Case("none")); }), 53);
+}
+
+TEST_F(File_Cases, What_cannot_be_copied_is_an_error) {
+  Write("file", "x");
+  const auto copy = [&](const std::string& from, const std::string& to) {
+    return Error_Of([&] { Files.Copy(from, to); });
+  };
+  EXPECT_EQ(copy(In_Case("none"), In_Case("target")), 53);
+  EXPECT_EQ(copy(Path("None\\file"), In_Case("target")), 76);
+  EXPECT_EQ(copy(In_Case("file"), Path("None\\target")), 76);
+  EXPECT_EQ(copy(In_Case("file"), Path("Case")), 75);
+  EXPECT_EQ(copy(In_Case("file"), In_Case("FILE")), 70);
+  const auto output = Files.Create(In_Case("target"));
+  EXPECT_EQ(copy(In_Case("file"), In_Case("target")), 70);
+  EXPECT_EQ(Read("file"), "x");
+}
+
 TEST_F(File_Cases, The_files_of_a_folder_are_listed_without_regard_to_case_and_without_folders) {
   for (const char* const name : {"b.txt", "C.txt", "a.txt", "A2.txt"}) Write(name, "");
   World->Make_Folder("Case\\Folder");

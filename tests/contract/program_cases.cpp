@@ -55,7 +55,8 @@ class Program_Cases : public Service_Cases {
             .Profiles = system.Profiles,
             .Wallpaper = system.Wallpaper,
             .Pictures = system.Pictures,
-            .Shell_Open = system.Shell_Open};
+            .Shell_Open = system.Shell_Open,
+            .File_Dialog = system.File_Dialog};
   }
 
   void Start() {

@@ -23,6 +23,8 @@ class Fake_Files : public platform::Files {
   std::vector<std::string> File_Names(const std::string&) override { return {}; }
   std::vector<std::string> Folder_Names(const std::string&) override { return {}; }
   void Delete(const std::string& path) override { Disk.Contents.erase(path); }
+  void Copy(const std::string& from, const std::string& to) override { Disk.Contents[to] = Disk.Contents.at(from); }
+  basic::Moment Last_Change(const std::string& /*path*/) override { return {}; }
   std::string Program_Folder() override { return "C:\\Meridex"; }
   std::string Program_Path() override { return "C:\\Meridex\\Meridex.exe"; }
 };

@@ -99,3 +99,66 @@ TEST_F(Memory_Answers_Test, Menus_are_remembered_with_their_windows) {
 }
 
 TEST_F(Memory_Answers_Test, A_menu_without_an_owner_is_a_fault) { EXPECT_THROW(Choose(items), std::logic_error); }
+
+namespace {
+
+/// As a dialog control hands it in.
+platform::File_Dialog_Record Empty_Record(std::size_t room_for_title = 260) {
+  return {.Title = "Title",
+          .Initial_Folder = "",
+          .Filter = std::string("Text\0*.txt\0\0", 12),
+          .File = std::string(260, '\0'),
+          .File_Title = std::string(room_for_title, '\0')};
+}
+
+}  // namespace
+
+TEST_F(Memory_Answers_Test, An_unprepared_file_dialog_is_cancelled) {
+  platform::File_Dialog_Record record = Empty_Record();
+  EXPECT_FALSE(Platform.File_Dialog.Show_Open(record));
+  EXPECT_EQ(record.File, std::string(260, '\0'));
+}
+
+TEST_F(Memory_Answers_Test, File_dialogs_are_answered_in_their_order_and_remembered) {
+  Platform.File_Dialog.Prepare("C:\\Folder\\a.txt");
+  Platform.File_Dialog.Prepare(std::nullopt);
+  platform::File_Dialog_Record record = Empty_Record();
+  EXPECT_TRUE(Platform.File_Dialog.Show_Save(record));
+  EXPECT_STREQ(record.File.c_str(), "C:\\Folder\\a.txt");
+  EXPECT_STREQ(record.File_Title.c_str(), "a.txt");
+  EXPECT_EQ(record.File.size(), 260U);
+  EXPECT_FALSE(Platform.File_Dialog.Show_Open(record));
+  const auto shown = Platform.File_Dialog.Take_Shown();
+  ASSERT_EQ(shown.size(), 2U);
+  EXPECT_TRUE(shown[0].To_Save);
+  EXPECT_EQ(shown[0].Title, "Title");
+  EXPECT_EQ(shown[0].Filter, "Text|*.txt");
+  EXPECT_EQ(shown[0].Path, "C:\\Folder\\a.txt");
+  EXPECT_FALSE(shown[1].To_Save);
+  EXPECT_EQ(shown[1].Path, std::nullopt);
+  EXPECT_TRUE(Platform.File_Dialog.Take_Shown().empty());
+}
+
+TEST_F(Memory_Answers_Test, A_title_without_room_is_cut_and_a_path_without_it_is_no_choice) {
+  Platform.File_Dialog.Prepare("C:\\abc");
+  platform::File_Dialog_Record record = Empty_Record(3);
+  EXPECT_TRUE(Platform.File_Dialog.Show_Open(record));
+  EXPECT_EQ(record.File_Title, std::string("ab\0", 3));
+  Platform.File_Dialog.Prepare("C:\\abc");
+  record = Empty_Record(0);
+  EXPECT_TRUE(Platform.File_Dialog.Show_Open(record));
+  EXPECT_EQ(record.File_Title, "");
+  Platform.File_Dialog.Prepare("C:\\" + std::string(257, 'x'));
+  record = Empty_Record();
+  EXPECT_FALSE(Platform.File_Dialog.Show_Open(record));
+}
+
+TEST_F(Memory_Answers_Test, An_open_file_dialog_serves_events_and_keeps_the_user_out) {
+  bool out = false;
+  Platform.Time.Schedule(1000, [&] { out = Platform.Windows_And_Timers.Input.Modal_Open(); });
+  Platform.File_Dialog.Prepare(std::nullopt, 1000);
+  platform::File_Dialog_Record record = Empty_Record();
+  Platform.File_Dialog.Show_Open(record);
+  EXPECT_TRUE(out);
+  EXPECT_FALSE(Platform.Windows_And_Timers.Input.Modal_Open());
+}

@@ -120,3 +120,33 @@ TEST_F(Memory_Files_Test, Lists_files_and_folders_of_one_level) {
   EXPECT_NE(listed[0].Is_Folder, listed[1].Is_Folder);
   EXPECT_EQ(Error_Of([&] { (void)Files.List(Path("f")); }), 76);
 }
+
+TEST_F(Memory_Files_Test, A_copy_has_the_bytes_and_the_time_of_its_source) {
+  Time.Set_Now({38051, 0});
+  Files.Put(Path("f"), "new");
+  Files.Put(Path("g"), "old, and longer");
+  Time.Run_Until(5000);
+  Files.Copy(Path("f"), Path("g"));
+  Files.Copy(Path("f"), Path("h"));
+  for (const char* const copy : {"g", "h"}) {
+    EXPECT_EQ(Files.Bytes(Path(copy)), "new");
+    EXPECT_EQ(Files.Last_Change(Path(copy)), (basic::Moment{38051, 0}));
+  }
+}
+
+TEST_F(Memory_Files_Test, A_copy_that_has_no_room_leaves_nothing) {
+  Files.Put(Path("f"), "1234");
+  Files.Put(Path("g"), "123");
+  Files.Fill_Up(Path("g"));
+  EXPECT_EQ(Error_Of([&] { Files.Copy(Path("f"), Path("g")); }), 61);
+  EXPECT_FALSE(Files.File_Exists(Path("g")));
+}
+
+TEST_F(Memory_Files_Test, A_copy_finds_the_room_that_a_full_file_had) {
+  Files.Put(Path("f"), "1234");
+  Files.Put(Path("g"), "abcd");
+  Files.Fill_Up(Path("g"));
+  EXPECT_EQ(Files.Create(Path("g"))->Write("x"), 0U);
+  Files.Copy(Path("f"), Path("g"));
+  EXPECT_EQ(Files.Bytes(Path("g")), "1234");
+}

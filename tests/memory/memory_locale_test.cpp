@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/basic/error_of.h"
+
 using basic::Weekday;
 using memory::Memory_Locale;
 
@@ -64,4 +66,30 @@ TEST(Memory_Locale_Test, A_program_that_runs_stays_in_its_locale) {
   EXPECT_EQ(locale.Words().Date_Separator, "/");
   locale.Enter();
   EXPECT_EQ(locale.Words().Date_Separator, ".");
+}
+
+TEST(Memory_Locale_Test, Writes_the_general_form_and_reads_it_back) {
+  const auto check = [](std::string_view name, const char* day, const char* moment) {
+    Memory_Locale locale;
+    locale.Choose(name);
+    locale.Enter();
+    std::string text;
+    locale.Append_General_Date(text, {fifth_of_march_2004, 999'999});
+    EXPECT_EQ(text, day);
+    EXPECT_EQ(locale.Read_Moment(text), (basic::Moment{fifth_of_march_2004, 0}));
+    text.clear();
+    const basic::Moment afternoon{fifth_of_march_2004, 47'109'000'000};
+    locale.Append_General_Date(text, afternoon);
+    EXPECT_EQ(text, moment);
+    EXPECT_EQ(locale.Read_Moment(text), afternoon);
+  };
+  check("en-GB", "05/03/2004", "05/03/2004 13:05:09");
+  check("en-US", "3/5/2004", "3/5/2004 1:05:09 PM");
+  check("de-DE", "05.03.2004", "05.03.2004 13:05:09");
+}
+
+TEST(Memory_Locale_Test, Reads_its_own_month_names) {
+  Memory_Locale locale;
+  EXPECT_EQ(locale.Read_Moment("5 March 2004").Day, fifth_of_march_2004);
+  EXPECT_EQ(Error_Of([&] { locale.Read_Moment("5 M\xE4rz 2004"); }), 13);
 }

@@ -21,6 +21,8 @@ class Odd_Locale : public platform::Locale {
     to += year.substr(year.size() - static_cast<std::size_t>(Digits_Of_Year));
   }
   void Append_Long_Date(std::string& to, basic::Serial_Day day) override { Append_Short_Date(to, day); }
+  void Append_General_Date(std::string& to, const basic::Moment& moment) override { Append_Short_Date(to, moment.Day); }
+  basic::Moment Read_Moment(const std::string& text) override { return {Read_Date(text), 0}; }
   basic::Serial_Day Read_Date(const std::string& text) override {
     const auto day = basic::Read_Numeric_Date(text, basic::Date_Order::Day_First);
     if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);

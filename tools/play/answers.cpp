@@ -31,15 +31,17 @@ void Play_Choose(World& world, const Words& words) {
 }
 
 void Play_Pick(World& world, const Words& words) {
-  if (words[0] == "cancel") world.Picks.emplace_back();
-  else world.Picks.emplace_back(memory::Memory_Files::Full_Path(words[0]));
+  if (words.size() > 1 && (words.size() != 3 || words[1] != "after")) throw Cannot_Play("pick wants PATH [after S]");
+  std::optional<std::string> path;
+  if (words[0] != "cancel") path = memory::Memory_Files::Full_Path(words[0]);
+  world.Platform.File_Dialog.Prepare(std::move(path), words.size() == 3 ? To_Micros(words[2]) : 0);
 }
 
 }  // namespace
 
 std::span<const Entry> Answer_Commands() {
   static constexpr std::array<Entry, 3> entries{
-      {{"answer", 1, 3, Play_Answer}, {"choose", 1, 3, Play_Choose}, {"pick", 1, 1, Play_Pick}}};
+      {{"answer", 1, 3, Play_Answer}, {"choose", 1, 3, Play_Choose}, {"pick", 1, 3, Play_Pick}}};
   return entries;
 }
 

@@ -43,8 +43,12 @@ void Play_Menus(World& world, const Words& /*words*/) {
   }
 }
 
-/// No part of the program opens a file dialog yet.
-void Play_Dialogs(World& /*world*/, const Words& /*words*/) {}
+void Play_Dialogs(World& world, const Words& /*words*/) {
+  for (const auto& shown : world.Platform.File_Dialog.Take_Shown()) {
+    std::string line = (shown.To_Save ? "save " : "open ") + Quoted(shown.Title) + ' ' + Quoted(shown.Filter) + " -> ";
+    world.Print(line.append(shown.Path ? Quoted(*shown.Path) : "cancel"));
+  }
+}
 
 void Play_Launched(World& world, const Words& /*words*/) {
   for (const std::string& address : world.Platform.Shell_Open.Take_Launched())

@@ -2,7 +2,6 @@
 // the program runs through Run, Wait or Start, which are the one place where its end is noticed.
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -35,9 +34,6 @@ class World {
     bool operator==(const Item_Press&) const = default;
   };
   std::optional<Item_Press> Pressed_Item;
-
-  /// The files for the file dialogs to come; nothing for a cancelled one.
-  std::deque<std::optional<std::string>> Picks;
 
   void Print(const std::string& line) const { print_(line); }
 
