@@ -21,9 +21,7 @@ class Memory_File_Dialog : public platform::File_Dialog {
 
   /// The full path for a dialog to come, nothing for one that is cancelled, as all are that come unprepared. The dialog
   /// stays open for `micros` first, with events being served.
-  void Prepare(std::optional<std::string> path, std::int64_t micros = 0) {
-    prepared_.push_back({std::move(path), micros});
-  }
+  void Prepare(const std::optional<std::string>& path, std::int64_t micros = 0) { prepared_.push_back({path, micros}); }
 
   struct Shown {
     bool To_Save;

@@ -135,7 +135,7 @@ TEST_F(Memory_Answers_Test, File_dialogs_are_answered_in_their_order_and_remembe
   EXPECT_EQ(shown[0].Filter, "Text|*.txt");
   EXPECT_EQ(shown[0].Path, "C:\\Folder\\a.txt");
   EXPECT_FALSE(shown[1].To_Save);
-  EXPECT_EQ(shown[1].Path, std::nullopt);
+  EXPECT_FALSE(shown[1].Path.has_value());
   EXPECT_TRUE(Platform.File_Dialog.Take_Shown().empty());
 }
 

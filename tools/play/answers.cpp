@@ -34,7 +34,7 @@ void Play_Pick(World& world, const Words& words) {
   if (words.size() > 1 && (words.size() != 3 || words[1] != "after")) throw Cannot_Play("pick wants PATH [after S]");
   std::optional<std::string> path;
   if (words[0] != "cancel") path = memory::Memory_Files::Full_Path(words[0]);
-  world.Platform.File_Dialog.Prepare(std::move(path), words.size() == 3 ? To_Micros(words[2]) : 0);
+  world.Platform.File_Dialog.Prepare(path, words.size() == 3 ? To_Micros(words[2]) : 0);
 }
 
 }  // namespace
