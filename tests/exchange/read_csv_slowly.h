@@ -70,25 +70,25 @@ inline std::string Cleaned(const std::string& field) {
 
 /// The fields, nothing for a record that fails. `error`: 5, or 6 for a column beyond 16 bits.
 inline std::optional<std::vector<Slow_Field>> Fields_By_The_Letter(const std::string& record, int& error) {
-  std::string line = Without_Pairs(record) + ",";
+  const std::string line = Without_Pairs(record) + ",";
   std::vector<Slow_Field> fields;
   long column = 0;
-  std::size_t comma = line.find(',');
+  std::size_t start = 0, comma = line.find(',');
   const auto next_comma = [&] {
-    line = line.substr(comma + 1);
-    comma = line.find(',');
+    start = comma + 1;
+    comma = line.find(',', start);
   };
   const auto fail = [&](int number) {
     error = number;
     return std::nullopt;
   };
   while (comma != std::string::npos) {
-    std::string field = line.substr(0, comma);
+    std::string field = line.substr(start, comma - start);
     while (field.empty() || field.front() != '"' || field.back() != '"') {
       const bool quoted = !field.empty() && field.front() == '"';
       next_comma();
       if (comma == std::string::npos) return fail(5);
-      field = (quoted ? field + "|" : "") + line.substr(0, comma);
+      field = (quoted ? field + "|" : "") + line.substr(start, comma - start);
       if (!quoted && ++column > 32767) return fail(6);
     }
     fields.push_back({column, Cleaned(field)});

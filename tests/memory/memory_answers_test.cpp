@@ -102,6 +102,8 @@ TEST_F(Memory_Answers_Test, A_menu_without_an_owner_is_a_fault) { EXPECT_THROW(C
 
 namespace {
 
+const std::optional<std::string> cancelled;
+
 /// As a dialog control hands it in.
 platform::File_Dialog_Record Empty_Record(std::size_t room_for_title = 260) {
   return {.Title = "Title",
@@ -121,7 +123,7 @@ TEST_F(Memory_Answers_Test, An_unprepared_file_dialog_is_cancelled) {
 
 TEST_F(Memory_Answers_Test, File_dialogs_are_answered_in_their_order_and_remembered) {
   Platform.File_Dialog.Prepare("C:\\Folder\\a.txt");
-  Platform.File_Dialog.Prepare(std::nullopt);
+  Platform.File_Dialog.Prepare(cancelled);
   platform::File_Dialog_Record record = Empty_Record();
   EXPECT_TRUE(Platform.File_Dialog.Show_Save(record));
   EXPECT_STREQ(record.File.c_str(), "C:\\Folder\\a.txt");
@@ -133,7 +135,7 @@ TEST_F(Memory_Answers_Test, File_dialogs_are_answered_in_their_order_and_remembe
   EXPECT_TRUE(shown[0].To_Save);
   EXPECT_EQ(shown[0].Title, "Title");
   EXPECT_EQ(shown[0].Filter, "Text|*.txt");
-  EXPECT_EQ(shown[0].Path, "C:\\Folder\\a.txt");
+  EXPECT_EQ(shown[0].Path.value_or(""), "C:\\Folder\\a.txt");
   EXPECT_FALSE(shown[1].To_Save);
   EXPECT_FALSE(shown[1].Path.has_value());
   EXPECT_TRUE(Platform.File_Dialog.Take_Shown().empty());
@@ -156,7 +158,7 @@ TEST_F(Memory_Answers_Test, A_title_without_room_is_cut_and_a_path_without_it_is
 TEST_F(Memory_Answers_Test, An_open_file_dialog_serves_events_and_keeps_the_user_out) {
   bool out = false;
   Platform.Time.Schedule(1000, [&] { out = Platform.Windows_And_Timers.Input.Modal_Open(); });
-  Platform.File_Dialog.Prepare(std::nullopt, 1000);
+  Platform.File_Dialog.Prepare(cancelled, 1000);
   platform::File_Dialog_Record record = Empty_Record();
   Platform.File_Dialog.Show_Open(record);
   EXPECT_TRUE(out);
