@@ -165,6 +165,25 @@ class Settings_Visit(Desktop_Test):
         red, green, blue = (int(desktop.stored("Colours", "Today")) >> shift & 255 for shift in (0, 8, 16))
         self.assertLess(max(red, green, blue), 40)
 
+    def test_the_strip_shows_the_colour_under_the_pointer_and_with_shift_a_ramp(self):
+        desktop, window = self.opened(tab=2)
+        palette = window.place(135, 315, 1545, 810, (3375, 2250))
+        strip = window.place(135, 1170, 1500, 285, (3375, 2250))
+        row = strip.top + 4  # above the ruler
+
+        def brightness_at(across):
+            return sum(desktop.screen.picture().pixel(strip.left + across, row)) // 3
+
+        # The palette's top row is white.
+        desktop.screen.move(palette.left + 30, palette.top)
+        wait_for(lambda: brightness_at(10) == 255 and brightness_at(90) == 255, "the strip to be white")
+        desktop.screen.hands("keydown", "shift")
+        desktop.screen.move(palette.left + 40, palette.top)
+        wait_for(lambda: brightness_at(10) < 20 and 70 < brightness_at(90) < 110, "the ramp from black on")
+        desktop.screen.hands("keyup", "shift")
+        desktop.screen.move(palette.left + 50, palette.top)
+        wait_for(lambda: brightness_at(10) == 255 and brightness_at(90) == 255, "the plain colour again")
+
     def test_f8_again_brings_the_one_window_back(self):
         desktop, window = self.opened(tab=4)
         desktop.activate()
