@@ -55,6 +55,8 @@ class Desk {
   [[nodiscard]] basic::Int16 Style_In_Force() const { return grid_.Style_In_Force(); }
   /// The box style of the pack, whether it is in force or not.
   [[nodiscard]] basic::Int16 Pack_Box_Style() const { return grid_.Pack_Box_Style(); }
+  /// The position that the pack gives, in force or not.
+  [[nodiscard]] basic::Int16 Pack_Pos() const { return placement_.Pack_Pos(); }
 
   /// Lays the calendar out in a style, fits the captions to it and places the window again.
   void Restyle(basic::Int16 style);
@@ -79,6 +81,10 @@ class Desk {
   void Position_Form(basic::Int16 position) { placement_.Position_Form(position); }
 
   void Recolour(Colour_Part part) { view_.Recolour(part); }
+
+  [[nodiscard]] int Present_Month() const { return view_.Present_Month(); }
+  /// The full name of month 1 to 12 in the user's language.
+  [[nodiscard]] const std::string& Month_Name(int month) const { return view_.Month_Name(month); }
 
   /// The text that the title would have with these formats.
   const std::string& Title_By(bool show_time, const std::string& time_format, const std::string& date_format) {

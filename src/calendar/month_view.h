@@ -48,6 +48,9 @@ class Month_View {
   /// Applies the colour settings to one part of the window alone.
   void Recolour(Colour_Part part);
 
+  [[nodiscard]] int Present_Month() const { return dates_.Today().Month; }
+  [[nodiscard]] const std::string& Month_Name(int month) const { return dates_.Words().Month_Name(month); }
+
   /// The text that the title would have with these formats. Valid until the title is written again.
   const std::string& Title_By(bool show_time, const std::string& time_format, const std::string& date_format) {
     return title_.Get_Bar_Text(show_time, time_format, date_format);

@@ -32,6 +32,7 @@ class Placement {
 
   /// The same with the position in force: the pack's or the setting's.
   void Position_In_Force();
+  [[nodiscard]] basic::Int16 Pack_Pos() const { return calendar_.Pack_Pos; }
   [[nodiscard]] basic::Int16 Number_In_Force() const {
     return presentation::Position_In_Force(stored_.Values, calendar_);
   }

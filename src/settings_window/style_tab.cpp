@@ -23,14 +23,16 @@ int Size_Of_Style(basic::Int16 style) {
   }
 }
 
-/// Half of what is left of a length, in whole twips.
-int Half_Left(double outer, double inner) { return toolkit::Round_To_Even(outer - inner) / 2; }
+/// How far a length lies within a longer one: 0 at its beginning, 1 in the middle, in whole twips, 2 at its end.
+double Offset(int place, double outer, double inner) {
+  if (place == 1) return toolkit::Round_To_Even(outer - inner) / 2;
+  return place == 0 ? 0 : outer - inner;
+}
 
 }  // namespace
 
 Style_Tab::Style_Tab(toolkit::Frame& page, Wallpaper_Page& packs_page, calendar::Desk& desk,
-                     settings::Stored_Settings& stored, packs::Pack_Lookup& packs, const packs::Pack_Browser& browser,
-                     const state::Calendar_State& calendar)
+                     settings::Stored_Settings& stored, packs::Pack_Lookup& packs, const packs::Pack_Browser& browser)
     : Frame4(page, "Frame4"), Theme_Pos_Chk(Frame4, "Theme_Pos_Chk"),
       Vertical_Sli(Frame4, "Vertical_Sli", 0, 2, Slide::Down),
       Horizontal_Sli(Frame4, "Horizontal_Sli", 0, 2, Slide::Across), Pos_Manual_Opt(Frame4, "Pos_Manual_Opt"),
@@ -39,7 +41,7 @@ Style_Tab::Style_Tab(toolkit::Frame& page, Wallpaper_Page& packs_page, calendar:
       Theme_Style_Chk(Frame6, "Theme_Style_Chk"), Style3_Opt(Frame6, "Style3_Opt"), Style1_Opt(Frame6, "Style1_Opt"),
       Style2_Opt(Frame6, "Style2_Opt"), Example5_Lbl(Frame6, "Example5_Lbl"), Example1_Lbl(Frame6, "Example1_Lbl"),
       Example2_Lbl(Frame6, "Example2_Lbl"), Example4_Lbl(Frame6, "Example4_Lbl"), Example3_Lbl(Frame6, "Example3_Lbl"),
-      packs_page_(packs_page), desk_(desk), stored_(stored), packs_(packs), browser_(browser), calendar_(calendar) {
+      packs_page_(packs_page), desk_(desk), stored_(stored), packs_(packs), browser_(browser) {
   Make_Position_Frame();
   Make_Style_Frame();
   Make_Examples();
@@ -180,32 +182,12 @@ void Style_Tab::Size_Box_Preview(int size) {
 }
 
 void Style_Tab::Place_Box_Preview(basic::Int16 position) {
+  const Slider_Places* const places = Places_Of(position);
+  if (places == nullptr) return;
   const toolkit::Bounds& screen = Pos_Preview_Img.In_Twips();
   toolkit::Bounds box = Box_Preview_Img.In_Twips();
-  switch (position.Value()) {
-    case 0:
-    case 1:
-    case 2: box.Top = screen.Top + screen.Height - box.Height; break;
-    case 3:
-    case 8:
-    case 9: box.Top = screen.Top + Half_Left(screen.Height, box.Height); break;
-    case 4:
-    case 5:
-    case 6: box.Top = screen.Top; break;
-    default: break;
-  }
-  switch (position.Value()) {
-    case 0:
-    case 4:
-    case 8: box.Left = screen.Left + screen.Width - box.Width; break;
-    case 1:
-    case 3:
-    case 5: box.Left = screen.Left + Half_Left(screen.Width, box.Width); break;
-    case 2:
-    case 6:
-    case 9: box.Left = screen.Left; break;
-    default: break;
-  }
+  box.Left = screen.Left + Offset(places->Horizontal, screen.Width, box.Width);
+  box.Top = screen.Top + Offset(places->Vertical, screen.Height, box.Height);
   Box_Preview_Img.Place(box);
 }
 
@@ -296,12 +278,12 @@ void Style_Tab::Save_Style() {
   const std::string pack = packs_page_.Packs_Cbo.Text();
   if (by_pack && pack.empty()) return;
   desk_.Apply_Pack(pack);
-  desk_.Take_Style(by_pack ? calendar_.Pack_Box_Style : stored_.Values.Style);
+  desk_.Take_Style(by_pack ? desk_.Pack_Box_Style() : stored_.Values.Style);
 }
 
 void Style_Tab::Save_Position() {
   if (Ticked(Theme_Pos_Chk) && stored_.Values.Use_Themes == 1) {
-    if (!packs_page_.Packs_Cbo.Text().empty()) desk_.Position_Form(calendar_.Pack_Pos);
+    if (!packs_page_.Packs_Cbo.Text().empty()) desk_.Position_Form(desk_.Pack_Pos());
     return;
   }
   stored_.Set(&Settings::Alignment, Chosen_Position());

@@ -13,7 +13,7 @@ namespace settings_window {
 class Style_Tab {
  public:
   Style_Tab(toolkit::Frame& page, Wallpaper_Page& packs_page, calendar::Desk& desk, settings::Stored_Settings& stored,
-            packs::Pack_Lookup& packs, const packs::Pack_Browser& browser, const state::Calendar_State& calendar);
+            packs::Pack_Lookup& packs, const packs::Pack_Browser& browser);
 
   toolkit::Frame Frame4;
   toolkit::Check_Box Theme_Pos_Chk;
@@ -82,7 +82,6 @@ class Style_Tab {
   settings::Stored_Settings& stored_;
   packs::Pack_Lookup& packs_;
   const packs::Pack_Browser& browser_;
-  const state::Calendar_State& calendar_;
 };
 
 }  // namespace settings_window

@@ -80,7 +80,7 @@ void Twelve_Months::Show_Months() {
 }
 
 void Twelve_Months::Show_Month(int month) {
-  main_frm_.Which_Month_Lbl.Caption = "Preview Mode - " + tab_.Month_Name(month);
+  main_frm_.Which_Month_Lbl.Caption = "Preview Mode - " + desk_.Month_Name(month);
   desk_.Preview_Pack(tab_.Page.Packs_Cbo.Text(), month);
   desk_.Lay_Out(desk_.Style_In_Force());
   desk_.Position_Form(desk_.Position_In_Force());
@@ -88,7 +88,7 @@ void Twelve_Months::Show_Month(int month) {
 }
 
 void Twelve_Months::Put_Calendar_Back() {
-  if (settings_.Use_Themes == 1) desk_.Preview_Pack(settings_.Pack_Name, tab_.Present_Month());
+  if (settings_.Use_Themes == 1) desk_.Preview_Pack(settings_.Pack_Name, desk_.Present_Month());
   // Another test than that of the months: the pack's own number has to be the square box.
   const bool square_pack = settings_.Use_Themes == 1 && desk_.Pack_Box_Style() == presentation::square_box;
   desk_.Lay_Out(square_pack ? desk_.Pack_Box_Style() : settings_.Style);

@@ -31,8 +31,8 @@ std::string Last_Name(const std::string& path) { return path.substr(path.rfind('
 
 Wallpaper_Tab::Wallpaper_Tab(Wallpaper_Page& page, Style_Tab& style_tab, calendar::Desk& desk,
                              settings::Stored_Settings& stored, packs::Pack_Lookup& packs,
-                             const packs::Pack_Browser& browser, const calendar::Dates& dates)
-    : Page(page), Style(style_tab), Browser(browser), desk_(desk), stored_(stored), packs_(packs), dates_(dates) {
+                             const packs::Pack_Browser& browser)
+    : Page(page), Style(style_tab), Browser(browser), desk_(desk), stored_(stored), packs_(packs) {
   Tie_Events();
 }
 
@@ -44,7 +44,7 @@ void Wallpaper_Tab::Tie_Events() {
     old_preview_month_ = Page.Preview_Sli.Value();
   };
   slider.On_Key_Down = [this] { old_preview_month_ = Page.Preview_Sli.Value(); };
-  slider.On_Scroll = [this] { Page.Preview_Sli.Text = Month_Name(Page.Preview_Sli.Value); };
+  slider.On_Scroll = [this] { Page.Preview_Sli.Text = desk_.Month_Name(Page.Preview_Sli.Value); };
   slider.On_Change = [this] { Preview_Sli_Change(); };
 }
 
@@ -122,7 +122,7 @@ void Wallpaper_Tab::Packs_Cbo_Click() {
   Page.Theme_Pos_Lbl.Caption = "Position:";
   Page.Theme_Display_Lbl.Caption = "Display:";
   if (!Check_Vaild()) return;
-  const int month = Present_Month();
+  const int month = desk_.Present_Month();
   Page.Preview_Sli.Value = month;
   old_preview_month_ = 0;
   Refresh();

@@ -12,15 +12,12 @@ namespace settings_window {
 class Wallpaper_Tab {
  public:
   Wallpaper_Tab(Wallpaper_Page& page, Style_Tab& style_tab, calendar::Desk& desk, settings::Stored_Settings& stored,
-                packs::Pack_Lookup& packs, const packs::Pack_Browser& browser, const calendar::Dates& dates);
+                packs::Pack_Lookup& packs, const packs::Pack_Browser& browser);
 
   // What the tab works on, for the preview of the twelve months.
   Wallpaper_Page& Page;
   Style_Tab& Style;
   const packs::Pack_Browser& Browser;
-
-  [[nodiscard]] std::string Month_Name(int month) const { return dates_.Words().Month_Name(month); }
-  [[nodiscard]] int Present_Month() const { return dates_.Today().Month; }
 
   /// Adds all whole packs to Packs_Cbo once more and selects the setting's; without that one nothing is selected.
   void Get_Papers();
@@ -51,7 +48,6 @@ class Wallpaper_Tab {
   calendar::Desk& desk_;
   settings::Stored_Settings& stored_;
   packs::Pack_Lookup& packs_;
-  const calendar::Dates& dates_;
   basic::Int16 old_preview_month_ = 0;  // the slider's month when the user took hold of it
 };
 
