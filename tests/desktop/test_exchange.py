@@ -166,6 +166,16 @@ class Other_Files(Exchange_Test):
         wait_for(lambda: desktop.message_box().text.startswith("Successfully imported data file from..."), "the success")
         desktop.answer("Return")
 
+    def test_the_configuration_goes_out(self):
+        desktop = self.opened()
+        self.tab.press("Configuration", row=1)
+        self.tab.name_file("Export Configuration File", "C:\\Meridex\\out")
+        self.told(desktop, "Successfully exported current configuration to file...")
+        lines = (desktop.folder / "out.ini").read_bytes().split(b"\r\n")
+        self.assertEqual(len(lines), 33)
+        self.assertEqual(lines[:3], [b'"Style=1"', b'"TaskPos=6"', b'"Col_Today=16761024"'])
+        self.assertEqual(lines[30:], [b'"Auto_Compact=0"', b'"Tooltips=1"', b""])
+
     def test_the_configuration_closes_the_window(self):
         desktop = self.opened()
         (desktop.folder / "in.ini").write_bytes(b'"Tooltips=2"\r\n"Start_Day=1"\r\n')

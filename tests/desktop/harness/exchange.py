@@ -1,4 +1,6 @@
 """The tab of imports and exports as a user works it: its buttons, and the system's dialogs that ask for a file."""
+import time
+
 from .settings import BUTTON, Settings_Window
 from .waiting import wait_for
 
@@ -20,11 +22,14 @@ class Exchange:
         self.desktop.screen.click((left + right) // 2, (top + bottom) // 2)
 
     def name_file(self, title, path):
-        """Types a path into the open dialog, in which the field of the name has the focus, and agrees."""
+        """Types a path into the open dialog, in which the field of the name has the focus, and agrees. Returns the moment of
+        that, on the monotonic clock."""
         self.wait_for_dialog(title)
         self.desktop.screen.type(path)
+        agreed = time.monotonic()
         self.desktop.screen.key("Return")
         self.desktop.window_gone(title)
+        return agreed
 
     def cancel(self, title):
         self.wait_for_dialog(title)
@@ -38,6 +43,6 @@ class Exchange:
         self.desktop.screen.picture_at_rest()
 
     def bring_in(self, name):
-        """Imports a CSV file of the program's folder, up to its message."""
+        """Imports a CSV file of the program's folder. Returns as above."""
         self.press("from CSV File")
-        self.name_file("Import Events from CSV File", f"C:\\Meridex\\{name}")
+        return self.name_file("Import Events from CSV File", f"C:\\Meridex\\{name}")
