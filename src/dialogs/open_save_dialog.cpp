@@ -20,7 +20,9 @@ constexpr std::string_view end_of_list("\0\0", 2);
 /// A text of NULs alone. Throws error 5 for a negative length.
 std::string Buffer(int length) {
   if (length < 0) throw Run_Error(Error_Number::Invalid_Procedure_Call);
-  return std::string(static_cast<std::size_t>(length), '\0');
+  std::string buffer;
+  buffer.resize(static_cast<std::size_t>(length));
+  return buffer;
 }
 
 void Add_File(std::vector<std::string>& files, std::int32_t& count, std::string_view file) {
@@ -90,6 +92,7 @@ void OpenSaveDialog::Take_Result(const platform::File_Dialog_Record& record, Kin
   FilterIndex = static_cast<std::int32_t>(record.Filter_Index);
 }
 
+// NOLINTNEXTLINE(readability-identifier-naming)
 void OpenSaveDialog::ParseMultiFileName(std::string& Dir, std::vector<std::string>& Files, std::int32_t& Count) {
   const std::size_t end = FileName.find(end_of_list);
   if (end != std::string::npos) {

@@ -52,6 +52,7 @@ class OpenSaveDialog : public toolkit::Dialog_Owner {
   /// Splits FileName after a choice of several files: the folder, unless `Dir` holds one, and behind the `Count` files that
   /// there are already the names. `Files` counts from 1: its first element is number 1. Throws error 5 where FileName is a
   /// bare name without a NUL, error 9 for a `Count` below 0 and error 6 beyond 32 bits.
+  // NOLINTNEXTLINE(readability-identifier-naming): part of the control's face
   void ParseMultiFileName(std::string& Dir, std::vector<std::string>& Files, std::int32_t& Count);
 
   /// The defaults.

@@ -13,8 +13,8 @@ namespace exchange {
 
 /// A kind of file as its dialogs ask for it. The extension is in small letters, with its point.
 struct File_Kind {
-  const char* Title;
-  const char* Filter;
+  const char* Title = "";
+  const char* Filter = "";
   const char* Extension = "";
 };
 
