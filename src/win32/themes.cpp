@@ -2,12 +2,14 @@
 
 #include <utility>
 
+#include "win32/system_library.h"
+
 namespace win32 {
 
 // The style's handle is kept; nullptr is an answer too. A library that isn't there is asked for once.
 HANDLE Themes::Buttons() {
   if (std::exchange(asked_, true)) return buttons_;
-  if (!library_) library_.Reset(LoadLibraryA("uxtheme.dll"));
+  if (!library_) library_ = System_Library("uxtheme.dll");
   const auto in_use = Find_Function<BOOL WINAPI()>(library_.Get(), "IsAppThemed");
   const auto open = Find_Function<HANDLE WINAPI(HWND, const wchar_t*)>(library_.Get(), "OpenThemeData");
   if (in_use == nullptr || open == nullptr || in_use() == 0) return nullptr;

@@ -10,6 +10,7 @@
 #include "win32/message_loop.h"
 #include "win32/registry_services.h"
 #include "win32/shell_launcher.h"
+#include "win32/system_library.h"
 #include "win32/system_pictures.h"
 #include "win32/system_profiles.h"
 #include "win32/user_locale.h"
@@ -61,16 +62,22 @@ std::string Report_Of(const std::exception_ptr& failure) {
   }
 }
 
-void Report(const std::exception_ptr& failure) {
+}  // namespace
+
+int Win32_Platform::Report_Failure(const std::exception_ptr& failure) {
   // A box closes at once if it finds the message to quit in the queue.
   MSG message;
   while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) continue;
+  Common_Controls controls;
+  controls.Start();
   MessageBoxA(nullptr, Report_Of(failure).c_str(), "Meridex", MB_OK | MB_ICONHAND | MB_SETFOREGROUND | MB_TASKMODAL);
+  return 1;
 }
 
-}  // namespace
-
-Win32_Platform::Win32_Platform(void* instance) : parts_(std::make_unique<Parts>(static_cast<HINSTANCE>(instance))) {}
+Win32_Platform::Win32_Platform(void* instance) {
+  Keep_To_System_Libraries();
+  parts_ = std::make_unique<Parts>(static_cast<HINSTANCE>(instance));
+}
 
 Win32_Platform::~Win32_Platform() = default;
 
@@ -83,8 +90,7 @@ int Win32_Platform::Run(const std::function<void()>& start) {
   guard.Run(start);
   parts_->Loop.Run();
   if (guard.Failure() == nullptr) return 0;
-  Report(guard.Failure());
-  return 1;
+  return Report_Failure(guard.Failure());
 }
 
 }  // namespace win32
