@@ -1,5 +1,7 @@
 #include "win32/instance_window.h"
 
+#include "win32/program_path.h"
+
 namespace win32 {
 
 namespace {
@@ -8,9 +10,8 @@ constexpr char window_class[] = "Meridex_Instance";
 
 /// The same name in all processes of this executable.
 std::string Mutex_Name() {
-  char path[MAX_PATH + 1];
-  const std::string text(path, GetModuleFileNameA(nullptr, path, MAX_PATH));
-  std::string name = "Meridex instance " + text.substr(text.rfind('\\') + 1);
+  const std::string path = Program_Path();
+  std::string name = "Meridex instance " + path.substr(path.rfind('\\') + 1);
   CharLowerA(name.data());
   return name;
 }
