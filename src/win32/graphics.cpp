@@ -17,6 +17,13 @@ void Draw_Line_Around(HDC context, RECT& place) {
   InflateRect(&place, -1, -1);
 }
 
+bool High_Contrast() {
+  HIGHCONTRASTA answer = {};
+  answer.cbSize = sizeof answer;
+  return SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof answer, &answer, 0) != 0 &&
+         (answer.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 COLORREF Grey_On(COLORREF ground, COLORREF otherwise) {
   const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
   return grey != ground ? grey : otherwise;

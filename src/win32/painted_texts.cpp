@@ -89,11 +89,14 @@ void Painted_Frame::Draw_Line(HDC context, Themes& themes, const RECT& caption) 
 
 void Painted_Frame::Draw_Caption(HDC context, Themes& themes, RECT caption) const {
   constexpr COLORREF none = CLR_INVALID;
-  const COLORREF usual = themes.Text_Colour({group_box, normal}, GetSysColor(COLOR_BTNTEXT));
+  // Colours of high contrast go with each other, and a style's don't with them.
+  const bool plain = High_Contrast();
+  const COLORREF own = GetSysColor(COLOR_BTNTEXT);
+  const COLORREF usual = plain ? own : themes.Text_Colour({group_box, normal}, own);
   COLORREF colour = usual;
   if (!frame_.Usable()) {
     // A style may have no look of its own for what is disabled.
-    colour = themes.Text_Colour(Look(), none);
+    colour = plain ? none : themes.Text_Colour(Look(), none);
     if (colour == none || colour == usual) colour = Grey_On(To_Colour(frame_.Window.BackColor), usual);
   }
   SetBkMode(context, TRANSPARENT);
