@@ -3,6 +3,7 @@
 #include <string>
 
 #include "basic/run_error.h"
+#include "win32/code_page.h"
 #include "win32/desktop.h"
 #include "win32/disk_files.h"
 #include "win32/instance_window.h"
@@ -87,7 +88,10 @@ platform::System& Win32_Platform::System() { return parts_->System; }
 
 int Win32_Platform::Run(const std::function<void()>& start) {
   Guard& guard = parts_->Context.Guard;
-  guard.Run(start);
+  guard.Run([&] {
+    Warn_Of_Utf8(GetACP(), parts_->Store, parts_->Message_Box);
+    start();
+  });
   parts_->Loop.Run();
   if (guard.Failure() == nullptr) return 0;
   return Report_Failure(guard.Failure());
