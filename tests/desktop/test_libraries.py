@@ -8,9 +8,10 @@ from harness.waiting import wait_for
 PLANTED = BUILD / "tests/desktop/desktop_planted.dll"
 COMMON_CONTROLS = "comctl32.dll"
 
-# What the program looks up at run time, and what those libraries and a file dialog may look for in turn.
-NAMES = ["comctl32", "uxtheme", "oleacc", "ole32", "oleaut32", "comdlg32", "shell32", "version", "winmm", "dwmapi",
-         "shlwapi", "msimg32", "propsys", "winspool.drv", "secur32", "cryptbase", "netapi32", "mpr", "usp10", "riched20"]
+# What the program looks up at run time, and what a file dialog may look for in turn. Wine itself has ole32, uxtheme, version and
+# msimg32 from the program's folder for its own windows before the program's first line.
+NAMES = ["comctl32", "oleacc", "oleaut32", "comdlg32", "shell32", "winmm", "dwmapi", "shlwapi", "propsys", "winspool.drv", "secur32",
+         "cryptbase", "netapi32", "mpr", "usp10", "riched20"]
 
 
 class Libraries(Desktop_Test):
@@ -27,6 +28,8 @@ class Libraries(Desktop_Test):
         desktop = self.desktop(events=["5/3/2004=Dentist"], settings={"Settings Tab": 7, "Alignment": 6})
         for name in NAMES:
             shutil.copy2(PLANTED, desktop.folder / (name if "." in name else f"{name}.dll"))
+        # As on Windows: Wine alone would take its own library before one beside the program.
+        desktop.prefix.environment["WINEDLLOVERRIDES"] += f";{','.join(NAMES)}=n,b"
         desktop.start()
         desktop.message_box()
         desktop.answer("Return")
