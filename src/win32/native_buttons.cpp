@@ -18,12 +18,16 @@ void Native_Button::Stand_On_Ground() {
   Follow_Contrast();
 }
 
-/// A visual style writes a caption in a colour of its own, whatever the form's is. Where the user has asked for high
-/// contrast the form's is taken, which goes with the ground.
+/// A visual style writes a caption in a colour of its own, whatever the form's is. Where that can't be read on the form's
+/// ground, as with colours of high contrast, the form's is taken.
 void Native_Button::Follow_Contrast() {
-  if (High_Contrast() == without_style_) return;
-  without_style_ = !without_style_;
-  Context().Themes.Leave_Out(Window(), without_style_);
+  constexpr Themes::Look check_box = {3, 1};
+  const toolkit::Form& form = Control().Window;
+  const COLORREF colour = Context().Themes.Text_Colour(check_box, To_Colour(form.ForeColor));
+  const bool without = !Readable(colour, To_Colour(form.BackColor));
+  if (without == without_style_) return;
+  without_style_ = without;
+  Context().Themes.Leave_Out(Window(), without);
 }
 
 void Native_Button::Show_Held(bool held) { SendMessageA(Window(), BM_SETSTATE, held, 0); }
