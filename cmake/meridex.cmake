@@ -34,9 +34,12 @@ endif()
 if(WIN32)
   # The A-functions throughout: texts are bytes of the system's code page from the file to the screen.
   target_compile_definitions(meridex_options INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX __USE_MINGW_ANSI_STDIO=0)
-  target_compile_options(meridex_options INTERFACE -ffunction-sections -fdata-sections)
-  target_link_options(meridex_options INTERFACE -static -Wl,--gc-sections)
-  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_options(meridex_options INTERFACE -ffunction-sections -fdata-sections -fstack-protector-strong)
+  target_link_options(meridex_options INTERFACE -static -Wl,--gc-sections -fstack-protector-strong
+    -Wl,--dynamicbase,--nxcompat,--enable-reloc-section)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    target_link_options(meridex_options INTERFACE -Wl,--high-entropy-va)
+  else()
     # Structures as those systems know them; what is newer is looked up at run time.
     target_compile_definitions(meridex_options INTERFACE _WIN32_WINNT=0x0400 _WIN32_IE=0x0400)
     target_link_options(meridex_options INTERFACE

@@ -25,7 +25,8 @@ class Desktop_Shell {
   /// The first child of that class, 0 if there is none.
   virtual Window_Handle Find_Child(Window_Handle parent, const std::string& window_class) = 0;
 
-  /// Sends a message with wParam 0 and lParam `parameter`. Returns its result, cut to 32 bits.
+  /// Sends a message with wParam 0 and lParam `parameter`. Returns its result, cut to 32 bits, and no_colour where the window
+  /// is gone or doesn't answer within a second.
   virtual int Send(Window_Handle window, unsigned message, int parameter) = 0;
 
   /// Makes the window a child of `parent`.
@@ -34,7 +35,7 @@ class Desktop_Shell {
   /// Marks the whole window for erasing and painting.
   virtual void Invalidate(Window_Handle window) = 0;
 
-  /// Paints at once what is marked.
+  /// Paints at once what is marked, unless the window doesn't answer.
   virtual void Update(Window_Handle window) = 0;
 };
 

@@ -13,7 +13,7 @@ class Settings_Store {
   virtual std::string Get(const std::string& application, const std::string& section, const std::string& key,
                           const std::string& default_text) = 0;
 
-  /// Creates or replaces the value; a failure is silent.
+  /// Creates or replaces the value. Throws error 75 where it can't be stored.
   virtual void Save(const std::string& application, const std::string& section, const std::string& key,
                     const std::string& text) = 0;
 };

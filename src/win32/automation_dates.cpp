@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "basic/run_error.h"
+#include "win32/system_library.h"
 
 namespace win32 {
 
@@ -38,7 +39,7 @@ basic::Moment Moment_Of_System_Time(const SYSTEMTIME& time) {
 
 basic::Moment Automation_Dates::Moment_Of_Text(const std::string& text) {
   if (!automation_) {
-    automation_.Reset(LoadLibraryA("oleaut32.dll"));
+    automation_ = System_Library("oleaut32.dll");
     read_ = Find_Function<Reader>(automation_.Get(), "VarDateFromStr");
   }
   double number = 0;

@@ -2,11 +2,13 @@
 
 #include <commctrl.h>
 
+#include "win32/system_library.h"
+
 namespace win32 {
 
 bool Common_Controls::Start() {
   if (started_) return true;
-  if (!library_) library_.Reset(LoadLibraryA("comctl32.dll"));
+  if (!library_) library_ = System_Library("comctl32.dll");
   // The first versions of the library have the plain function alone, which knows all the kinds that we use.
   const INITCOMMONCONTROLSEX kinds = {sizeof kinds, ICC_WIN95_CLASSES};
   const auto start_kinds =

@@ -1,5 +1,5 @@
-// The library of the system's tips, sliders and tabs. It is loaded with the first of them: a start without any is the
-// quicker for it.
+// The library of the system's controls. It is loaded before the first control, tip or message box: with the manifest's
+// version of it some systems show no box at all until it is loaded. A start without any is the quicker for it.
 #pragma once
 
 #include "win32/handle.h"

@@ -2,6 +2,13 @@
 
 namespace win32 {
 
+namespace {
+
+// Milliseconds: a shell that hangs must not make the calendar hang.
+constexpr UINT patience = 1000;
+
+}  // namespace
+
 platform::Pixel_Area Primary_Screen::Bounds() {
   return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
@@ -26,7 +33,10 @@ platform::Window_Handle Shell_Windows::Find_Child(platform::Window_Handle parent
 }
 
 int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int parameter) {
-  return static_cast<int>(SendMessageA(To_Window(window), message, 0, parameter));
+  DWORD_PTR result = 0;
+  const bool answered =
+      SendMessageTimeoutA(To_Window(window), message, 0, parameter, SMTO_ABORTIFHUNG, patience, &result) != 0;
+  return answered ? static_cast<int>(result) : platform::no_colour;
 }
 
 // The window keeps the style of a popup, since a window with the style of a child can never be active. Only during the
@@ -43,6 +53,11 @@ void Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_
 
 void Shell_Windows::Invalidate(platform::Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }
 
-void Shell_Windows::Update(platform::Window_Handle window) { UpdateWindow(To_Window(window)); }
+// The painting itself can't be waited for with a limit.
+void Shell_Windows::Update(platform::Window_Handle window) {
+  DWORD_PTR result = 0;
+  if (SendMessageTimeoutA(To_Window(window), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, patience, &result) != 0)
+    UpdateWindow(To_Window(window));
+}
 
 }  // namespace win32

@@ -6,6 +6,7 @@
 
 #include "win32/automation_dates.h"
 #include "win32/handle.h"
+#include "win32/program_path.h"
 
 namespace win32 {
 
@@ -86,11 +87,7 @@ void Throw_File_Error() {
   }
 }
 
-Disk_Files::Disk_Files() {
-  char path[MAX_PATH + 1];
-  path_.assign(path, GetModuleFileNameA(nullptr, path, MAX_PATH));
-  folder_ = path_.substr(0, path_.rfind('\\'));
-}
+Disk_Files::Disk_Files() : path_(win32::Program_Path()) { folder_ = path_.substr(0, path_.rfind('\\')); }
 
 void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
   const Handle_Owner file = Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);

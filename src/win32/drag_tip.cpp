@@ -26,13 +26,13 @@ bool Drag_Tip::Make(HWND owner) {
   if (window_) return true;
   if (!controls_.Start()) return false;
   owner_ = owner;
-  window_.Reset(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0,
-                                0, 0, owner, nullptr, GetModuleHandleA(nullptr), nullptr));
+  window_.Reset(Made(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
+                                     0, 0, 0, 0, owner, nullptr, GetModuleHandleA(nullptr), nullptr)));
   char empty[] = "";
   TTTOOLINFOA tool = Tool_Of(owner);
   tool.lpszText = empty;
   Send_Tool(window_.Get(), TTM_ADDTOOLA, 0, tool);
-  return static_cast<bool>(window_);
+  return true;
 }
 
 void Drag_Tip::Show(HWND owner, POINT on_screen, const std::string& text) {

@@ -10,23 +10,41 @@ bool Same_Font(const toolkit::Font& a, const toolkit::Font& b) {
   return a.Size == b.Size && a.Bold == b.Bold && a.Italic == b.Italic && a.Underline == b.Underline && a.Name == b.Name;
 }
 
-HFONT Make_Font(const toolkit::Font& font, int dpi) {
+/// Whether letters of the code page join, change their shapes or stand above each other.
+bool Is_Shaped(UINT code_page) {
+  constexpr std::array<UINT, 4> thai_hebrew_arabic_vietnamese = {874, 1255, 1256, 1258};
+  return std::find(thai_hebrew_arabic_vietnamese.begin(), thai_hebrew_arabic_vietnamese.end(), code_page) !=
+         thai_hebrew_arabic_vietnamese.end();
+}
+
+bool Has_No_Width(char c) { return c == '\r' || c == '\n'; }
+
+HFONT Make_Font(const toolkit::Font& font, int dpi, BYTE character_set) {
   constexpr double points_per_inch = 72;
   LOGFONTA description = {};
   description.lfHeight = -toolkit::Round_To_Even(font.Size * dpi / points_per_inch);
   description.lfWeight = font.Bold ? FW_BOLD : FW_NORMAL;
   description.lfItalic = font.Italic;
   description.lfUnderline = font.Underline;
-  description.lfCharSet = DEFAULT_CHARSET;
+  description.lfCharSet = character_set;
   lstrcpynA(description.lfFaceName, font.Name.c_str(), LF_FACESIZE);
   return CreateFontIndirectA(&description);
 }
 
 }  // namespace
 
-Fonts::Fonts(const Scale& scale) : scale_(scale) {
-  CPINFO code_page = {};
-  double_bytes_ = GetCPInfo(CP_ACP, &code_page) != 0 && code_page.MaxCharSize > 1;
+BYTE Character_Set_Of(UINT code_page) {
+  CHARSETINFO found = {};
+  auto* const number = reinterpret_cast<DWORD*>(static_cast<DWORD_PTR>(code_page));  // the call wants it in this form
+  const bool known = code_page != CP_UTF8 && TranslateCharsetInfo(number, &found, TCI_SRCCODEPAGE) != 0;
+  if (!known) return DEFAULT_CHARSET;
+  return static_cast<BYTE>(found.ciCharset);
+}
+
+Fonts::Fonts(const Scale& scale, UINT code_page) : scale_(scale), code_page_(code_page) {
+  CPINFO about = {};
+  const bool single_bytes = GetCPInfo(code_page, &about) == 0 || about.MaxCharSize == 1;
+  simple_ = single_bytes && !Is_Shaped(code_page);
 }
 
 Face& Fonts::Get(const toolkit::Font& description) {
@@ -36,20 +54,31 @@ Face& Fonts::Get(const toolkit::Font& description) {
   if (known != faces_.end()) return *(last_ = known->get());
   auto face = std::make_unique<Face>();
   face->Description = description;
-  face->Handle.Reset(Make_Font(description, scale_.Dpi));
+  face->Handle.Reset(Make_Font(description, scale_.Dpi, Character_Set_Of(code_page_)));
   return *(last_ = faces_.emplace_back(std::move(face)).get());
 }
 
+/// Whether the text is as wide as its characters together: every text of a simple code page is, and of any other one the
+/// text of plain letters.
+bool Fonts::Adds_Up(std::string_view text) const {
+  return simple_ || std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 int Fonts::Width(Face& face, std::string_view text) {
-  if (double_bytes_) {
-    SIZE size = {};
-    GetTextExtentPoint32A(Select(face), text.data(), static_cast<int>(text.size()), &size);
-    return size.cx;
-  }
+  if (!Adds_Up(text)) return Whole_Width(face, text);
   Measure(face);
   int width = 0;
   for (const char c : text) width += face.Widths[static_cast<unsigned char>(c)];
   return width == 0 ? 0 : width + face.Overhang;
+}
+
+/// As the system lays the text out: letters may join, stand above each other and change their shapes.
+int Fonts::Whole_Width(const Face& face, std::string_view text) {
+  std::string shown(text);
+  std::erase_if(shown, Has_No_Width);
+  SIZE size = {};
+  GetTextExtentPoint32A(Select(face), shown.data(), static_cast<int>(shown.size()), &size);
+  return size.cx;
 }
 
 int Fonts::Height(const Face& face, std::string_view text, int width) {
@@ -67,12 +96,7 @@ std::string Fonts::Name_Of(const Face& face) {
 
 std::size_t Fonts::Longest_Beginning(Face& face, std::string_view text, int limit) {
   if (limit < 0) return 0;
-  if (double_bytes_) {
-    int count = 0;
-    SIZE size = {};
-    GetTextExtentExPointA(Select(face), text.data(), static_cast<int>(text.size()), limit, &count, nullptr, &size);
-    return static_cast<std::size_t>(count);
-  }
+  if (!Adds_Up(text)) return Longest_Whole(face, text, limit);
   Measure(face);
   int width = face.Overhang;
   std::size_t count = 0;
@@ -81,6 +105,26 @@ std::size_t Fonts::Longest_Beginning(Face& face, std::string_view text, int limi
     if (width > limit) break;
   }
   return count;
+}
+
+/// By halves: a beginning is measured as it would be written, without what follows it.
+std::size_t Fonts::Longest_Whole(const Face& face, std::string_view text, int limit) {
+  std::vector<std::size_t> ends = {0};
+  while (ends.back() < text.size()) ends.push_back(Character_After(text, ends.back()));
+  const auto wider = std::partition_point(
+      ends.begin() + 1, ends.end(), [&](std::size_t end) { return Whole_Width(face, text.substr(0, end)) <= limit; });
+  return *(wider - 1);
+}
+
+/// Where the next character begins.
+std::size_t Fonts::Character_After(std::string_view text, std::size_t at) const {
+  std::size_t next = at + 1;
+  if (code_page_ == CP_UTF8) {
+    while (next < text.size() && (static_cast<unsigned char>(text[next]) & 0xC0U) == 0x80U) ++next;
+  } else if (IsDBCSLeadByteEx(code_page_, static_cast<BYTE>(text[at])) != 0) {
+    ++next;
+  }
+  return std::min(next, text.size());
 }
 
 HDC Fonts::Select(const Face& face) {

@@ -12,6 +12,9 @@
 
 namespace win32 {
 
+/// The character set of the fonts for a code page, by the system's number; that of its locale for a page that has none.
+BYTE Character_Set_Of(UINT code_page);
+
 /// A font, and the widths of its characters once they have been asked for.
 struct Face {
   toolkit::Font Description;
@@ -23,7 +26,8 @@ struct Face {
 
 class Fonts {
  public:
-  explicit Fonts(const Scale& scale);
+  /// Texts are bytes of the code page.
+  explicit Fonts(const Scale& scale, UINT code_page = GetACP());
 
   /// The font of that description, valid for as long as the program runs.
   Face& Get(const toolkit::Font& description);
@@ -44,13 +48,17 @@ class Fonts {
  private:
   HDC Select(const Face& face);
   void Measure(Face& face);
-  [[nodiscard]] static bool Has_No_Width(char c) { return c == '\r' || c == '\n'; }
+  [[nodiscard]] bool Adds_Up(std::string_view text) const;
+  int Whole_Width(const Face& face, std::string_view text);
+  std::size_t Longest_Whole(const Face& face, std::string_view text, int limit);
+  [[nodiscard]] std::size_t Character_After(std::string_view text, std::size_t at) const;
 
   const Scale& scale_;
+  const UINT code_page_;
   std::vector<std::unique_ptr<Face>> faces_;
   Face* last_ = nullptr;  // the one asked for last: many measures in a row are of the same font
   Context_Owner context_;
-  bool double_bytes_ = false;  // a code page with characters of two bytes
+  bool simple_ = true;  // each character of the code page is one byte, and as wide alone as in any text
 };
 
 }  // namespace win32

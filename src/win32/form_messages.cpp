@@ -11,7 +11,6 @@ namespace {
 
 constexpr UINT check_tip = WM_APP;  // tips or places have changed under a pointer that may be at rest
 constexpr UINT tell_of_activity = WM_APP + 1;
-constexpr UINT style_changed = 0x031A;  // WM_THEMECHANGED, of the newer systems
 
 using toolkit::Mouse_Button;
 
@@ -56,8 +55,6 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
     case WM_CAPTURECHANGED: Capture_Changed(reinterpret_cast<HWND>(l)); return true;
     case WM_ACTIVATE: return Active_Changed(LOWORD(w) != WA_INACTIVE);
     case WM_WINDOWPOSCHANGED: Place_Changed(*reinterpret_cast<const WINDOWPOS*>(l)); return false;
-    case WM_SYSCOLORCHANGE:
-    case style_changed: Look_Changed(message); return false;
     case WM_CLOSE: form_.Close_Requested(); return true;
     case check_tip: {
       tip_check_posted_ = false;
@@ -167,9 +164,8 @@ bool Form_Window::Erase(HDC context) {
   return true;
 }
 
-/// The colours, or the style of all that is drawn. The newer kinds of controls hear of colours by their parents alone.
+// The newer kinds of controls hear of colours by their parents alone.
 void Form_Window::Look_Changed(UINT message) {
-  context_.Themes.Forget();
   surface_.Repaint_All();
   if (message != WM_SYSCOLORCHANGE) return;
   for (const auto& native : natives_) SendMessageA(native->Window(), message, 0, 0);
@@ -247,7 +243,9 @@ bool Form_Window::Take_Key(const MSG& message) {
   toolkit::Input& input = form_.System().Input;
   const int code = static_cast<int>(message.wParam);
   const toolkit::Key key{code, GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0, GetKeyState(VK_MENU) < 0};
-  // F10 is used up here like any other key: the system would look for a menu bar.
+  // F10 is used up here like any other key: the system would look for a menu bar. So is Alt where the window has no menu of
+  // its own: inside the shell's window the system would take that one's.
+  const bool menu_key = code == VK_F10 || (code == VK_MENU && form_.Border == toolkit::Form_Border::None);
   switch (message.message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
@@ -259,7 +257,7 @@ bool Form_Window::Take_Key(const MSG& message) {
       return input.Key_Down(form_, key) || code == VK_F10;
     case WM_SYSCHAR: return input.Accelerator(form_, static_cast<char>(code));
     case WM_KEYUP:
-    case WM_SYSKEYUP: input.Key_Up(form_, key); return code == VK_F10;
+    case WM_SYSKEYUP: input.Key_Up(form_, key); return menu_key;
     default: return false;
   }
 }

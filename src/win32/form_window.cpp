@@ -76,9 +76,9 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
     : form_(form), context_(context), place_(Wanted_Place()), surface_(form, context), tip_(context.Common_Controls) {
   Register_Class(context.Instance);
   const Frame_Style frame = Style_Of(form.Border);
-  window_.Reset(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
-                                place_.right - place_.left, place_.bottom - place_.top, Owner_Of(form), nullptr,
-                                context.Instance, nullptr));
+  window_.Reset(Made(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
+                                     place_.right - place_.left, place_.bottom - place_.top, Owner_Of(form), nullptr,
+                                     context.Instance, nullptr)));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (form.Border == toolkit::Form_Border::Fixed_Dialog) {
     for (const auto& [kind, across, down] :

@@ -50,6 +50,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
 
   /// Moves the window to where the form is, cuts it to its region and marks what has changed for painting.
   void Settle() override;
+  void Look_Changed(UINT message) override;
   bool Take_Key(const MSG& message) override;
 
  private:
@@ -62,7 +63,6 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   bool Mouse_Message(UINT message, WPARAM w, LPARAM l);
   bool Child_Message(UINT message, WPARAM w, LPARAM l, LRESULT& result);
   bool Erase(HDC context);
-  void Look_Changed(UINT message);
   [[nodiscard]] std::optional<toolkit::Control*> Under(POINT on_screen, toolkit::Control* control) const;
   void Capture_Changed(HWND to);
   bool Active_Changed(bool active);

@@ -2,6 +2,12 @@
 
 namespace win32 {
 
+namespace {
+
+int Brightness(COLORREF colour) { return (GetRValue(colour) * 3 + GetGValue(colour) * 6 + GetBValue(colour)) / 10; }
+
+}  // namespace
+
 COLORREF To_Colour(toolkit::Colour colour) {
   if (toolkit::Is_System_Colour(colour)) return GetSysColor(toolkit::System_Colour_Number(colour));
   return static_cast<COLORREF>(colour) & 0xFFFFFF;
@@ -15,6 +21,12 @@ void Fill(HDC context, const RECT& place, COLORREF colour) {
 void Draw_Line_Around(HDC context, RECT& place) {
   FrameRect(context, &place, GetSysColorBrush(COLOR_WINDOWFRAME));
   InflateRect(&place, -1, -1);
+}
+
+bool Readable(COLORREF text, COLORREF ground) {
+  constexpr int least = 48;  // of 255
+  const int difference = Brightness(text) - Brightness(ground);
+  return difference >= least || difference <= -least;
 }
 
 COLORREF Grey_On(COLORREF ground, COLORREF otherwise) {

@@ -40,6 +40,9 @@ void Fill(HDC context, const RECT& place, COLORREF colour);
 /// Draws a single line around the place, and takes it off the place.
 void Draw_Line_Around(HDC context, RECT& place);
 
+/// Whether a text of that colour can be told from its ground.
+bool Readable(COLORREF text, COLORREF ground);
+
 /// The colour of a disabled text: grey, unless that is the ground's own colour.
 COLORREF Grey_On(COLORREF ground, COLORREF otherwise);
 

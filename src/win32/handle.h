@@ -42,7 +42,11 @@ struct Delete_Context {
   void operator()(HDC context) const noexcept { DeleteDC(context); }
 };
 struct Destroy_Window {
-  void operator()(HWND window) const noexcept { DestroyWindow(window); }
+  void operator()(HWND window) const noexcept {
+    // Detach first: destroying the window must not call back into an object that is going away.
+    SetWindowLongPtrA(window, GWLP_USERDATA, 0);
+    DestroyWindow(window);
+  }
 };
 struct Destroy_Menu {
   void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }

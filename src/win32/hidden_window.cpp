@@ -11,12 +11,10 @@ Hidden_Window::Hidden_Window(HINSTANCE instance, Guard& guard, const char* windo
   description.hInstance = instance;
   description.lpszClassName = window_class;
   RegisterClassA(&description);
-  window_.Reset(CreateWindowExA(WS_EX_TOOLWINDOW, window_class, title, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance,
-                                nullptr));
+  window_.Reset(Made(CreateWindowExA(WS_EX_TOOLWINDOW, window_class, title, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                     instance, nullptr)));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
-
-Hidden_Window::~Hidden_Window() { SetWindowLongPtrA(Window(), GWLP_USERDATA, 0); }
 
 LRESULT CALLBACK Hidden_Window::Procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
   auto* const self = reinterpret_cast<Hidden_Window*>(GetWindowLongPtrA(window, GWLP_USERDATA));

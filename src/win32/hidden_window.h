@@ -17,7 +17,7 @@ class Hidden_Window {
   [[nodiscard]] HWND Window() const { return window_.Get(); }
 
  protected:
-  ~Hidden_Window();
+  ~Hidden_Window() = default;
 
   /// Returns true if the message is handled.
   virtual bool Message(UINT message, WPARAM w) = 0;

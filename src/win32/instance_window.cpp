@@ -1,14 +1,17 @@
 #include "win32/instance_window.h"
 
+#include "win32/program_path.h"
+
 namespace win32 {
 
 namespace {
 
+constexpr char window_class[] = "Meridex_Instance";
+
 /// The same name in all processes of this executable.
 std::string Mutex_Name() {
-  char path[MAX_PATH + 1];
-  const std::string text(path, GetModuleFileNameA(nullptr, path, MAX_PATH));
-  std::string name = "Meridex instance " + text.substr(text.rfind('\\') + 1);
+  const std::string path = Program_Path();
+  std::string name = "Meridex instance " + path.substr(path.rfind('\\') + 1);
   CharLowerA(name.data());
   return name;
 }
@@ -16,13 +19,14 @@ std::string Mutex_Name() {
 }  // namespace
 
 Instance_Window::Instance_Window(HINSTANCE instance, Guard& guard)
-    : Hidden_Window(instance, guard, "Meridex_Instance", "Meridex Loading") {
+    : Hidden_Window(instance, guard, window_class, "Meridex Loading") {
   mutex_.Reset(CreateMutexA(nullptr, FALSE, Mutex_Name().c_str()));
   other_is_running_ = GetLastError() == ERROR_ALREADY_EXISTS;
 }
 
 platform::Window_Handle Instance_Window::Find_Window(const std::string& title) {
-  return To_Handle(FindWindowA(nullptr, title.c_str()));
+  const HWND of_instance = FindWindowA(window_class, title.c_str());
+  return To_Handle(of_instance != nullptr ? of_instance : FindWindowA(nullptr, title.c_str()));
 }
 
 void Instance_Window::Post(platform::Window_Handle window, unsigned message) {

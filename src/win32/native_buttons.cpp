@@ -6,10 +6,28 @@
 namespace win32 {
 
 bool Native_Button::Intercept(UINT message, WPARAM w, LPARAM l) {
+  if (message == WM_SYSCOLORCHANGE && on_ground_) Follow_Contrast();
   if (message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return false;
   // **The form may unload by this: touch no member after it.**
   Forward_To_Form(message, w, l);
   return message != WM_MOUSEMOVE;  // with a move the system paints the button under the pointer
+}
+
+void Native_Button::Stand_On_Ground() {
+  on_ground_ = true;
+  Follow_Contrast();
+}
+
+/// A visual style writes a caption in a colour of its own, whatever the form's is. Where that can't be read on the form's
+/// ground, as with colours of high contrast, the form's is taken.
+void Native_Button::Follow_Contrast() {
+  constexpr Themes::Look check_box = {3, 1};
+  const toolkit::Form& form = Control().Window;
+  const COLORREF colour = Context().Themes.Text_Colour(check_box, To_Colour(form.ForeColor));
+  const bool without = !Readable(colour, To_Colour(form.BackColor));
+  if (without == without_style_) return;
+  without_style_ = without;
+  Context().Themes.Leave_Out(Window(), without);
 }
 
 void Native_Button::Show_Held(bool held) { SendMessageA(Window(), BM_SETSTATE, held, 0); }
@@ -54,6 +72,7 @@ void Native_Push_Button::Show(toolkit::Aspect aspect) {
 Native_Check_Box::Native_Check_Box(HWND parent, toolkit::Check_Box& box, Window_Context& context)
     : Native_Button(parent, box, context), box_(box) {
   Make({"BUTTON", BS_CHECKBOX | Lines(box), 0}, box.Caption);
+  Stand_On_Ground();
   Show_Font(box);
   Show_Tick();
 }
@@ -74,6 +93,7 @@ void Native_Check_Box::Show(toolkit::Aspect aspect) {
 Native_Option_Button::Native_Option_Button(HWND parent, toolkit::Option_Button& option, Window_Context& context)
     : Native_Button(parent, option, context), option_(option) {
   Make({"BUTTON", BS_RADIOBUTTON | Lines(option), 0}, option.Caption);
+  Stand_On_Ground();
   Show_Font(option);
   Show_Dot();
 }

@@ -15,8 +15,17 @@ class Native_Button : public Native_Control {
   bool Intercept(UINT message, WPARAM w, LPARAM l) override;
   void Show_Held(bool held);
 
+  /// Tells that the caption stands on the form's ground.
+  void Stand_On_Ground();
+
   /// BS_MULTILINE where the control is high enough for two lines.
   [[nodiscard]] DWORD Lines(const toolkit::Font_Properties& font) const;
+
+ private:
+  void Follow_Contrast();
+
+  bool on_ground_ = false;
+  bool without_style_ = false;
 };
 
 class Native_Push_Button final : public Native_Button {

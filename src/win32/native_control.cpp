@@ -19,9 +19,10 @@ void Native_Control::Make(const Kind& kind, const std::string& text) {
   const DWORD enabled = control_.Usable() ? 0 : WS_DISABLED;
   const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(parent_, GWLP_HINSTANCE));
   place_ = Native_Control::Wanted_Place();
-  window_ = CreateWindowExA(kind.Extended, kind.Class, text.c_str(), WS_CHILD | kind.Style | shown | enabled,
-                            place_.left, place_.top, place_.right - place_.left, place_.bottom - place_.top, parent_,
-                            nullptr, instance, nullptr);
+  context_.Common_Controls.Start();
+  window_ = Made(CreateWindowExA(kind.Extended, kind.Class, text.c_str(), WS_CHILD | kind.Style | shown | enabled,
+                                 place_.left, place_.top, place_.right - place_.left, place_.bottom - place_.top,
+                                 parent_, nullptr, instance, nullptr));
   SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   procedure_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Native_Control::Procedure)));

@@ -8,7 +8,6 @@ namespace win32 {
 
 Native_Slider::Native_Slider(HWND parent, toolkit::Slider& slider, Window_Context& context)
     : Native_Control(parent, slider, context), slider_(slider), tip_(context.Common_Controls) {
-  context.Common_Controls.Start();
   const DWORD direction = slider.Direction == toolkit::Slide::Down ? TBS_VERT : TBS_HORZ;
   Make({TRACKBAR_CLASSA, TBS_AUTOTICKS | direction, 0});
   Send(TBM_SETRANGEMIN, FALSE, slider.Min);

@@ -6,7 +6,6 @@ namespace win32 {
 
 Native_Tab_Strip::Native_Tab_Strip(HWND parent, toolkit::Tab_Strip& strip, Window_Context& context)
     : Native_Control(parent, strip, context), strip_(strip) {
-  context.Common_Controls.Start();
   Make({WC_TABCONTROLA, TCS_MULTILINE | WS_CLIPSIBLINGS, 0});
   Show_Font(strip);
   Show_Tabs();

@@ -89,12 +89,15 @@ void Painted_Frame::Draw_Line(HDC context, Themes& themes, const RECT& caption) 
 
 void Painted_Frame::Draw_Caption(HDC context, Themes& themes, RECT caption) const {
   constexpr COLORREF none = CLR_INVALID;
-  const COLORREF usual = themes.Text_Colour({group_box, normal}, GetSysColor(COLOR_BTNTEXT));
+  const COLORREF ground = To_Colour(frame_.Window.BackColor), own = GetSysColor(COLOR_BTNTEXT);
+  // The colours of a style don't go with every ground that the user may choose.
+  const COLORREF of_style = themes.Text_Colour({group_box, normal}, own);
+  const COLORREF usual = Readable(of_style, ground) ? of_style : own;
   COLORREF colour = usual;
   if (!frame_.Usable()) {
     // A style may have no look of its own for what is disabled.
     colour = themes.Text_Colour(Look(), none);
-    if (colour == none || colour == usual) colour = Grey_On(To_Colour(frame_.Window.BackColor), usual);
+    if (colour == none || colour == of_style || !Readable(colour, ground)) colour = Grey_On(ground, usual);
   }
   SetBkMode(context, TRANSPARENT);
   SetTextColor(context, colour);

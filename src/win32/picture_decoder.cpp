@@ -1,6 +1,7 @@
 #include "win32/picture_decoder.h"
 
 #include "basic/run_error.h"
+#include "win32/system_library.h"
 
 // Behind the system's header, whose lean form leaves them out.
 #include <objbase.h>
@@ -87,8 +88,8 @@ bool Is_Jpeg(std::string_view file) { return file.starts_with("\xFF\xD8"); }
 
 Decoded_Picture::Decoded_Picture(std::string_view file) {
   Check_Header(file);
-  ole_.Reset(LoadLibraryA("ole32.dll"));
-  automation_.Reset(LoadLibraryA("oleaut32.dll"));
+  ole_ = System_Library("ole32.dll");
+  automation_ = System_Library("oleaut32.dll");
   Initialise();
   try {
     Load(file);

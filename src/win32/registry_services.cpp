@@ -58,10 +58,11 @@ void Registry_Store::Save(const std::string& application, const std::string& sec
   char no_class[] = "";
   if (RegCreateKeyExA(HKEY_CURRENT_USER, Section_Path(application, section).c_str(), 0, no_class, 0, KEY_SET_VALUE,
                       nullptr, &opened, &what) != ERROR_SUCCESS)
-    return;
+    throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   const Key_Owner owner(opened);
-  RegSetValueExA(opened, key.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                 static_cast<DWORD>(text.size() + 1));
+  if (RegSetValueExA(opened, key.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                     static_cast<DWORD>(text.size() + 1)) != ERROR_SUCCESS)
+    throw basic::Run_Error(basic::Error_Number::Path_File_Access);
 }
 
 int System_Registry::Open(platform::Hive hive, const std::string& path, platform::Key_Access access, Key& key) {

@@ -165,4 +165,8 @@ HBITMAP Stock_Pictures::Menu_Bitmap(platform::Stock_Picture picture) {
   return bitmap.Get();
 }
 
+void Stock_Pictures::Forget_Bitmaps() {
+  for (Bitmap_Owner& bitmap : bitmaps_) bitmap.Reset();
+}
+
 }  // namespace win32

@@ -28,6 +28,9 @@ class Stock_Pictures {
   /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.
   HBITMAP Menu_Bitmap(platform::Stock_Picture picture);
 
+  /// The menus' ground has another colour: the bitmaps are made anew when they are next asked for.
+  void Forget_Bitmaps();
+
  private:
   struct Sized_Icon {
     platform::Stock_Picture Picture;

@@ -2,13 +2,19 @@
 
 #include <utility>
 
+#include "win32/system_library.h"
+
 namespace win32 {
+
+HMODULE Themes::Library() {
+  if (!library_) library_ = System_Library("uxtheme.dll");
+  return library_.Get();
+}
 
 // The style's handle is kept; nullptr is an answer too. A library that isn't there is asked for once.
 HANDLE Themes::Buttons() {
   if (std::exchange(asked_, true)) return buttons_;
-  if (!library_) library_.Reset(LoadLibraryA("uxtheme.dll"));
-  const auto in_use = Find_Function<BOOL WINAPI()>(library_.Get(), "IsAppThemed");
+  const auto in_use = Find_Function<BOOL WINAPI()>(Library(), "IsAppThemed");
   const auto open = Find_Function<HANDLE WINAPI(HWND, const wchar_t*)>(library_.Get(), "OpenThemeData");
   if (in_use == nullptr || open == nullptr || in_use() == 0) return nullptr;
   return buttons_ = open(nullptr, L"BUTTON");
@@ -30,6 +36,13 @@ COLORREF Themes::Text_Colour(const Look& look, COLORREF otherwise) {
   if (buttons == nullptr || ask == nullptr || FAILED(ask(buttons, look.Part, look.State, text_colour, &colour)))
     return otherwise;
   return colour;
+}
+
+void Themes::Leave_Out(HWND control, bool out) {
+  using Set_Style = HRESULT WINAPI(HWND, const wchar_t*, const wchar_t*);
+  const auto set = Find_Function<Set_Style>(Library(), "SetWindowTheme");
+  const wchar_t* const name = out ? L"" : nullptr;  // "" names no style, nullptr the usual one
+  if (set != nullptr) set(control, name, name);
 }
 
 void Themes::Forget() {

@@ -23,10 +23,14 @@ class Themes {
   /// The colour of its text; `otherwise` where no visual style is in use.
   COLORREF Text_Colour(const Look& look, COLORREF otherwise);
 
+  /// Lets the system draw a control without the style, or with it again.
+  void Leave_Out(HWND control, bool out);
+
   /// The user has changed the style.
   void Forget();
 
  private:
+  HMODULE Library();
   HANDLE Buttons();
 
   Library_Owner library_;

@@ -5,21 +5,25 @@
 namespace win32 {
 
 void Timers::Start(toolkit::Timer& timer) {
-  running_.push_back(&timer);
-  SetTimer(Window(), reinterpret_cast<UINT_PTR>(&timer), static_cast<UINT>(timer.Interval), nullptr);
+  running_.push_back({&timer, ++last_number_});
+  SetTimer(Window(), last_number_, static_cast<UINT>(timer.Interval), nullptr);
 }
 
 void Timers::Stop(toolkit::Timer& timer) {
-  KillTimer(Window(), reinterpret_cast<UINT_PTR>(&timer));
-  std::erase(running_, &timer);
+  const auto found =
+      std::find_if(running_.begin(), running_.end(), [&](const Running& running) { return running.Timer == &timer; });
+  if (found == running_.end()) return;
+  KillTimer(Window(), found->Number);
+  running_.erase(found);
 }
 
 bool Timers::Message(UINT message, WPARAM w) {
   if (message != WM_TIMER) return false;
-  auto* const timer = reinterpret_cast<toolkit::Timer*>(w);
-  // A tick may still be in the queue when its timer has been stopped.
-  const bool running = std::find(running_.begin(), running_.end(), timer) != running_.end();
-  if (running && timer->On_Tick) timer->On_Tick();
+  const auto found =
+      std::find_if(running_.begin(), running_.end(), [w](const Running& running) { return running.Number == w; });
+  if (found == running_.end()) return true;
+  const toolkit::Timer& timer = *found->Timer;
+  if (timer.On_Tick) timer.On_Tick();
   return true;
 }
 

@@ -19,7 +19,14 @@ class Timers final : private Hidden_Window {
  private:
   bool Message(UINT message, WPARAM w) override;
 
-  std::vector<toolkit::Timer*> running_;
+  struct Running {
+    toolkit::Timer* Timer;
+    UINT_PTR Number;
+  };
+
+  std::vector<Running> running_;
+  // Never used twice: a tick that is still in the queue when its timer has been stopped must not reach a later one.
+  UINT_PTR last_number_ = 0;
 };
 
 }  // namespace win32

@@ -26,10 +26,10 @@ bool Tip_Window::Make(HWND owner) {
   if (window_) return true;
   if (!controls_.Start()) return false;
   owner_ = owner;
-  window_.Reset(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0,
-                                0, 0, owner, nullptr, GetModuleHandleA(nullptr), nullptr));
+  window_.Reset(Made(CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
+                                     0, 0, 0, 0, owner, nullptr, GetModuleHandleA(nullptr), nullptr)));
   SendMessageA(window_.Get(), TTM_SETMAXTIPWIDTH, 0, widest_tip);
-  return static_cast<bool>(window_);
+  return true;
 }
 
 void Tip_Window::Watch(HWND owner, const RECT& place, const std::string& text) {

@@ -1,14 +1,15 @@
 // The toolkit's window system on Windows.
 #pragma once
 
+#include "win32/broadcasts.h"
 #include "win32/timers.h"
-#include "win32/window_context.h"
 
 namespace win32 {
 
 class Win32_Backend final : public toolkit::Backend {
  public:
-  explicit Win32_Backend(Window_Context& context) : context_(context), timers_(context.Instance, context.Guard) {}
+  explicit Win32_Backend(Window_Context& context)
+      : context_(context), broadcasts_(context), timers_(context.Instance, context.Guard) {}
 
   std::unique_ptr<toolkit::Form_Peer> Make_Peer(toolkit::Form& form) override;
   void Start_Timer(toolkit::Timer& timer) override { timers_.Start(timer); }
@@ -25,6 +26,7 @@ class Win32_Backend final : public toolkit::Backend {
 
  private:
   Window_Context& context_;
+  Broadcasts broadcasts_;
   Timers timers_;
 };
 

@@ -7,7 +7,7 @@
 #include <cstddef>
 
 #include "win32/behind_box.h"
-#include "win32/handle.h"
+#include "win32/system_library.h"
 
 namespace win32 {
 
@@ -38,7 +38,7 @@ OPENFILENAMEA As_The_System_Has_It(platform::File_Dialog_Record& record, HINSTAN
 }  // namespace
 
 bool Win32_File_Dialog::Call(platform::File_Dialog_Record& record, const char* function) const {
-  const Library_Owner dialogs(LoadLibraryA("comdlg32.dll"));
+  const Library_Owner dialogs = System_Library("comdlg32.dll");
   const auto show = Find_Function<BOOL WINAPI(OPENFILENAMEA*)>(dialogs.Get(), function);
   OPENFILENAMEA fields = As_The_System_Has_It(record, context_.Instance);
   if (show == nullptr || show(&fields) == 0) return false;

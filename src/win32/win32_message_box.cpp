@@ -53,6 +53,7 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
                                              platform::Box_Buttons buttons) {
   context_.Guard.Throw_If_Ending();
   context_.Windows.Settle();
+  context_.Common_Controls.Start();
   // Another box may be active; then it is the owner.
   const HWND active = Own_Active_Window();
   Program_Window* const active_form = context_.Windows.Around(active);

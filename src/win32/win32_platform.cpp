@@ -3,6 +3,7 @@
 #include <string>
 
 #include "basic/run_error.h"
+#include "win32/code_page.h"
 #include "win32/desktop.h"
 #include "win32/disk_files.h"
 #include "win32/instance_window.h"
@@ -10,6 +11,7 @@
 #include "win32/message_loop.h"
 #include "win32/registry_services.h"
 #include "win32/shell_launcher.h"
+#include "win32/system_library.h"
 #include "win32/system_pictures.h"
 #include "win32/system_profiles.h"
 #include "win32/user_locale.h"
@@ -61,16 +63,22 @@ std::string Report_Of(const std::exception_ptr& failure) {
   }
 }
 
-void Report(const std::exception_ptr& failure) {
+}  // namespace
+
+int Win32_Platform::Report_Failure(const std::exception_ptr& failure) {
   // A box closes at once if it finds the message to quit in the queue.
   MSG message;
   while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) continue;
+  Common_Controls controls;
+  controls.Start();
   MessageBoxA(nullptr, Report_Of(failure).c_str(), "Meridex", MB_OK | MB_ICONHAND | MB_SETFOREGROUND | MB_TASKMODAL);
+  return 1;
 }
 
-}  // namespace
-
-Win32_Platform::Win32_Platform(void* instance) : parts_(std::make_unique<Parts>(static_cast<HINSTANCE>(instance))) {}
+Win32_Platform::Win32_Platform(void* instance) {
+  Keep_To_System_Libraries();
+  parts_ = std::make_unique<Parts>(static_cast<HINSTANCE>(instance));
+}
 
 Win32_Platform::~Win32_Platform() = default;
 
@@ -80,11 +88,13 @@ platform::System& Win32_Platform::System() { return parts_->System; }
 
 int Win32_Platform::Run(const std::function<void()>& start) {
   Guard& guard = parts_->Context.Guard;
-  guard.Run(start);
+  guard.Run([&] {
+    Warn_Of_Utf8(GetACP(), parts_->Store, parts_->Message_Box);
+    start();
+  });
   parts_->Loop.Run();
   if (guard.Failure() == nullptr) return 0;
-  Report(guard.Failure());
-  return 1;
+  return Report_Failure(guard.Failure());
 }
 
 }  // namespace win32

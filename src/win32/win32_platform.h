@@ -1,6 +1,7 @@
 // The program on Windows: the toolkit's window system, the services, and the loop that they run in.
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <memory>
 
@@ -23,6 +24,9 @@ class Win32_Platform {
   /// Calls `start` and serves messages until the program quits. Returns the exit status: 0, or 1 if an exception ended
   /// the program, which is reported in a message box.
   int Run(const std::function<void()>& start);
+
+  /// Reports an exception that ends the program in a message box. Returns the exit status.
+  static int Report_Failure(const std::exception_ptr& failure);
 
  private:
   struct Parts;

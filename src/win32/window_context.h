@@ -25,6 +25,9 @@ class Program_Window {
   /// Shows all changes of the form since the last call.
   virtual void Settle() = 0;
 
+  /// Paints anew after a change of the system's colours (WM_SYSCOLORCHANGE) or of the style of all that is drawn.
+  virtual void Look_Changed(UINT message) = 0;
+
   /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this
   /// window: touch no member after calling one.**
   virtual bool Take_Key(const MSG& message) = 0;

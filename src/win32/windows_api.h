@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "basic/run_error.h"
 #include "platform/window_handle.h"
 
 namespace win32 {
@@ -17,6 +18,12 @@ inline HWND To_Window(platform::Window_Handle handle) { return reinterpret_cast<
 inline HWND Own_Active_Window() {
   const HWND active = GetActiveWindow();
   return active != nullptr && GetWindowThreadProcessId(active, nullptr) == GetCurrentThreadId() ? active : nullptr;
+}
+
+/// A window that the system was asked to make. Throws error 429 where it made none.
+inline HWND Made(HWND window) {
+  if (window == nullptr) throw basic::Run_Error(basic::Error_Number::No_Object);
+  return window;
 }
 
 /// A function of a library; nullptr if the library or the function is missing.

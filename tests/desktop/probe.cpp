@@ -4,11 +4,14 @@
 //   desktop_probe post WINDOW MESSAGE WPARAM LPARAM
 //   desktop_probe show TITLE   a window of that title, of a program that isn't the calendar; until it is closed or ended
 //   desktop_probe copy FILE    the file's bytes become the text of the clipboard
+//   desktop_probe modules PROGRAM   the paths of the libraries that the running programs of that name have loaded, a line each
 //   desktop_probe watch        the visible windows' places as often as they change, one JSON object a line, with the time in
 //                              milliseconds; until it is ended
 //
 // Texts are the bytes of the code page, each above 0x7E as \u00XX.
 #include <windows.h>
+
+#include <tlhelp32.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -114,6 +117,25 @@ int Watch() {
   }
 }
 
+void Print_Modules(DWORD process) {
+  const HANDLE modules = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, process);
+  MODULEENTRY32 module{};
+  module.dwSize = sizeof module;
+  for (BOOL any = Module32First(modules, &module); any != 0; any = Module32Next(modules, &module))
+    std::printf("%s\n", module.szExePath);
+  CloseHandle(modules);
+}
+
+int Modules(const char* program) {
+  const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+  PROCESSENTRY32 process{};
+  process.dwSize = sizeof process;
+  for (BOOL any = Process32First(processes, &process); any != 0; any = Process32Next(processes, &process))
+    if (lstrcmpiA(process.szExeFile, program) == 0) Print_Modules(process.th32ProcessID);
+  CloseHandle(processes);
+  return 0;
+}
+
 LRESULT CALLBACK Plain_Window(HWND window, UINT message, WPARAM w, LPARAM l) {
   if (message == WM_DESTROY) PostQuitMessage(0);
   return DefWindowProcA(window, message, w, l);
@@ -135,6 +157,7 @@ int Show(const char* title) {
 
 int main(int count, char** arguments) {
   if (count == 3 && std::strcmp(arguments[1], "copy") == 0) return Copy(arguments[2]);
+  if (count == 3 && std::strcmp(arguments[1], "modules") == 0) return Modules(arguments[2]);
   if (count == 3 && std::strcmp(arguments[1], "show") == 0) return Show(arguments[2]);
   if (count == 2 && std::strcmp(arguments[1], "watch") == 0) return Watch();
   if (count == 6 && std::strcmp(arguments[1], "post") == 0) {

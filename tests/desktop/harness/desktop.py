@@ -182,6 +182,11 @@ class Desktop:
     def foreign_window(self, title):
         return any(window["class"] == "Probe_Window" and window["text"] == title for window in self.probe())
 
+    def loaded_libraries(self):
+        """The names of the libraries that the program has loaded, in small letters."""
+        _, output = self.prefix.run(PROBE, "modules", PROGRAM)
+        return {line.strip().split("\\")[-1].lower() for line in output.decode("latin-1").splitlines()}
+
     def copy(self, path):
         """Puts the text of a file of the prefix on the clipboard."""
         status, _ = self.prefix.run(PROBE, "copy", path)

@@ -1,0 +1,72 @@
+// What the system tells top-level windows alone reaches the calendar inside another program's window too.
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include "win32/win32_backend.h"
+
+namespace {
+
+/// A window that lies in another one, as the calendar does in the shell's.
+class Child_Window final : public win32::Program_Window {
+ public:
+  explicit Child_Window(HWND parent) : parent_(parent) {}
+
+  [[nodiscard]] HWND Window() const override { return window_.Get(); }
+  [[nodiscard]] toolkit::Form& Form() const override { throw std::logic_error("no form"); }
+  void Settle() override {}
+  void Look_Changed(UINT message) override { Told.push_back(message); }
+  bool Take_Key(const MSG&) override { return false; }
+
+  [[nodiscard]] bool Told_Of(UINT message) const { return std::find(Told.begin(), Told.end(), message) != Told.end(); }
+
+  std::vector<UINT> Told;
+
+ private:
+  HWND parent_;
+  win32::Window_Owner window_{
+      CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 9, 9, parent_, nullptr, nullptr, nullptr)};
+};
+
+class Broadcasts_Test : public ::testing::Test {
+ protected:
+  Broadcasts_Test() { Context.Windows.Add(Calendar); }
+  ~Broadcasts_Test() override { SetSysColors(1, &menu, &Before); }
+
+  void Set_Menu_Colour(COLORREF colour) { SetSysColors(1, &menu, &colour); }
+
+  /// A pixel of the ground that a menu's bitmap was drawn on.
+  COLORREF Ground() {
+    const win32::Context_Owner context(CreateCompatibleDC(nullptr));
+    SelectObject(context.Get(), Context.Pictures.Menu_Bitmap(platform::Stock_Picture::Clear));
+    return GetPixel(context.Get(), 0, 0);
+  }
+
+  static constexpr int menu = COLOR_MENU;
+  const COLORREF Before = GetSysColor(menu);
+  win32::Window_Context Context{GetModuleHandleA(nullptr)};
+  win32::Win32_Backend Backend{Context};
+  win32::Window_Owner Shell{CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr)};
+  Child_Window Calendar{Shell.Get()};
+};
+
+}  // namespace
+
+TEST_F(Broadcasts_Test, An_embedded_window_hears_of_new_colours) {
+  Set_Menu_Colour(RGB(20, 40, 60));
+  EXPECT_TRUE(Calendar.Told_Of(WM_SYSCOLORCHANGE));
+}
+
+TEST_F(Broadcasts_Test, An_embedded_window_hears_of_a_new_style) {
+  constexpr UINT style_changed = 0x031A;  // WM_THEMECHANGED
+  SendMessageA(FindWindowA("Meridex_Broadcasts", nullptr), style_changed, 0, 0);
+  EXPECT_TRUE(Calendar.Told_Of(style_changed));
+}
+
+TEST_F(Broadcasts_Test, The_menus_bitmaps_stand_on_the_present_colour_of_the_menus) {
+  Set_Menu_Colour(RGB(20, 40, 60));
+  EXPECT_EQ(Ground(), RGB(20, 40, 60));
+  Set_Menu_Colour(RGB(200, 180, 160));
+  EXPECT_EQ(Ground(), RGB(200, 180, 160));
+}
