@@ -110,7 +110,7 @@ class Reading_The_Settings(Desktop_Test):
         self.assertFalse(ticks["Splash Screen"])
         self.assertTrue(ticks["Alert me when a date Comes up"])
         self.assertNotIn("Use Pack Style", ticks, "that is another page's")
-        self.assertEqual(settings.one(reader.DROP_DOWN, "Date:").value, "Weekday - d month - yyyy")
+        self.assertEqual(settings.one(reader.DROP_DOWN, "Date:").value, "d Month - yyyy")
         self.assertTrue(settings.one(reader.DROP_DOWN, "Compact Mode after").state & reader.UNAVAILABLE)
         self.assertIn("Title Bar", [group.name for group in settings.visible(reader.GROUP)])
         splash = settings.one(reader.CHECK_BOX, "Splash Screen")

@@ -1,6 +1,5 @@
 """What a screen reader in another process hears of the program's windows; see reader.cpp."""
 import json
-import tempfile
 
 from .desktop import BUILD
 from .geometry import Rect
@@ -70,12 +69,13 @@ class Reader:
 
     def listen(self):
         """Listens from now on; the result tells what has been heard of this window since."""
-        output = tempfile.TemporaryFile()
-        self.desktop.programs.append(self.desktop.prefix.start(READER, "listen", output=output))
+        path = self.desktop.folder / "heard.txt"
+        with path.open("wb") as output:
+            self.desktop.programs.append(self.desktop.prefix.start(READER, "listen", output=output))
 
         def heard():
-            output.seek(0)
-            return [json.loads(line) for line in output.read().decode("ascii").splitlines() if line.endswith("}")]
+            lines = path.read_text(encoding="ascii").splitlines()
+            return [json.loads(line) for line in lines if line.endswith("}")]
 
         wait_for(heard, "the listener")
         return lambda: [(event["event"], event["number"]) for event in heard() if event.get("window") == self.handle]
