@@ -5,6 +5,8 @@
 //   desktop_reader walk WINDOW           the names on the way from the first one to the last, each by the step to the next
 //   desktop_reader act WINDOW NAME       the default action of the visible thing of that name
 //   desktop_reader focus WINDOW NAME     gives it the focus
+//   desktop_reader hold WINDOW           holds on to it until it is gone, and then asks for its name: prints "held", and in the
+//                                        end the number of the error
 //   desktop_reader listen                each new name and new order that a window tells, one JSON object a line; until it
 //                                        is ended
 //
@@ -182,10 +184,19 @@ int Do(const Thing& window, const char* what, const char* name) {
   return done == S_OK ? 0 : 1;
 }
 
+int Hold(const Thing& thing, HWND window) {
+  constexpr DWORD longest = 60000;  // milliseconds
+  std::printf("\"held\"\n");
+  std::fflush(stdout);
+  for (const DWORD start = GetTickCount(); IsWindow(window) != 0 && GetTickCount() - start < longest;) Sleep(20);
+  BSTR name = nullptr;
+  std::printf("%lu\n", static_cast<unsigned long>(thing.Object->get_accName(thing.Number, &name)));
+  return 0;
+}
+
 void CALLBACK Print_Event(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG child, DWORD, DWORD) {
   if (object != OBJID_CLIENT || (event != EVENT_OBJECT_NAMECHANGE && event != EVENT_OBJECT_REORDER)) return;
-  std::printf("{\"event\":\"%s\",\"window\":%lld,\"number\":%ld}\n",
-              event == EVENT_OBJECT_REORDER ? "order" : "name",
+  std::printf("{\"event\":\"%s\",\"window\":%lld,\"number\":%ld}\n", event == EVENT_OBJECT_REORDER ? "order" : "name",
               static_cast<long long>(reinterpret_cast<LONG_PTR>(window)), child);
   std::fflush(stdout);
 }
@@ -206,10 +217,10 @@ int main(int count, char** arguments) {
   const std::string what = count > 1 ? arguments[1] : "";
   if (what == "listen") return Listen();
   if (count < 3) return 2;
+  const auto handle = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::atoll(arguments[2])));
   Thing window;
-  const HRESULT found = AccessibleObjectFromWindow(
-      reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::atoll(arguments[2]))), static_cast<DWORD>(OBJID_CLIENT),
-      __uuidof(IAccessible), reinterpret_cast<void**>(window.Object.Address()));
+  const HRESULT found = AccessibleObjectFromWindow(handle, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                                                   reinterpret_cast<void**>(window.Object.Address()));
   if (FAILED(found)) return 3;
   if (what == "read") {
     Print_Tree(window);
@@ -217,6 +228,7 @@ int main(int count, char** arguments) {
     return 0;
   }
   if (what == "walk") return Walk(window);
+  if (what == "hold") return Hold(window, handle);
   if (what == "hit" && count == 5) return Hit(window, std::atol(arguments[3]), std::atol(arguments[4]));
   if ((what == "act" || what == "focus") && count == 4) return Do(window, what.c_str(), arguments[3]);
   return 2;

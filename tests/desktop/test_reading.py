@@ -7,6 +7,8 @@ from harness.settings import Settings_Window
 from harness.waiting import wait_for
 
 LONG = "Dentist at nine, then the bank & the post office, and the train at half past six"
+FAILURE = 0x80000000  # errors of the system begin here
+NOT_CONNECTED = 0x800401FD
 EVENTS = ["8/3/2004=" + LONG.replace("&", "&&"), "9/3/9999=Birthday"]
 
 
@@ -84,6 +86,14 @@ class Reading_The_Calendar(Desktop_Test):
         day = next(day for day in heard.read().visible(reader.CELL) if day.name.endswith("Choir"))
         wait_for(lambda: ("name", day.number) in told(), "the news of the day's event")
 
+    def test_the_program_ends_in_order_though_a_reader_has_hold_of_it(self):
+        desktop, heard = self.started()
+        told = heard.hold()
+        instance = next(window for window in desktop.probe() if window["class"] == "Meridex_Instance")
+        desktop.post(instance["handle"], 16)  # WM_CLOSE
+        self.assertEqual(desktop.exit_status(desktop.programs[0]), 0)
+        self.assertGreaterEqual(wait_for(told, "the reader's error"), FAILURE)
+
     def test_in_compact_mode_the_title_alone_is_read(self):
         _, heard = self.started()
         heard.act(heard.read().one(reader.TEXT).name)
@@ -115,6 +125,13 @@ class Reading_The_Settings(Desktop_Test):
         self.assertIn("Title Bar", [group.name for group in settings.visible(reader.GROUP)])
         splash = settings.one(reader.CHECK_BOX, "Splash Screen")
         self.assert_near(splash.rect, window.place(1890, 360, 1635, 240, (0, 1305)), 1, "its place")
+
+    def test_a_reader_that_has_hold_of_a_closed_window_hears_that_it_is_gone(self):
+        window, heard = self.opened(3)
+        told = heard.hold()
+        window.desktop.screen.key("Escape")
+        window.gone()
+        self.assertEqual(wait_for(told, "the reader's error"), NOT_CONNECTED)
 
     def test_the_reader_turns_to_a_tab_and_ticks(self):
         _, heard = self.opened(3)

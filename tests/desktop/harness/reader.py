@@ -67,15 +67,25 @@ class Reader:
         status, _ = self._ask("focus", name)
         assert status == 0, f'no focus for "{name}"'
 
-    def listen(self):
-        """Listens from now on; the result tells what has been heard of this window since."""
+    def _start(self, *words):
+        """Starts a reader that goes on reading; the result gives the lines that it has printed so far."""
         path = self.desktop.folder / "heard.txt"
         with path.open("wb") as output:
-            self.desktop.programs.append(self.desktop.prefix.start(READER, "listen", output=output))
+            self.desktop.programs.append(self.desktop.prefix.start(READER, *words, output=output))
 
-        def heard():
-            lines = path.read_text(encoding="ascii").splitlines()
-            return [json.loads(line) for line in lines if line.endswith("}")]
+        def lines():
+            return [json.loads(line) for line in path.read_text(encoding="ascii").splitlines(True) if line.endswith("\n")]
 
-        wait_for(heard, "the listener")
+        wait_for(lines, "the reader's first line")
+        return lines
+
+    def hold(self):
+        """Holds on to the window until it is gone; the result gives the error by which the window is known to be gone, None
+        until then."""
+        lines = self._start("hold", str(self.handle))
+        return lambda: lines()[1] if len(lines()) > 1 else None
+
+    def listen(self):
+        """Listens from now on; the result tells what has been heard of this window since."""
+        heard = self._start("listen")
         return lambda: [(event["event"], event["number"]) for event in heard() if event.get("window") == self.handle]
