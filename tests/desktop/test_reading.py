@@ -32,6 +32,24 @@ class Reading_The_Calendar(Desktop_Test):
         for number, day in enumerate(days, 1):
             self.assertEqual(day.rect, desktop.box_rect(number), day.name)
 
+    def test_the_dates_are_in_the_users_language(self):
+        _, heard = self.started(language="de_DE")
+        days = heard.read().visible(reader.CELL)
+        self.assertEqual(days[0].name, "Montag, 1. M\u00e4rz 2004")
+        self.assertEqual(days[4].name, "Freitag, 5. M\u00e4rz 2004, today")
+
+    def test_under_the_desktops_own_window_it_is_read_as_well(self):
+        desktop, heard = self.started(shell=True)
+        days = heard.read().visible(reader.CELL)
+        self.assertEqual((len(days), days[7].name), (31, "Monday, 8 March 2004, " + LONG))
+        self.assertEqual(days[7].rect, desktop.box_rect(8))
+
+    def test_a_balloon_is_called_by_all_that_it_shows(self):
+        desktop, _ = self.started(settings={"Tooltips": 2})
+        desktop.screen.press(*desktop.caption_rect(9).centre)
+        wait_for(lambda: Reader(desktop).read().name == "4 days time, Birthday", "the balloon's name")
+        desktop.screen.release()
+
     def test_title_arrows_and_headers_are_read_where_they_stand(self):
         desktop, heard = self.started()
         calendar, layout = heard.read(), desktop.layout()

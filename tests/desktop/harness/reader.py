@@ -33,14 +33,20 @@ class Thing:
 
 
 class Reader:
-    """Reads a window of the program. The first one of its own kind that is visible, or the one of that title."""
+    """Reads a window of the program: the foremost one without a title, or the one whose title begins so."""
 
     def __init__(self, desktop, title=""):
         self.desktop = desktop
-        self.handle = wait_for(lambda: next((window["handle"] for window in desktop.probe()
-                                             if window["class"] == "Meridex_Form" and window["visible"] and
-                                             window["text"].startswith(title) and bool(window["text"]) == bool(title)),
-                                            None), f'a window "{title}" to read')
+        self._title = title
+        self.handle = wait_for(self._find, f'a window "{title}" to read')
+
+    def _find(self):
+        tops = self.desktop.probe()
+        for window in [*tops, *(child for top in tops if top["class"] == "Progman" for child in top["children"])]:
+            named = window["text"].startswith(self._title) and bool(window["text"]) == bool(self._title)
+            if window["class"] == "Meridex_Form" and window["visible"] and named:
+                return window["handle"]
+        return None
 
     def _ask(self, what, *words):
         status, output = self.desktop.prefix.run(READER, what, str(self.handle), *map(str, words))
