@@ -35,7 +35,7 @@ std::string Text_Before(const Control& control) {
 }
 
 std::string Name_Of(const Control& control) {
-  if (control.Accessible_Name) return control.Accessible_Name();
+  if (control.Accessible_Name) return In_One_Line(control.Accessible_Name());
   std::string name = control.Shown_Text();
   if (name.empty() && Entered(control.Kind())) name = Text_Before(control);
   return In_One_Line(name.empty() ? control.ToolTipText() : name);
@@ -88,7 +88,7 @@ double Distance(const Bounds& from, const Bounds& to, Way way) {
 Heard Hear(const Form& form) {
   Heard heard;
   heard.Role = form.Border == Form_Border::None ? Role::Window : Role::Dialog;
-  heard.Name = form.Accessible_Name ? form.Accessible_Name() : form.Caption();
+  heard.Name = In_One_Line(form.Accessible_Name ? form.Accessible_Name() : form.Caption());
   heard.Visible = Seen(form);
   heard.Available = form.Accepts_Input();
   heard.Focusable = true;

@@ -90,6 +90,11 @@ TEST_F(Spoken, An_event_is_heard_whole_however_little_of_it_has_room) {
   EXPECT_EQ(Days().at(4), "5 March 2004, today, Tea");
 }
 
+TEST_F(Spoken, An_event_of_several_lines_is_heard_as_one) {
+  Start({"8/3/2004=Dentist\r\nat nine"});
+  EXPECT_EQ(Days().at(7), "8 March 2004, Dentist at nine");
+}
+
 TEST_F(Spoken, An_event_of_every_year_is_heard_like_any_other) {
   Start({"9/3/9999=Birthday"});
   EXPECT_EQ(Days().at(8), "9 March 2004, Birthday");
