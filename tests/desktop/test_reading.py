@@ -83,6 +83,22 @@ class Reading_The_Calendar(Desktop_Test):
         days = heard.read().visible(reader.CELL)
         self.assertEqual((len(days), days[0].name), (30, "Thursday, 1 April 2004"))
 
+    def test_the_titles_new_time_is_told_by_the_titles_number(self):
+        desktop, heard = self.started(settings={"Bar Time": "True"})
+        title = heard.read().one(reader.TEXT)
+        told = heard.listen()
+        desktop.set_clock("2004-03-05 09:30:00")
+        wait_for(lambda: ("name", title.number) in told(), "the news of the title")
+        self.assertNotEqual(heard.read().one(reader.TEXT).name, title.name)
+
+    def test_at_midnight_another_day_is_heard_as_today(self):
+        desktop, heard = self.started()
+        told = heard.listen()
+        desktop.set_clock("2004-03-06 00:00:01")
+        wait_for(lambda: ("order", 0) in told(), "the news of the day")
+        days = [day.name for day in heard.read().visible(reader.CELL)]
+        self.assertEqual([day for day in days if "today" in day], ["Saturday, 6 March 2004, today"])
+
     def test_the_reader_opens_the_editor_and_reads_it(self):
         desktop, heard = self.started()
         heard.act("Monday, 8 March 2004, " + LONG)
