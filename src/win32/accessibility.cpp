@@ -1,20 +1,8 @@
 #include "win32/accessibility.h"
 
-#include <string>
 #include <utility>
 
 namespace win32 {
-
-namespace {
-
-std::wstring Wide(std::string_view text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size)));
-  return wide;
-}
-
-}  // namespace
 
 Accessibility::~Accessibility() {
   const auto uninitialise = Find_Function<void WINAPI()>(ole_.Get(), "CoUninitialize");

@@ -4,6 +4,8 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "platform/window_handle.h"
 
@@ -17,6 +19,14 @@ inline HWND To_Window(platform::Window_Handle handle) { return reinterpret_cast<
 inline HWND Own_Active_Window() {
   const HWND active = GetActiveWindow();
   return active != nullptr && GetWindowThreadProcessId(active, nullptr) == GetCurrentThreadId() ? active : nullptr;
+}
+
+/// A text of the system's code page for those parts of the system that know no code pages.
+inline std::wstring Wide(std::string_view text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size)));
+  return wide;
 }
 
 /// A function of a library; nullptr if the library or the function is missing.
