@@ -26,6 +26,7 @@ Splash_Frm::Splash_Frm(toolkit::Backend& backend, presentation::Main_Frm& main_f
   Label9.FontSize = 24.0;
   Label9.FontBold = true;
   Label9.Transparent = true;
+  Window.Accessible_Name = [this] { return Label9.Caption(); };
   Window.On_Load = [this] { Load(); };
   Window.On_Unload = [this] { start_timer_.Disable(); };
   Window.On_Close = [this] { Close(); };

@@ -18,7 +18,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
 
       alerts_(dates_, system.Message_Box, main_frm_.Window, stored_.Values, calendar_),
       grid_(main_frm_, placement_, alerts_, dates_, stored_.Values, calendar_),
-      title_(main_frm_, dates_, stored_.Values, calendar_),
+      spoken_month_(main_frm_, grid_, dates_, stored_.Values), title_(main_frm_, dates_, stored_.Values, calendar_),
       view_(grid_, title_, event_file_, colours_, dates_, calendar_),
       compact_(main_frm_, placement_, view_, dates_, stored_.Values, calendar_),
       edit_box_(editor_, event_file_, grid_, dates_, system.Message_Box, calendar_),

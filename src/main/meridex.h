@@ -5,6 +5,7 @@
 #include "calendar/box_mouse.h"
 #include "calendar/function_keys.h"
 #include "calendar/splash_frm.h"
+#include "calendar/spoken_month.h"
 #include "calendar/start_up.h"
 #include "platform/system.h"
 #include "settings_window/settings_opener.h"
@@ -48,6 +49,7 @@ class Meridex {
 
   calendar::Alerts alerts_;
   calendar::Month_Grid grid_;
+  calendar::Spoken_Month spoken_month_;
   calendar::Title_Text title_;
   calendar::Month_View view_;
   calendar::Compact compact_;

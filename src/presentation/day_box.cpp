@@ -26,6 +26,11 @@ void Day_Box::Write_Event(std::string_view text, const settings::Settings& setti
                           const state::Calendar_State& calendar) const {
   if (settings.Tooltips == settings::standard_tips) Set_Tips(basic::Single_Ampersands(text));
   DotDotDot(main_frm_, text, Caption, DDD_Style(settings, calendar));
+  main_frm_.Box_Event[static_cast<std::size_t>(Number.Index)] = text;
+}
+
+std::string Day_Box::Whole_Event() const {
+  return Caption.Caption == "" ? std::string() : main_frm_.Box_Event[static_cast<std::size_t>(Number.Index)];
 }
 
 void Day_Box::Clear_Event() const {

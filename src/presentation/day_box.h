@@ -34,6 +34,9 @@ class Day_Box {
   void Write_Event(std::string_view text, const settings::Settings& settings,
                    const state::Calendar_State& calendar) const;
 
+  /// The text of the event that the caption shows, however little of it has room; "&" is doubled.
+  [[nodiscard]] std::string Whole_Event() const;
+
   void Underline(bool on) const { Number.FontUnderline = on; }
   void Clear_Event() const;
   void Clear_Tips() const { Set_Tips(""); }

@@ -44,6 +44,8 @@ void Main_Frm::Make_Boxes() {
     caption.Place({left + 45, top + 270, 735, 600});
     caption.Alignment = toolkit::Alignment::Centre;
     caption.Transparent = true;
+    box.Accessible_Role = toolkit::Role::Cell;
+    caption.Heard_With = &box;
   }
 }
 
@@ -52,11 +54,16 @@ void Main_Frm::Clear_Tooltips() {
 }
 
 void Main_Frm::Make_Title_Row() {
-  for (int i = 0; i < days_of_week; ++i) Day_Lbl[i].Place({90.0 + i * 900, 450, 825, 285});
+  for (int i = 0; i < days_of_week; ++i) {
+    Day_Lbl[i].Place({90.0 + i * 900, 450, 825, 285});
+    Day_Lbl[i].Accessible_Role = toolkit::Role::Column_Header;
+  }
   Prev_Month_Lbl.Place({90, 90, 285, 285});
   Prev_Month_Lbl.Caption = "<";
   Next_Month_Lbl.Place({6030, 90, 285, 285});
   Next_Month_Lbl.Caption = ">";
+  for (toolkit::Label* const arrow : {&Prev_Month_Lbl, &Next_Month_Lbl})
+    arrow->Accessible_Role = toolkit::Role::Push_Button;
   Which_Month_Lbl.Place({495, 90, 5435, 285});
   for (toolkit::Label* const label : title_row_) {
     Set_Title_Font(*label);

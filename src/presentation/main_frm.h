@@ -28,7 +28,8 @@ class Main_Frm {
   toolkit::Control_Array<toolkit::Label> Box_Caption_Lbl;  ///< the event of each box
   toolkit::Control_Array<toolkit::Label> Day_Lbl;          ///< the weekday headers
   toolkit::Label Prev_Month_Lbl, Which_Month_Lbl, Next_Month_Lbl;
-  toolkit::Label DotDotDot_Lbl;  ///< hidden: holds the whole text of the event that was fitted last
+  toolkit::Label DotDotDot_Lbl;                  ///< hidden: holds the whole text of the event that was fitted last
+  std::array<std::string, box_count> Box_Event;  ///< the whole text of the event that each box showed last
   toolkit::Picture_Box Clear_Pic, File_Pic, Settings_Pic, Exit_Pic;  ///< hidden: the day box menu's bitmaps
 
   /// Box i of the grid. Throws error 9 for a number outside 0 to 36.

@@ -92,6 +92,7 @@ void Colours_Tab::Make_Samples() {
     slot.Sample.Opaque = true;
     slot.Sample.Fixed_Border = true;
     slot.Sample.MousePointer = toolkit::Pointer::Cross_Hair;
+    slot.Sample.Heard_With = &slot.Label;
   }
 }
 
@@ -115,8 +116,10 @@ void Colours_Tab::Make_Title_Row_Frame() {
 void Colours_Tab::Make_Palette_Frame() {
   Make_Frame(Frame3, {3375, 2250, 1770, 1590}, "Select Colour");
   Pal.Place({135, 315, 1545, 810});
+  Pal.Call_It("Palette");
   Pal.MousePointer = toolkit::Pointer::Cross_Hair;
   lbColor.Place({135, 1170, 1500, 285});
+  lbColor.Call_It("Colour under the pointer");
   lbColor.Opaque = true;
   lbColor.Fixed_Border = true;
   lbColor.MousePointer = toolkit::Pointer::Cross_Hair;

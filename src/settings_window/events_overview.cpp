@@ -69,6 +69,7 @@ void Events_Overview::Place_Controls() {
   Countdown_Lbl.Alignment = toolkit::Alignment::Right;
   Dates_Lst.Place({135, 645, 1215, 2400});
   Dates_Lst.Visible = false;
+  Events_Lst.Call_It("Events");
   Events_Lst.Place({135, 645, 4875, 2400});
 }
 

@@ -65,6 +65,7 @@ void General_Tab::Make_Title_Frame() {
   Bar_Preview_Lbl.Mnemonics = false;
   Bar_Time_Chk.Place({90, 830, 690, 210});
   Bar_Time_Chk.Caption = "Time:";
+  Bar_Time_Cbo.Call_It("Time format");
   Bar_Time_Cbo.Place({765, 765, 1320, 330});
   Label2.Place({2250, 825, 420, 195});
   Label2.Caption = "Date:";
@@ -90,6 +91,8 @@ void General_Tab::Make_General_Frame() {
   make(Carriage_Return_Chk, {135, 1440, 4875, 240}, "Don't close the event window with a Carriage Return.");
   make(Allow_Dragging_Chk, {135, 1800, 4875, 240}, "Allow dragging when Manual Position is not selected");
   make(Auto_Compact_Chk, {135, 2160, 3345, 240}, "Switch into Compact Mode after");
+  Timeout_Value_Cbo.Call_It("Compact Mode after");
+  Timeout_Format_Cbo.Call_It("Unit of time");
   Timeout_Value_Cbo.Place({3330, 2115, 645, 330});
   Timeout_Value_Cbo.Enabled = false;
   Timeout_Format_Cbo.Place({4005, 2115, 1050, 330});

@@ -54,6 +54,8 @@ void Style_Tab::Make_Position_Frame() {
   Frame4.Caption = "Position";
   Theme_Pos_Chk.Place({225, 405, 2850, 210});
   Theme_Pos_Chk.Caption = "Use Pack Postion when available";
+  Vertical_Sli.Call_It("Place from top to bottom");
+  Horizontal_Sli.Call_It("Place from left to right");
   Vertical_Sli.Place({270, 720, 435, 1680});
   Horizontal_Sli.Place({720, 2655, 2265, 480});
   Pos_Manual_Opt.Place({225, 3285, 1455, 240});
@@ -71,6 +73,9 @@ void Style_Tab::Make_Style_Frame() {
   Frame6.Caption = "Box Style";
   Theme_Style_Chk.Place({180, 405, 1545, 285});
   Theme_Style_Chk.Caption = "Use Pack Style";
+  Style3_Opt.Call_It("Small boxes");
+  Style1_Opt.Call_It("Square boxes");
+  Style2_Opt.Call_It("Thin boxes");
   Style3_Opt.Place({90, 1080, 285, 285});
   Style3_Opt.Value = true;
   Style1_Opt.Place({90, 2160, 285, 285});

@@ -41,6 +41,9 @@ void Wallpaper_Page::Place() {
 }
 
 void Wallpaper_Page::Write_Captions() {
+  Packs_Cbo.Call_It("Wallpaper pack");
+  Preview_Sli.Call_It("Month of the preview");
+  Display_Cbo.Call_It("Display mode");
   Theme_Use_Chk.Caption = "Use Meridex Wallpaper Packs....";
   Preview_Btn.Caption = "Preview";
   Loading_Lbl.Caption = "Loading...";

@@ -26,6 +26,8 @@ class Check_Box : public Control, public Font_Properties {
   void Key_Up(const Key& key) override;
   void Show_Held(bool held) override { Held = held; }
   [[nodiscard]] const std::string* Caption_With_Accelerator() const override { return &Caption(); }
+  [[nodiscard]] Role Kind() const override { return Role::Check_Box; }
+  [[nodiscard]] Button_Marks Marks() const override { return {Value == 1, Held, false}; }
 };
 
 }  // namespace toolkit

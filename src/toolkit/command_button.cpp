@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "toolkit/form.h"
+
 namespace toolkit {
 
 Command_Button::Command_Button(const Container& container, std::string name, int index)
@@ -10,6 +12,8 @@ Command_Button::Command_Button(const Container& container, std::string name, int
 void Command_Button::User_Click() {
   if (Usable() && On_View()) Control::User_Click();
 }
+
+Button_Marks Command_Button::Marks() const { return {false, Held, Window.Enter_Button() == this}; }
 
 bool Command_Button::Key_Down(const Key& key) {
   if (key.Code != key_space) return false;

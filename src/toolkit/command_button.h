@@ -27,6 +27,8 @@ class Command_Button : public Control, public Font_Properties {
   void Key_Up(const Key& key) override;
   void Show_Held(bool held) override { Held = held; }
   [[nodiscard]] const std::string* Caption_With_Accelerator() const override { return &Caption(); }
+  [[nodiscard]] Role Kind() const override { return Role::Push_Button; }
+  [[nodiscard]] Button_Marks Marks() const override;
 };
 
 }  // namespace toolkit

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "toolkit/accelerator.h"
 #include "toolkit/form.h"
 #include "toolkit/frame.h"
 
@@ -50,6 +51,11 @@ bool Control::Usable() const { return Enabled && (In == nullptr || In->Usable())
 
 void Control::User_Click() {
   if (On_Click) On_Click();
+}
+
+std::string Control::Shown_Text() const {
+  const std::string* const caption = Caption_With_Accelerator();
+  return caption != nullptr ? Without_Marks(*caption) : std::string();
 }
 
 void Control::Changed(Aspect aspect) { Window.Control_Changed(*this, aspect); }

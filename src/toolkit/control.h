@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "toolkit/accessible.h"
 #include "toolkit/colour.h"
 #include "toolkit/geometry.h"
 #include "toolkit/keys.h"
@@ -52,7 +53,7 @@ class Length {
   Axis axis_;
 };
 
-class Control : public Property_Owner {
+class Control : public Property_Owner, public Accessible {
  public:
   /// Joins its window after the controls that are already there, and so lies on top of them. `index` is the place in a
   /// control array, -1 for a control that stands alone. A frame must outlive what lies in it.
@@ -121,6 +122,9 @@ class Control : public Property_Owner {
 
   /// The caption in which "&" marks an accelerator; nullptr if it has none.
   [[nodiscard]] virtual const std::string* Caption_With_Accelerator() const { return nullptr; }
+
+  /// The caption without its marks.
+  [[nodiscard]] std::string Shown_Text() const override;
 
  private:
   friend class Length;

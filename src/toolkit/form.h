@@ -34,6 +34,9 @@ class Form : public Property_Owner, public Font_Properties {
   Property<int> Outline_Corner{*this, Aspect::Appearance, 0};  ///< corners of a rounded outline, pixels; 0 for none
   Scale_Unit Scale = Scale_Unit::Twips;  ///< the unit in which the controls' lengths read and write
 
+  /// What a screen reader calls the window, asked only when one asks; without it the caption.
+  std::function<std::string()> Accessible_Name;
+
   std::function<void()> On_Load, On_Activate, On_Deactivate, On_Unload, On_Resize, On_Click, On_Close;
   std::function<void(int code)> On_Key_Up;  ///< with the virtual key code
 

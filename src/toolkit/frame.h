@@ -16,6 +16,7 @@ class Frame : public Control, public Font_Properties {
   void Changed(Aspect aspect) override;
 
   [[nodiscard]] const std::string* Caption_With_Accelerator() const override { return Bordered ? &Caption() : nullptr; }
+  [[nodiscard]] Role Kind() const override { return Role::Group; }
 };
 
 }  // namespace toolkit

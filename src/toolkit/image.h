@@ -14,6 +14,8 @@ class Image : public Control {
  public:
   using Control::Control;
 
+  [[nodiscard]] Role Kind() const override { return Role::Picture; }
+
   Property<platform::Stock_Picture> Picture{*this, Aspect::Appearance, platform::Stock_Picture::None};
   Property<platform::Shared_Picture> Loaded{*this, Aspect::Appearance};  ///< in place of the one above, if not empty
   Property<bool> Fixed_Border{*this, Aspect::Appearance};                ///< a single line around it

@@ -2,23 +2,12 @@
 #include <algorithm>
 
 #include "basic/text.h"
+#include "toolkit/accelerator.h"
 #include "toolkit/command_button.h"
 #include "toolkit/form.h"
 #include "toolkit/input.h"
 
 namespace toolkit {
-
-namespace {
-
-/// The character that "&" marks in a caption as its accelerator, as a capital; 0 if there is none.
-char Accelerator_Of(std::string_view caption) {
-  for (std::size_t at = caption.find('&'); at != std::string_view::npos && at + 1 < caption.size();
-       at = caption.find('&', at + 2))
-    if (caption[at + 1] != '&') return basic::Upper_Case(caption.substr(at + 1, 1)).front();
-  return 0;
-}
-
-}  // namespace
 
 bool Input::Key_Down(Form& form, const Key& key) {
   if (!form.Accepts_Input()) return false;

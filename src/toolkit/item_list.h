@@ -68,6 +68,12 @@ class List_Box : public Item_List {
  public:
   explicit List_Box(const Container& container, std::string name, Order order = Order::As_Added, int index = -1);
 
+  [[nodiscard]] Role Kind() const override { return Role::List; }
+  [[nodiscard]] int Part_Count() const override { return ListCount(); }
+  [[nodiscard]] std::string Part_Text(int part) const override { return List(part); }
+  [[nodiscard]] int Selected_Part() const override { return ListIndex(); }
+  void Select_Part(int part) override { User_Select(part); }
+
  private:
   [[nodiscard]] int Page() const override;
 };
@@ -76,6 +82,9 @@ class List_Box : public Item_List {
 class Combo_Box : public Item_List {
  public:
   explicit Combo_Box(const Container& container, std::string name, int index = -1);
+
+  [[nodiscard]] Role Kind() const override { return Role::Drop_Down; }
+  [[nodiscard]] std::optional<std::string> Shown_Value() const override { return Text(); }
 
  private:
   [[nodiscard]] int Page() const override;

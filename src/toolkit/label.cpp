@@ -19,18 +19,6 @@ void Label::Changed(Aspect aspect) {
 
 const std::string* Label::Caption_With_Accelerator() const { return Mnemonics ? &Caption() : nullptr; }
 
-/// The caption without its marks: of "&&" one "&" is drawn, and of an "&" before another character none.
-std::string Label::Shown_Text() const {
-  const std::string& caption = Caption;
-  if (!Mnemonics) return caption;
-  std::string shown;
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    if (caption[i] == '&' && ++i == caption.size()) break;
-    shown += caption[i];
-  }
-  return shown;
-}
-
 void Label::Size_To_Text() {
   sized_for_width_ = In_Twips().Width;
   const Font font{FontName, FontSize, FontBold, FontItalic, FontUnderline};

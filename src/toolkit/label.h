@@ -36,10 +36,10 @@ class Label : public Control, public Font_Properties {
   void Changed(Aspect aspect) override;
 
   [[nodiscard]] const std::string* Caption_With_Accelerator() const override;
+  [[nodiscard]] std::string Shown_Text() const override { return Mnemonics ? Control::Shown_Text() : Caption(); }
 
  private:
   void Size_To_Text();
-  [[nodiscard]] std::string Shown_Text() const;
 
   double sized_for_width_ = 0, sized_height_ = 0;  // twips
 };

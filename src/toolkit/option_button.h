@@ -33,6 +33,8 @@ class Option_Button : public Control, public Font_Properties {
   void Key_Up(const Key& key) override;
   void Show_Held(bool held) override { Held = held; }
   [[nodiscard]] const std::string* Caption_With_Accelerator() const override { return &Caption(); }
+  [[nodiscard]] Role Kind() const override { return Role::Option_Button; }
+  [[nodiscard]] Button_Marks Marks() const override { return {Value, Held, false}; }
 
  private:
   [[nodiscard]] std::vector<Option_Button*> Group() const;

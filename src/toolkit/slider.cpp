@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "basic/convert.h"
+
 namespace toolkit {
 
 Slider::Slider(const Container& container, std::string name, int least, int most, Slide direction)
@@ -24,6 +26,8 @@ void Slider::User_Scroll(int value) {
 void Slider::User_Release() {
   if (std::exchange(value_before_drag_, Value) != Value && On_Change) On_Change();
 }
+
+std::optional<std::string> Slider::Shown_Value() const { return basic::To_Text(Value()); }
 
 void Slider::Changed(Aspect aspect) {
   if (aspect == Aspect::Value) Value.Keep(std::clamp(Value(), Min, Max));

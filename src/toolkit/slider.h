@@ -34,6 +34,8 @@ class Slider : public Control {
   void Changed(Aspect aspect) override;
 
   [[nodiscard]] bool Takes_Focus() const override { return true; }
+  [[nodiscard]] Role Kind() const override { return Role::Slider; }
+  [[nodiscard]] std::optional<std::string> Shown_Value() const override;
   [[nodiscard]] bool Double_Clicks() const override { return false; }
   bool Key_Down(const Key& key) override;
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "toolkit/accelerator.h"
+
 namespace toolkit {
 
 Tab_Strip::Tab_Strip(const Container& container, std::string name, std::vector<std::string> captions)
@@ -12,6 +14,8 @@ Tab_Strip::Tab_Strip(const Container& container, std::string name, std::vector<s
 void Tab_Strip::User_Select(int tab) {
   if (On_View() && Usable()) Selected = std::clamp(tab, 1, static_cast<int>(Captions.size()));
 }
+
+std::string Tab_Strip::Part_Text(int part) const { return Without_Marks(Captions[static_cast<std::size_t>(part)]); }
 
 void Tab_Strip::Changed(Aspect aspect) {
   Control::Changed(aspect);

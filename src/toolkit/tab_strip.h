@@ -25,6 +25,11 @@ class Tab_Strip : public Control, public Font_Properties {
   void Changed(Aspect aspect) override;
 
   [[nodiscard]] bool Takes_Focus() const override { return true; }
+  [[nodiscard]] Role Kind() const override { return Role::Tabs; }
+  [[nodiscard]] int Part_Count() const override { return static_cast<int>(Captions.size()); }
+  [[nodiscard]] std::string Part_Text(int part) const override;
+  [[nodiscard]] int Selected_Part() const override { return Selected - 1; }
+  void Select_Part(int part) override { User_Select(part + 1); }
   bool Key_Down(const Key& key) override;
 };
 

@@ -26,6 +26,8 @@ class Text_Box : public Control, public Font_Properties {
   void Changed(Aspect aspect) override;
 
   [[nodiscard]] bool Takes_Focus() const override { return true; }
+  [[nodiscard]] Role Kind() const override { return Role::Text_Box; }
+  [[nodiscard]] std::optional<std::string> Shown_Value() const override { return Text(); }
 
   /// Selects the whole text, as in every dialog.
   void Focused_By_Key() override;

@@ -52,6 +52,8 @@ void Frm_Balloon::Make_Controls() {
 }
 
 void Frm_Balloon::Tie_Events() {
+  // It takes the keys as a whole, so that a reader that follows them tells all of it.
+  Window.Accessible_Name = [this] { return lblTitle.Caption() + ", " + lblText.Shown_Text(); };
   Window.On_Load = [this] { Load(); };
   Window.On_Unload = [this] { Unload(); };
   Window.On_Resize = [this] { Resize(); };

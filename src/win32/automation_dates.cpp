@@ -15,13 +15,6 @@ using basic::Run_Error;
 constexpr std::int64_t micros_of_a_second = 1'000'000;
 constexpr std::int64_t seconds_of_a_day = 86400;
 
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size)));
-  return wide;
-}
-
 /// The fraction of such a number is the time whatever the sign of the day is.
 basic::Moment Moment_Of_Number(double number) {
   const double day = std::trunc(number);

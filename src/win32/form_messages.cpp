@@ -55,6 +55,8 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
     case WM_CAPTURECHANGED: Capture_Changed(reinterpret_cast<HWND>(l)); return true;
     case WM_ACTIVATE: return Active_Changed(LOWORD(w) != WA_INACTIVE);
     case WM_WINDOWPOSCHANGED: Place_Changed(*reinterpret_cast<const WINDOWPOS*>(l)); return false;
+    case WM_GETOBJECT: return accessible_.Answer(w, l, result);
+    case reader_wishes: accessible_.Do(w, l); return true;
     case WM_CLOSE: form_.Close_Requested(); return true;
     case check_tip: {
       tip_check_posted_ = false;

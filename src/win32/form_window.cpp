@@ -73,7 +73,11 @@ void Form_Window::Register_Class(HINSTANCE instance) {
 }
 
 Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
-    : form_(form), context_(context), place_(Wanted_Place()), surface_(form, context), tip_(context.Common_Controls) {
+    : form_(form), context_(context), place_(Wanted_Place()), surface_(form, context), tip_(context.Common_Controls),
+      accessible_(form, context.Scale, context.Accessibility, [this](const toolkit::Control& control) {
+        const Native_Control* const native = Native(control);
+        return native != nullptr ? native->Window() : nullptr;
+      }) {
   Register_Class(context.Instance);
   const Frame_Style frame = Style_Of(form.Border);
   window_.Reset(Made(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
@@ -198,6 +202,7 @@ void Form_Window::Settle() {
   if (std::exchange(cut_, false)) Settle_Region();
   if (std::exchange(natives_changed_, false)) Settle_Natives();
   surface_.Settle();
+  accessible_.Settle();
 }
 
 void Form_Window::Settle_Natives() {
@@ -265,6 +270,7 @@ void Form_Window::Control_Changed(toolkit::Control& control, toolkit::Aspect asp
   } else {
     surface_.Changed(control, aspect);
   }
+  accessible_.Changed(control, aspect);
   if (aspect == Bounds || aspect == Visible || aspect == Tool_Tip) Tips_Changed();
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "toolkit/form.h"
+#include "win32/accessible_form.h"
 #include "win32/form_surface.h"
 #include "win32/native_control.h"
 #include "win32/tip_window.h"
@@ -92,6 +93,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   Brush_Owner ground_;  // behind the native controls
   COLORREF ground_colour_ = 0;
   Tip_Window tip_;
+  Accessible_Form accessible_;
   // What is to be settled.
   bool moved_ = false, cut_ = false, natives_changed_ = true;
   Region_Owner new_region_;

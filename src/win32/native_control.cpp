@@ -5,7 +5,8 @@
 namespace win32 {
 
 Native_Control::Native_Control(HWND parent, toolkit::Control& control, Window_Context& context)
-    : parent_(parent), control_(control), context_(context), tip_(context.Common_Controls) {}
+    : parent_(parent), control_(control), context_(context), tip_(context.Common_Controls),
+      accessible_(*this, context.Accessibility) {}
 
 // The window itself is destroyed with its parent. Until then it is the system's own control again.
 Native_Control::~Native_Control() {
@@ -33,12 +34,14 @@ LRESULT CALLBACK Native_Control::Procedure(HWND window, UINT message, WPARAM w, 
   if (self == nullptr) return DefWindowProcA(window, message, w, l);
   const WNDPROC procedure = self->procedure_;
   bool taken = false;
+  LRESULT result = 0;
   self->context_.Guard.Run([&] {
     if (message == WM_SETFOCUS) self->control_.Window.System().Input.Focus_Came(self->control_);
     if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK) self->Follow_Tip(message, w, l);
-    taken = self->Intercept(message, w, l);
+    if (message == WM_GETOBJECT) taken = self->accessible_.Answer(w, l, result);
+    else taken = self->Intercept(message, w, l);
   });
-  return taken ? 0 : CallWindowProcA(procedure, window, message, w, l);
+  return taken ? result : CallWindowProcA(procedure, window, message, w, l);
 }
 
 void Native_Control::Follow_Tip(UINT message, WPARAM w, LPARAM l) {

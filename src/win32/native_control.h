@@ -7,6 +7,7 @@
 
 #include "toolkit/control.h"
 #include "toolkit/label.h"
+#include "win32/accessible_native.h"
 #include "win32/tip_window.h"
 #include "win32/window_context.h"
 
@@ -34,6 +35,9 @@ class Native_Control {
   virtual void Scrolled(WORD /*code*/) {}
   virtual void Notified(UINT /*code*/) {}
   virtual void Draw(const DRAWITEMSTRUCT& /*item*/) {}
+
+  /// The place of a part of a list or a strip of tabs, in pixels of the window; empty for any other control.
+  [[nodiscard]] virtual RECT Part_Place(int /*part*/) const { return {}; }
 
   /// Whether the keys are the system's at this moment.
   [[nodiscard]] virtual bool Keeps_Keys() const { return false; }
@@ -88,6 +92,7 @@ class Native_Control {
   WNDPROC procedure_ = nullptr;
   RECT place_{};
   Tip_Window tip_;
+  Accessible_Native accessible_;
 };
 
 /// The system's control for a control of the toolkit; nullptr for a kind that the form's window paints itself.

@@ -69,6 +69,12 @@ void Native_List_Box::Show_Widest(int pixels) {
   Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(pixels + margins));
 }
 
+RECT Native_List_Box::Part_Place(int part) const {
+  RECT place = {};
+  Send(LB_GETITEMRECT, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(&place));
+  return place;
+}
+
 void Native_List_Box::Command(WORD code) {
   // A click on the entry that was selected before changes nothing to the system, and clicks all the same.
   const bool picked = code == LBN_SELCHANGE || code == static_cast<WORD>(LBN_SELCANCEL);

@@ -45,6 +45,7 @@ class Native_List_Box final : public Native_Item_List {
   Native_List_Box(HWND parent, toolkit::List_Box& list, Window_Context& context);
 
   void Command(WORD code) override;
+  [[nodiscard]] RECT Part_Place(int part) const override;
 
  private:
   void Show_Widest(int pixels) override;

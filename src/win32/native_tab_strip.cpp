@@ -23,6 +23,12 @@ void Native_Tab_Strip::Show_Tabs() {
   }
 }
 
+RECT Native_Tab_Strip::Part_Place(int part) const {
+  RECT place = {};
+  Send(TCM_GETITEMRECT, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(&place));
+  return place;
+}
+
 void Native_Tab_Strip::Show_Selected() {
   const int place = strip_.Selected - 1;
   if (Send(TCM_GETCURSEL) != place) Send(TCM_SETCURSEL, static_cast<WPARAM>(place));

@@ -12,6 +12,7 @@ class Native_Tab_Strip final : public Native_Control {
   Native_Tab_Strip(HWND parent, toolkit::Tab_Strip& strip, Window_Context& context);
 
   void Notified(UINT code) override;
+  [[nodiscard]] RECT Part_Place(int part) const override;
 
  private:
   void Show(toolkit::Aspect aspect) override;

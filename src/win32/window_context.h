@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "win32/accessibility.h"
 #include "win32/common_controls.h"
 #include "win32/guard.h"
 #include "win32/painter.h"
@@ -68,6 +69,7 @@ struct Window_Context {
   win32::Painter Painter{{Fonts, Pictures, Themes}};
   win32::Common_Controls Common_Controls;
   win32::Pointers Pointers;
+  win32::Accessibility Accessibility;
   Window_List Windows;
 
   /// The active window, as far as the system's messages have reported it; nullptr if it isn't one of ours.

@@ -4,6 +4,8 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "basic/run_error.h"
 #include "platform/window_handle.h"
@@ -24,6 +26,14 @@ inline HWND Own_Active_Window() {
 inline HWND Made(HWND window) {
   if (window == nullptr) throw basic::Run_Error(basic::Error_Number::No_Object);
   return window;
+}
+
+/// A text of the system's code page for those parts of the system that know no code pages.
+inline std::wstring Wide(std::string_view text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size)));
+  return wide;
 }
 
 /// A function of a library; nullptr if the library or the function is missing.

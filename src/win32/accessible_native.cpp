@@ -1,0 +1,57 @@
+#include "win32/accessible_native.h"
+
+#include "win32/accessible_form.h"
+#include "win32/native_control.h"
+
+namespace win32 {
+
+HWND Accessible_Native::Window() const { return native_.Window(); }
+
+int Accessible_Native::Count() const { return native_.Control().Part_Count(); }
+
+toolkit::Heard Accessible_Native::Hear(int number) const {
+  return number > 0 ? toolkit::Hear_Part(native_.Control(), number - 1) : toolkit::Hear(native_.Control());
+}
+
+RECT Accessible_Native::Place(int number) const {
+  RECT place;
+  if (number == 0) {
+    GetWindowRect(Window(), &place);
+    return place;
+  }
+  place = native_.Part_Place(number - 1);
+  MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+int Accessible_Native::At(POINT on_screen) const {
+  ScreenToClient(Window(), &on_screen);
+  for (int part = 0; part < Count(); ++part) {
+    const RECT place = native_.Part_Place(part);
+    if (PtInRect(&place, on_screen) != 0) return part + 1;
+  }
+  return 0;
+}
+
+/// The parts follow each other, whichever way the reader goes.
+int Accessible_Native::Beside(int number, toolkit::Way way) const {
+  using enum toolkit::Way;
+  const bool back = way == Previous || way == Left || way == Up;
+  if (number == 0) return back ? Count() : (Count() > 0 ? 1 : 0);
+  return back ? number - 1 : (number < Count() ? number + 1 : 0);
+}
+
+int Accessible_Native::Focused() const {
+  if (!toolkit::Hear(native_.Control()).Focused) return -1;
+  return Selected();
+}
+
+int Accessible_Native::Selected() const { return native_.Control().Selected_Part() + 1; }
+
+IDispatch* Accessible_Native::Parent() const { return Services().Object_Of(GetParent(Window()), OBJID_CLIENT); }
+
+void Accessible_Native::Fulfil(int number, Wish wish) const {
+  Accessible_Form::Fulfil(&native_.Control(), number - 1, wish);
+}
+
+}  // namespace win32

@@ -1,0 +1,211 @@
+// What screen readers get from the windows in their own process: the objects by themselves.
+#include "tests/win32/window_on_screen.h"
+#include "toolkit/check_box.h"
+#include "toolkit/item_list.h"
+#include "toolkit/tab_strip.h"
+#include "toolkit/text_box.h"
+#include "win32/accessible_object.h"
+
+namespace {
+
+struct Release_Object {
+  void operator()(IAccessible* object) const noexcept { object->Release(); }
+};
+using Object = win32::Owner<IAccessible*, Release_Object>;
+
+VARIANT Numbered(LONG number) {
+  VARIANT variant = {};
+  variant.vt = VT_I4;
+  variant.lVal = number;
+  return variant;
+}
+
+class Readers : public Window_On_Screen {
+ protected:
+  Readers() {
+    Title.Place({150, 150, 3000, 300});
+    Title.Caption = "Caf\xE9";
+    Box.Place({150, 600, 3000, 300});
+    Box.Caption = "&Every year";
+    List.Place({150, 1050, 2000, 1800});
+    Strip.Place({2500, 1050, 3000, 1800});
+    Text.Place({150, 3000, 3000, 900});
+    for (const char* const item : {"one", "two", "three"}) List.Add_Item(item);
+    Show();
+  }
+
+  /// Without a service of the system's, as the windows of a program that no reader has asked.
+  static bool Loaded() { return GetModuleHandleA("oleacc.dll") != nullptr; }
+
+  Object Read(HWND window) {
+    EXPECT_TRUE(Services.Start());
+    return Object(static_cast<IAccessible*>(Services.Object_Of(window, OBJID_CLIENT)));
+  }
+
+  static std::string Name(const Object& object, LONG number = 0) {
+    BSTR text = nullptr;
+    if (object.Get()->get_accName(Numbered(number), &text) != S_OK) return "none";
+    std::string name;
+    for (const wchar_t* at = text; *at != 0; ++at) name += static_cast<char>(*at);
+    return name;
+  }
+
+  static LONG State(const Object& object, LONG number = 0) {
+    VARIANT state = {};
+    return object.Get()->get_accState(Numbered(number), &state) == S_OK ? state.lVal : -1;
+  }
+
+  static RECT Place(const Object& object, LONG number = 0) {
+    long left = 0, top = 0, width = 0, height = 0;
+    object.Get()->accLocation(&left, &top, &width, &height, Numbered(number));
+    return {left, top, left + width, top + height};
+  }
+
+  static LONG At_Middle_Of(const Object& object, const RECT& place) {
+    VARIANT hit = {};
+    const HRESULT found =
+        object.Get()->accHitTest((place.left + place.right) / 2, (place.top + place.bottom) / 2, &hit);
+    return found == S_OK && hit.vt == VT_I4 ? hit.lVal : -1;
+  }
+
+  toolkit::Label Title{Window, "Title"};                             // 1
+  toolkit::Check_Box Box{Window, "Box"};                             // 2
+  toolkit::List_Box List{Window, "List"};                            // 3
+  toolkit::Tab_Strip Strip{Window, "Strip", {"Events", "Colours"}};  // 4
+  toolkit::Text_Box Text{Window, "Text"};                            // 5
+  win32::Accessibility Services;
+};
+
+}  // namespace
+
+TEST_F(Readers, Nothing_is_loaded_until_one_asks_for_the_window) {
+  EXPECT_FALSE(Loaded());
+  EXPECT_EQ(SendMessageA(Handle(), WM_GETOBJECT, 0, OBJID_WINDOW), 0) << "all else is the system's own affair";
+  EXPECT_EQ(SendMessageA(Child("Button"), WM_GETOBJECT, 0, OBJID_WINDOW), 0);
+  EXPECT_FALSE(Loaded());
+  EXPECT_NE(SendMessageA(Handle(), WM_GETOBJECT, 0, OBJID_CLIENT), 0);
+  EXPECT_TRUE(Loaded());
+}
+
+TEST_F(Readers, The_number_asked_for_may_come_with_its_sign_extended_or_not) {
+  constexpr auto number = static_cast<DWORD>(OBJID_CLIENT);
+  EXPECT_NE(SendMessageA(Handle(), WM_GETOBJECT, 0, static_cast<LPARAM>(number)), 0);
+  EXPECT_NE(SendMessageA(Handle(), WM_GETOBJECT, 0, static_cast<LPARAM>(OBJID_CLIENT)), 0);
+}
+
+TEST_F(Readers, A_name_comes_in_the_letters_of_the_code_page) {
+  const Object window = Read(Handle());
+  EXPECT_EQ(Name(window, 1), "Caf\xE9");
+  EXPECT_EQ(Name(window, 2), "Every year");
+}
+
+TEST_F(Readers, What_isnt_there_is_an_invalid_number) {
+  const Object window = Read(Handle());
+  BSTR text = nullptr;
+  EXPECT_EQ(window.Get()->get_accName(Numbered(6), &text), E_INVALIDARG);
+  EXPECT_EQ(window.Get()->get_accName(Numbered(-1), &text), E_INVALIDARG);
+  EXPECT_EQ(window.Get()->get_accName(VARIANT{}, &text), E_INVALIDARG);
+}
+
+TEST_F(Readers, Only_a_control_of_the_systems_own_has_an_object_of_its_own) {
+  const Object window = Read(Handle());
+  IDispatch* child = nullptr;
+  EXPECT_EQ(window.Get()->get_accChild(Numbered(1), &child), S_FALSE);
+  ASSERT_EQ(window.Get()->get_accChild(Numbered(2), &child), S_OK);
+  const Object box(static_cast<IAccessible*>(child));
+  EXPECT_EQ(Name(box), "Every year");
+  IDispatch* parent = nullptr;
+  ASSERT_EQ(box.Get()->get_accParent(&parent), S_OK);
+  const Object back(static_cast<IAccessible*>(parent));
+  EXPECT_EQ(back.Get(), window.Get()) << "it lies in the window that gave it";
+}
+
+TEST_F(Readers, A_control_tells_its_own_window) {
+  const Object box = Read(Child("Button"));
+  IOleWindow* ole_window = nullptr;
+  ASSERT_EQ(box.Get()->QueryInterface(__uuidof(IOleWindow), reinterpret_cast<void**>(&ole_window)), S_OK);
+  HWND window = nullptr;
+  EXPECT_EQ(ole_window->GetWindow(&window), S_OK);
+  EXPECT_EQ(window, Child("Button"));
+  ole_window->Release();
+}
+
+TEST_F(Readers, A_tick_is_read_as_it_changes) {
+  const Object box = Read(Child("Button"));
+  EXPECT_EQ(State(box) & STATE_SYSTEM_CHECKED, 0);
+  EXPECT_EQ(box.Get()->accDoDefaultAction(Numbered(0)), S_OK);
+  Wait(50);
+  EXPECT_EQ(Box.Value(), 1);
+  EXPECT_NE(State(box) & STATE_SYSTEM_CHECKED, 0);
+}
+
+TEST_F(Readers, The_focus_is_told_as_the_object_that_has_it) {
+  const Object window = Read(Handle());
+  Window.Set_Focus(Box);
+  VARIANT focused = {};
+  ASSERT_EQ(window.Get()->get_accFocus(&focused), S_OK);
+  ASSERT_EQ(focused.vt, VT_DISPATCH);
+  const Object box(static_cast<IAccessible*>(focused.pdispVal));
+  EXPECT_EQ(Name(box), "Every year");
+  EXPECT_NE(State(box) & STATE_SYSTEM_FOCUSED, 0);
+}
+
+TEST_F(Readers, A_lists_items_are_read_found_and_chosen) {
+  const Object list = Read(Child("ListBox"));
+  long count = 0;
+  list.Get()->get_accChildCount(&count);
+  EXPECT_EQ(count, 3);
+  EXPECT_EQ(Name(list, 2), "two");
+  const RECT place = Place(list, 2);
+  EXPECT_GT(place.bottom - place.top, 8);
+  EXPECT_EQ(At_Middle_Of(list, place), 2);
+  EXPECT_EQ(list.Get()->accSelect(SELFLAG_TAKESELECTION, Numbered(2)), S_OK);
+  Wait(50);
+  EXPECT_EQ(List.ListIndex(), 1);
+  EXPECT_NE(State(list, 2) & STATE_SYSTEM_SELECTED, 0);
+}
+
+TEST_F(Readers, Tabs_are_read_found_and_turned_to) {
+  const Object strip = Read(Child("SysTabControl32"));
+  EXPECT_EQ(Name(strip, 2), "Colours");
+  EXPECT_EQ(At_Middle_Of(strip, Place(strip, 2)), 2);
+  EXPECT_EQ(strip.Get()->accDoDefaultAction(Numbered(2)), S_OK);
+  Wait(50);
+  EXPECT_EQ(Strip.Selected(), 2);
+  VARIANT selected = {};
+  ASSERT_EQ(strip.Get()->get_accSelection(&selected), S_OK);
+  EXPECT_EQ(selected.lVal, 2);
+}
+
+TEST_F(Readers, The_steps_through_the_window_lead_from_the_first_to_the_last) {
+  const Object window = Read(Handle());
+  VARIANT to = {};
+  ASSERT_EQ(window.Get()->accNavigate(NAVDIR_FIRSTCHILD, Numbered(0), &to), S_OK);
+  EXPECT_EQ(to.lVal, 1);
+  ASSERT_EQ(window.Get()->accNavigate(NAVDIR_NEXT, Numbered(1), &to), S_OK);
+  ASSERT_EQ(to.vt, VT_DISPATCH);
+  const Object box(static_cast<IAccessible*>(to.pdispVal));
+  EXPECT_EQ(Name(box), "Every year");
+  EXPECT_EQ(window.Get()->accNavigate(NAVDIR_PREVIOUS, Numbered(1), &to), S_FALSE);
+}
+
+TEST_F(Readers, What_was_held_of_a_window_that_has_gone_answers_that_it_isnt_connected) {
+  const Object window = Read(Handle());
+  const Object box = Read(Child("Button"));
+  Window.Unload();
+  for (IAccessible* const held : {window.Get(), box.Get()}) {
+    IAccessible& object = *held;
+    VARIANT answer = {};
+    long number = 0;
+    BSTR text = nullptr;
+    IDispatch* other = nullptr;
+    EXPECT_EQ(object.get_accName(Numbered(0), &text), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.get_accState(Numbered(0), &answer), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.get_accChildCount(&number), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.get_accChild(Numbered(1), &other), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.get_accParent(&other), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.get_accFocus(&answer), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.accHitTest(200, 200, &answer), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(object.accDoDefaultAction(Numbered(0)), CO_E_OBJNOTCONNECTED);
+  }
+}
