@@ -1,7 +1,6 @@
 """A desktop whose places are beyond 16 bits of twips: the calendar asks once whether it shall work on such desktops."""
-from harness.desktop import Desktop_Test
+from harness.desktop import Desktop_Test, record
 from harness.hands import Editor, wait_for_file
-from harness.desktop import record
 
 LARGE = (2560, 1440)
 ADVICE = ("Your desktop is larger than this calendar was first made for.\r\n\r\n"
