@@ -30,7 +30,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
       hold_(desk_, event_file_, balloons_, waits_, stored_.Values, calendar_),
       box_mouse_(main_frm_, placement_, desk_, menus_, hold_),
       function_keys_(main_frm_, desk_, dates_, event_file_, system.Message_Box, stored_),
-      date_watch_(backend, desk_, embedding_, dates_),
+      date_watch_(backend, desk_, embedding_, dates_, stored_.Desktop),
       start_up_(system.Instances, stored_, desk_, embedding_, date_watch_, run_at_startup_),
       settings_opener_(backend, system,
                        {desk_, dates_, date_watch_, main_frm_, event_file_, pack_lookup_, pack_browser_, stored_,

@@ -1,8 +1,17 @@
 #include "presentation/desktop_embedding.h"
 
+#include <string>
 #include <utility>
 
 namespace presentation {
+
+namespace {
+
+// Made once: the tick asks for some of them, and allocates nothing.
+const std::string top_class = "Progman", top_caption = "Program Manager", worker_class = "WorkerW";
+const std::string view_class = "SHELLDLL_DefView", list_class = "SysListView32";
+
+}  // namespace
 
 Desktop_Embedding::Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& main_frm,
                                      const settings::Settings& settings, state::Calendar_State& calendar,
@@ -11,7 +20,7 @@ Desktop_Embedding::Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& m
       show_splash_(std::move(show_splash)) {}
 
 void Desktop_Embedding::No_ShowDesktop_and_IconColours() {
-  progman_hwnd_ = shell_.Find_Top_Window("Progman", "Program Manager");
+  progman_hwnd_ = shell_.Find_Top_Window(top_class, top_caption);
   if (progman_hwnd_ == 0) return;
   if (settings_.Show_Splash == 1) show_splash_();
   Find_Icons();
@@ -22,16 +31,16 @@ void Desktop_Embedding::No_ShowDesktop_and_IconColours() {
 void Desktop_Embedding::Find_Icons() {
   iconlist_hwnd_ = 0;
   icons_top_hwnd_ = progman_hwnd_;
-  defview_hwnd_ = shell_.Find_Child(progman_hwnd_, "SHELLDLL_DefView");
+  defview_hwnd_ = shell_.Find_Child(progman_hwnd_, view_class);
   if (defview_hwnd_ == 0) {
     icons_top_hwnd_ = 0;
     do {
-      icons_top_hwnd_ = shell_.Find_Next_Top_Window(icons_top_hwnd_, "WorkerW");
+      icons_top_hwnd_ = shell_.Find_Next_Top_Window(icons_top_hwnd_, worker_class);
       if (icons_top_hwnd_ == 0) return;
-      defview_hwnd_ = shell_.Find_Child(icons_top_hwnd_, "SHELLDLL_DefView");
+      defview_hwnd_ = shell_.Find_Child(icons_top_hwnd_, view_class);
     } while (defview_hwnd_ == 0);
   }
-  iconlist_hwnd_ = shell_.Find_Child(defview_hwnd_, "SysListView32");
+  iconlist_hwnd_ = shell_.Find_Child(defview_hwnd_, list_class);
 }
 
 bool Desktop_Embedding::Enter_Desktop() {
@@ -46,14 +55,14 @@ bool Desktop_Embedding::Enter_Desktop() {
 
 bool Desktop_Embedding::Embedded() const {
   return embedded_ != 0 && embedded_ == main_frm_.Window.Handle() && shell_.Exists(iconlist_hwnd_) &&
-         shell_.Find_Child(icons_top_hwnd_, "SHELLDLL_DefView") == defview_hwnd_;
+         shell_.Find_Child(icons_top_hwnd_, view_class) == defview_hwnd_;
 }
 
 bool Desktop_Embedding::Embed_Again() {
   if (Embedded()) return false;
   embedded_ = 0;
   iconlist_hwnd_ = 0;
-  progman_hwnd_ = shell_.Find_Top_Window("Progman", "Program Manager");
+  progman_hwnd_ = shell_.Find_Top_Window(top_class, top_caption);
   if (progman_hwnd_ == 0) return false;
   Find_Icons();
   return Enter_Desktop();
