@@ -48,6 +48,12 @@ std::unique_ptr<basic::Output_File> Posix_Files::Create(const std::string&) {
   throw Run_Error(Error_Number::Path_File_Access);
 }
 
+void Posix_Files::Check_Writing(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
+bool Posix_Files::Move_Over(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
+void Posix_Files::Rename(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
 void Posix_Files::Delete(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
 void Posix_Files::Copy(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }

@@ -18,6 +18,9 @@ class Posix_Files final : public platform::Files {
   bool Folder_Exists(const std::string& path) override;
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
+  void Check_Writing(const std::string& path) override;
+  bool Move_Over(const std::string& from, const std::string& to) override;
+  void Rename(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
   basic::Moment Last_Change(const std::string& path) override;

@@ -98,7 +98,7 @@ class Calendar {
   template <class Work>
   void With_Event_File(Work&& work) {
     basic::File_Channel channel(platform_.Files);
-    events::Event_File file(platform_.Files, channel, platform_.Message_Box, state_);
+    events::Event_File file(platform_.Files, channel, platform_.Message_Box, state_, settings_.Desktop);
     work(file);
   }
 

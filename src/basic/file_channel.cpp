@@ -20,9 +20,9 @@ std::string_view File_Channel::Open_For_Reading(const std::string& path) {
   return buffer_;
 }
 
-void File_Channel::Open_For_Writing(const std::string& path) {
+void File_Channel::Open_For_Writing(const std::string& path, Saving how) {
   if (taken_) throw Run_Error(Error_Number::File_Already_Open);
-  output_ = disk_.Create(path);
+  output_ = how == Saving::Beside ? disk_.Create_Beside(path) : disk_.Create(path);
   Take(path);
   buffer_.clear();
   record_ends_.clear();
@@ -64,6 +64,7 @@ void File_Channel::Go_Back_To(std::size_t size) {
 
 void File_Channel::Close() {
   Write_Out();
+  if (output_ != nullptr) output_->Finish();
   output_.reset();
   taken_ = false;
 }

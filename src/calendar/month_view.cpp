@@ -14,6 +14,7 @@ void Month_View::Build_First_Month() {
 }
 
 void Month_View::Fill_First_Month() {
+  event_file_.Recover();
   Load_Dates();
   title_.Write();
   grid_.Set_Day_Headers();

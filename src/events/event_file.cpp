@@ -14,9 +14,13 @@ constexpr const char* saving_failed = "Error saving data file.";
 }  // namespace
 
 Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
-                       const state::Calendar_State& calendar)
-    : files_(files), channel_(channel), message_box_(message_box), calendar_(calendar),
+                       const state::Calendar_State& calendar, const settings::Desktop_Mode& desktop)
+    : files_(files), channel_(channel), message_box_(message_box), calendar_(calendar), desktop_(desktop),
       path_(files.Program_Folder() + "\\calendar.dat") {}
+
+void Event_File::Recover() {
+  if (desktop_.Modern()) files_.Recover(path_);
+}
 
 void Event_File::Load_File() {
   if (!Exists()) return;
@@ -83,7 +87,7 @@ void Event_File::Check_For_Pre(const std::string& text, const Day_Event& editor)
 
 void Event_File::Write_ALL() {
   try {
-    channel_.Open_For_Writing(path_);
+    channel_.Open_For_Writing(path_, Saving());
     Write_Temp_Lst();
     channel_.Close();
   } catch (const basic::Run_Error&) {
@@ -94,7 +98,7 @@ void Event_File::Write_ALL() {
 void Event_File::Write_New_Line(const Day_Event& editor) {
   if (editor.Text.empty()) return;
   try {
-    channel_.Open_For_Writing(path_);
+    channel_.Open_For_Writing(path_, Saving());
     Write_Temp_Lst();
     channel_.Write_Record(Key_To_Write(editor.Every_Year) + "=" + editor.Text);
     channel_.Close();

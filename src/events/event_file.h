@@ -1,5 +1,6 @@
 // All reading and writing of calendar.dat. The file is read whole whenever a month is drawn and written whole whenever
-// an event changes.
+// an event changes: in its place, or with the user's consent to today's desktops beside it, so that a power cut leaves the
+// old file or the new one.
 //
 // To change an event, set Selected_Date, call Load_File, then Check_For_Pre. A failure of the file is reported in a
 // message box. If it comes after a successful open, the one file number stays taken, so that every later open fails
@@ -12,6 +13,7 @@
 #include "events/temp_lst.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
+#include "settings/desktop_mode.h"
 #include "state/calendar_state.h"
 
 namespace events {
@@ -26,7 +28,15 @@ struct Day_Event {
 class Event_File {
  public:
   Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
-             const state::Calendar_State& calendar);
+             const state::Calendar_State& calendar, const settings::Desktop_Mode& desktop);
+
+  /// Called once, at the start, before the file is looked for.
+  void Recover();
+
+  /// How the file is to be written, also by an import.
+  [[nodiscard]] basic::Saving Saving() const {
+    return desktop_.Modern() ? basic::Saving::Beside : basic::Saving::In_Place;
+  }
 
   /// Fills Temp_Lst from the file. If there is no file, Temp_Lst keeps what it holds.
   void Load_File();
@@ -68,6 +78,7 @@ class Event_File {
   basic::File_Channel& channel_;
   platform::Message_Box& message_box_;
   const state::Calendar_State& calendar_;
+  const settings::Desktop_Mode& desktop_;
   const std::string path_;
   Temp_List temp_lst_;
 };

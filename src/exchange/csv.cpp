@@ -137,6 +137,7 @@ void Csv::Backup_Data() {
 void Csv::Restore_Data() {
   const std::string backup = Backup_Path();
   if (!transfer_.Files.File_Exists(backup)) return;
+  if (event_file_.Saving() == basic::Saving::Beside) return transfer_.Files.Replace(backup, event_file_.Path());
   transfer_.Copy(backup, event_file_.Path());
   transfer_.Files.Delete(backup);
 }
@@ -144,7 +145,7 @@ void Csv::Restore_Data() {
 void Csv::Merge_Imported() {
   event_file_.Load_File();
   const Busy busy(transfer_.Window.System());
-  Line_Merge lines(event_file_.Temp_Lst(), transfer_.Channel, event_file_.Path());
+  Line_Merge lines(event_file_.Temp_Lst(), transfer_.Channel, event_file_.Path(), event_file_.Saving());
   const toolkit::List_Box& staged = lists_.Events();
   const basic::Int16 count = staged.ListCount();
   for (basic::Int16 i = 0; i < count; i += 1) {

@@ -62,7 +62,7 @@ void Data_Files::Import_Data() {
     if (!transfer_.Choose_Input(data_in, event_file_.Path())) return;
     const bool meant = !event_file_.Exists() || Replacing_Is_Meant();
     if (!transfer_.Window.Loaded()) return;
-    if (meant) transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path());
+    if (meant) transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path(), event_file_.Saving());
     desk_.Rebuild_Boxes();
     // Said of a refusal too.
     transfer_.Tell_With_File("Successfully imported data file from...");

@@ -20,8 +20,9 @@ std::string In_Every_Year(const std::string& date_key) {
 
 }  // namespace
 
-Line_Merge::Line_Merge(events::Temp_List& lines, basic::File_Channel& channel, const std::string& path)
-    : lines_(lines), channel_(channel), path_(path) {
+Line_Merge::Line_Merge(events::Temp_List& lines, basic::File_Channel& channel, const std::string& path,
+                       basic::Saving how)
+    : lines_(lines), channel_(channel), path_(path), how_(how) {
   for (basic::Int16 i = 0; i < lines_.Count(); i += 1) Note_Key(i.Value());
 }
 
@@ -62,7 +63,7 @@ void Line_Merge::Write_Temp_Lst(int first_changed) {
   if (open_) {
     channel_.Go_Back_To(starts_[static_cast<std::size_t>(first_changed)]);
   } else {
-    channel_.Open_For_Writing(path_);
+    channel_.Open_For_Writing(path_, how_);
     open_ = true;
     starts_ = {0};
     first_changed = 0;

@@ -1,4 +1,5 @@
-// The merging of imported events into the lines of calendar.dat, one after the other. The file holds all lines after each.
+// The merging of imported events into the lines of calendar.dat, one after the other. The file holds all lines after each; one
+// that is written beside the old file takes its place when all have come.
 #pragma once
 
 #include <limits>
@@ -15,7 +16,7 @@ namespace exchange {
 class Line_Merge {
  public:
   /// Nobody else may touch the lines, or use the file number, as long as this is at work.
-  Line_Merge(events::Temp_List& lines, basic::File_Channel& channel, const std::string& path);
+  Line_Merge(events::Temp_List& lines, basic::File_Channel& channel, const std::string& path, basic::Saving how);
 
   /// The first line of the day, be it dated or of every year, gets the text behind what it has; where there is none, the
   /// event becomes a new line. Then the file is as the lines are. The key is a date such as 5/3/2004. Throws error 5 for a
@@ -36,6 +37,7 @@ class Line_Merge {
   events::Temp_List& lines_;
   basic::File_Channel& channel_;
   const std::string path_;
+  const basic::Saving how_;
   std::unordered_map<std::string, int> first_of_key_;  // the first line of each date as it stands in the lines
   int first_without_date_ = none;
   std::vector<std::size_t> starts_;  // where in the file each line's record begins, and the next one would

@@ -57,9 +57,10 @@ bool Transfer::Check_Extension(std::string_view extension) const {
                               extension);
 }
 
-void Transfer::Copy(const std::string& from, const std::string& to) {
+void Transfer::Copy(const std::string& from, const std::string& to, basic::Saving how) {
   if (Channel.Holds(from) || Channel.Holds(to)) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
-  Files.Copy(from, to);
+  if (how == basic::Saving::Beside) Files.Copy_Over(from, to);
+  else Files.Copy(from, to);
 }
 
 void Transfer::Tell(const std::string& text) { Ask(text, Box_Icon::Information, Box_Buttons::OK); }

@@ -38,7 +38,7 @@ class Transfer {
   [[nodiscard]] bool Check_Extension(std::string_view extension) const;
 
   /// As platform::Files::Copy; the file that the file number is taken by can't be copied, nor copied over: error 70.
-  void Copy(const std::string& from, const std::string& to);
+  void Copy(const std::string& from, const std::string& to, basic::Saving how = basic::Saving::In_Place);
 
   void Tell(const std::string& text);
   /// The text, and below it the full name of the file.

@@ -9,7 +9,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
       pack_lookup_(system.Files, channel_, system.Pictures, system.Message_Box, stored_, set_wallpaper_),
       wallpaper_(pack_lookup_, set_wallpaper_, registry_, system.Clock, stored_.Values, calendar_),
       pack_browser_(system.Files, system.Pictures, registry_),
-      event_file_(system.Files, channel_, system.Message_Box, calendar_),
+      event_file_(system.Files, channel_, system.Message_Box, calendar_, stored_.Desktop),
 
       main_frm_(backend), placement_(main_frm_, system.Screen, system.Message_Box, stored_, calendar_),
       colours_(main_frm_, stored_.Values, calendar_), splash_(backend, main_frm_, [this] { Quit_After_Last_Window(); }),
@@ -30,7 +30,7 @@ Meridex::Meridex(toolkit::Backend& backend, const platform::System& system)
       hold_(desk_, event_file_, balloons_, waits_, stored_.Values, calendar_),
       box_mouse_(main_frm_, placement_, desk_, menus_, hold_),
       function_keys_(main_frm_, desk_, dates_, event_file_, system.Message_Box, stored_),
-      date_watch_(backend, desk_, embedding_, dates_),
+      date_watch_(backend, desk_, embedding_, dates_, stored_.Desktop),
       start_up_(system.Instances, stored_, desk_, embedding_, date_watch_, run_at_startup_),
       settings_opener_(backend, system,
                        {desk_, dates_, date_watch_, main_frm_, event_file_, pack_lookup_, pack_browser_, stored_,

@@ -60,7 +60,7 @@ class Memory_Files::Writer : public basic::Output_File {
 
   std::size_t Write(std::string_view bytes) override {
     Entry* const target = Target();
-    if (target == nullptr || target->Full) return 0;
+    if (target == nullptr || files_.Full(key_)) return 0;
     target->Bytes += bytes;
     target->Changed = files_.time_.Now();
     return bytes.size();
@@ -164,6 +164,39 @@ std::vector<std::string> Memory_Files::Names(const std::string& folder, bool of_
   return names;
 }
 
+void Memory_Files::Check_Writing(const std::string& path) {
+  Check_Place(path);
+  Check_No_Writer(path);
+}
+
+bool Memory_Files::Move_Over(const std::string& from, const std::string& to) {
+  Move(from, to);
+  return true;
+}
+
+void Memory_Files::Rename(const std::string& from, const std::string& to) {
+  if (Folder_Exists(to)) throw Run_Error(Error_Number::Path_File_Access);
+  Move(from, to);
+}
+
+void Memory_Files::Move(const std::string& from, const std::string& to) {
+  Check_Writing(from);
+  Check_Writing(to);
+  const Entry* const source = Find(from);
+  if (source == nullptr) throw Run_Error(Error_Number::File_Not_Found);
+  Entry moved = *source;
+  moved.Name = Last_Name(Tidy(to));
+  entries_.erase(Key_Of(from));
+  entries_[Key_Of(to)] = std::move(moved);
+}
+
+bool Memory_Files::Full(const std::string& key) const {
+  const std::string beside = Folded(Name_Beside(""));
+  const bool of_another = key.ends_with(beside);
+  const auto found = entries_.find(of_another ? key.substr(0, key.size() - beside.size()) : key);
+  return found != entries_.end() && found->second.Full;
+}
+
 void Memory_Files::Delete(const std::string& path) {
   Check_Place(path);
   Check_No_Writer(path);
@@ -182,6 +215,7 @@ void Memory_Files::Copy(const std::string& from, const std::string& to) {
     entries_.erase(Key_Of(to));
     throw Run_Error(Error_Number::Disk_Full);
   }
+  if (target == nullptr && !source->Bytes.empty() && Full(Key_Of(to))) throw Run_Error(Error_Number::Disk_Full);
   Entry& copy = Make_File(to);
   copy.Bytes = source->Bytes;
   copy.Changed = source->Changed;

@@ -25,6 +25,9 @@ class Memory_Files : public platform::Files {
   bool Folder_Exists(const std::string& path) override;
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
+  void Check_Writing(const std::string& path) override;
+  bool Move_Over(const std::string& from, const std::string& to) override;
+  void Rename(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
   basic::Moment Last_Change(const std::string& path) override;
@@ -51,8 +54,8 @@ class Memory_Files : public platform::Files {
   /// Puts a folder in the file's place, so that the path can't be opened: error 75.
   void Block(const std::string& path);
 
-  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes. A copy over it
-  /// may be as long as the file is now.
+  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes, and neither does
+  /// a new one that is to take its place. A copy over it may be as long as the file is now.
   void Fill_Up(const std::string& path);
 
   struct Listed {
@@ -79,6 +82,8 @@ class Memory_Files : public platform::Files {
   [[nodiscard]] const Entry* Find(std::string_view path) const;
   Entry* Find(std::string_view path);
   Entry& Make_File(const std::string& path);
+  void Move(const std::string& from, const std::string& to);
+  [[nodiscard]] bool Full(const std::string& key) const;
   void Check_Place(const std::string& path) const;
   void Check_No_Writer(const std::string& path) const;
 

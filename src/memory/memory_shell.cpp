@@ -6,35 +6,56 @@
 
 namespace memory {
 
-namespace {
+using platform::Window_Handle;
 
-// The handle of each window is `base` plus its place in the chain.
-constexpr platform::Window_Handle base = 0x10000;
-constexpr platform::Window_Handle progman = base + static_cast<platform::Window_Handle>(Shell_Chain::Progman);
-constexpr platform::Window_Handle def_view = base + static_cast<platform::Window_Handle>(Shell_Chain::Def_View);
-constexpr platform::Window_Handle icon_list = base + static_cast<platform::Window_Handle>(Shell_Chain::Icon_List);
-
-}  // namespace
-
-bool Memory_Shell::Exists(platform::Window_Handle window) const {
-  return window > base && window <= base + static_cast<platform::Window_Handle>(chain_);
+// The handle of each window is its number in its life of the shell.
+Window_Handle Memory_Shell::Handle_Of(Part part) const {
+  return static_cast<Window_Handle>(0x10000 + life_ * 16 + static_cast<int>(part));
 }
 
-platform::Window_Handle Memory_Shell::Find_Top_Window(const std::string& window_class, const std::string& caption) {
+bool Memory_Shell::Exists(Window_Handle window) {
+  const auto last = [this] {
+    switch (chain_) {
+      case Shell_Chain::None: return Window_Handle{};
+      case Shell_Chain::Progman: return Handle_Of(Part::Progman);
+      case Shell_Chain::Def_View: return Handle_Of(Part::Def_View);
+      case Shell_Chain::Icon_List: return Handle_Of(Part::Icon_List);
+    }
+    return Window_Handle{};
+  };
+  return window >= Handle_Of(worker_ ? Part::First_Worker : Part::Progman) && window <= last();
+}
+
+Window_Handle Memory_Shell::If_There(Part part) { return Exists(Handle_Of(part)) ? Handle_Of(part) : 0; }
+
+Window_Handle Memory_Shell::Find_Top_Window(const std::string& window_class, const std::string& caption) {
   const bool wanted = Same_Name(window_class, "Progman") && Same_Name(caption, "Program Manager");
-  return wanted && Exists(progman) ? progman : 0;
+  return wanted ? If_There(Part::Progman) : 0;
 }
 
-platform::Window_Handle Memory_Shell::Find_Child(platform::Window_Handle parent, const std::string& window_class) {
-  const bool is_view = parent == progman && Same_Name(window_class, "SHELLDLL_DefView");
-  const bool is_list = parent == def_view && Same_Name(window_class, "SysListView32");
-  const platform::Window_Handle child = is_view ? def_view : is_list ? icon_list : 0;
-  return Exists(child) ? child : 0;
+Window_Handle Memory_Shell::Find_Next_Top_Window(Window_Handle after, const std::string& window_class) {
+  if (!Same_Name(window_class, "WorkerW")) return 0;
+  if (after == 0) return If_There(Part::First_Worker);
+  return after == Handle_Of(Part::First_Worker) ? If_There(Part::Second_Worker) : 0;
 }
 
-int Memory_Shell::Send(platform::Window_Handle window, unsigned message, int parameter) {
+Window_Handle Memory_Shell::Find_Child(Window_Handle parent, const std::string& window_class) {
+  if (parent == Handle_Of(Holder_Of_View()) && Same_Name(window_class, "SHELLDLL_DefView"))
+    return If_There(Part::Def_View);
+  if (parent == Handle_Of(Part::Def_View) && Same_Name(window_class, "SysListView32")) return If_There(Part::Icon_List);
+  return 0;
+}
+
+bool Memory_Shell::Set_Parent(Window_Handle window, Window_Handle parent) {
+  ++moves_;
+  if (refuse_) return false;
+  parents_[window] = parent;
+  return true;
+}
+
+int Memory_Shell::Send(Window_Handle window, unsigned message, int parameter) {
   if (!Exists(window)) return 0;
-  if (window != icon_list) throw std::logic_error("a message to a desktop window that knows none");
+  if (window != Handle_Of(Part::Icon_List)) throw std::logic_error("a message to a desktop window that knows none");
   switch (message) {
     case platform::get_text_colour: return icon_text_;
     case platform::get_text_back_colour: return icon_back_;
@@ -43,12 +64,12 @@ int Memory_Shell::Send(platform::Window_Handle window, unsigned message, int par
   }
 }
 
-void Memory_Shell::Invalidate(platform::Window_Handle window) {
-  if (window == icon_list && Exists(window)) invalid_ = true;
+void Memory_Shell::Invalidate(Window_Handle window) {
+  if (window == Handle_Of(Part::Icon_List) && Exists(window)) invalid_ = true;
 }
 
-void Memory_Shell::Update(platform::Window_Handle window) {
-  if (window == icon_list && Exists(window) && std::exchange(invalid_, false)) ++repaints_;
+void Memory_Shell::Update(Window_Handle window) {
+  if (window == Handle_Of(Part::Icon_List) && Exists(window) && std::exchange(invalid_, false)) ++repaints_;
 }
 
 void Memory_Shell::Set_Icon_Colours(int back, int text) {
@@ -56,9 +77,9 @@ void Memory_Shell::Set_Icon_Colours(int back, int text) {
   icon_text_ = text;
 }
 
-bool Memory_Shell::Under_Progman(platform::Window_Handle window) const {
+bool Memory_Shell::Part_Of_Desktop(Window_Handle window) {
   const auto found = parents_.find(window);
-  return found != parents_.end() && found->second == progman;
+  return found != parents_.end() && found->second == Handle_Of(Holder_Of_View()) && Exists(found->second);
 }
 
 }  // namespace memory

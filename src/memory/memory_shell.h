@@ -15,18 +15,30 @@ enum class Shell_Chain { None, Progman, Def_View, Icon_List };
 class Memory_Shell : public platform::Desktop_Shell {
  public:
   platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
+  platform::Window_Handle Find_Next_Top_Window(platform::Window_Handle after, const std::string& window_class) override;
+  bool Exists(platform::Window_Handle window) override;
   platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
 
   /// The list of icons answers the three messages for its colours. Any other message, or one to another window of the
   /// desktop, throws std::logic_error; a window that doesn't exist answers 0.
   int Send(platform::Window_Handle window, unsigned message, int parameter) override;
-  void Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override {
-    parents_[window] = parent;
-  }
+  bool Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
   void Update(platform::Window_Handle window) override;
 
   void Set_Chain(Shell_Chain chain) { chain_ = chain; }
+
+  /// Two windows of the class "WorkerW" lie before "Progman", and the view is in the second of them.
+  void Set_Worker(bool worker) { worker_ = worker; }
+
+  /// The class of the window that holds the view of the icons.
+  [[nodiscard]] const char* Icons_Are_In() const { return worker_ ? "WorkerW" : "Progman"; }
+
+  /// The desktop's windows can't show a child: none becomes one.
+  void Refuse_Children(bool refuse) { refuse_ = refuse; }
+
+  /// The shell ends and comes again, with windows of other handles. What was a child of the old ones is one no longer.
+  void Restart() { ++life_; }
 
   /// The text background (platform::no_colour for none) and the text colour of the list of icons.
   void Set_Icon_Colours(int back, int text);
@@ -35,16 +47,27 @@ class Memory_Shell : public platform::Desktop_Shell {
   /// How often the list of icons has been repainted since the last call.
   int Take_Repaints() { return std::exchange(repaints_, 0); }
 
-  /// Returns true if the window was made a child of "Progman".
-  [[nodiscard]] bool Under_Progman(platform::Window_Handle window) const;
+  /// How often a window was to become a child of another one.
+  [[nodiscard]] int Moves() const { return moves_; }
+
+  /// Whether the window is a child of the one that holds the view of the icons.
+  [[nodiscard]] bool Part_Of_Desktop(platform::Window_Handle window);
 
  private:
-  [[nodiscard]] bool Exists(platform::Window_Handle window) const;
+  enum class Part { First_Worker = 1, Second_Worker, Progman, Def_View, Icon_List };
+
+  [[nodiscard]] platform::Window_Handle Handle_Of(Part part) const;
+  [[nodiscard]] platform::Window_Handle If_There(Part part);
+  [[nodiscard]] Part Holder_Of_View() const { return worker_ ? Part::Second_Worker : Part::Progman; }
 
   Shell_Chain chain_ = Shell_Chain::None;
+  bool worker_ = false;
+  bool refuse_ = false;
+  int life_ = 0;
   int icon_back_ = platform::no_colour, icon_text_ = 16777215;
   bool invalid_ = false;
   int repaints_ = 0;
+  int moves_ = 0;
   std::map<platform::Window_Handle, platform::Window_Handle> parents_;
 };
 

@@ -22,6 +22,12 @@ class Desktop_Shell {
   /// The top-level window of that class and caption, 0 if there is none.
   virtual Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) = 0;
 
+  /// The next top-level window of that class behind `after`, from the foremost on if that is 0; 0 if there is none.
+  virtual Window_Handle Find_Next_Top_Window(Window_Handle after, const std::string& window_class) = 0;
+
+  /// Whether the window is still there.
+  virtual bool Exists(Window_Handle window) = 0;
+
   /// The first child of that class, 0 if there is none.
   virtual Window_Handle Find_Child(Window_Handle parent, const std::string& window_class) = 0;
 
@@ -29,8 +35,9 @@ class Desktop_Shell {
   /// is gone or doesn't answer within a second.
   virtual int Send(Window_Handle window, unsigned message, int parameter) = 0;
 
-  /// Makes the window a child of `parent`.
-  virtual void Set_Parent(Window_Handle window, Window_Handle parent) = 0;
+  /// Makes the window a child of `parent`, above its other children. Returns false where it couldn't be seen there: it is
+  /// a top-level window then, at the same place of the screen.
+  virtual bool Set_Parent(Window_Handle window, Window_Handle parent) = 0;
 
   /// Marks the whole window for erasing and painting.
   virtual void Invalidate(Window_Handle window) = 0;

@@ -23,6 +23,17 @@ class Files : public basic::Disk {
   /// The same for the folders in a folder.
   virtual std::vector<std::string> Folder_Names(const std::string& folder) = 0;
 
+  /// Throws what Create would for a file that is there, and leaves it as it is. Does nothing if there is no such file.
+  virtual void Check_Writing(const std::string& path) = 0;
+
+  /// Brings the bytes of a file to the disk, and then puts it into the place of `to` or of nothing, by one step that is on
+  /// the disk on return. Returns false, with nothing changed, on a system that can't do it by one. Throws error 53, 61, 70,
+  /// 75 or 76, with nothing changed.
+  virtual bool Move_Over(const std::string& from, const std::string& to) = 0;
+
+  /// Gives a file another name, which no file has yet. Throws error 53, 70, 75 or 76.
+  virtual void Rename(const std::string& from, const std::string& to) = 0;
+
   /// Throws error 53, 70 or 75.
   virtual void Delete(const std::string& path) = 0;
 
@@ -30,6 +41,20 @@ class Files : public basic::Disk {
   /// 75 or 76, error 70 for a file that is being written or that is to be copied onto itself, and error 61 on a full disk,
   /// which leaves nothing of the copy.
   virtual void Copy(const std::string& from, const std::string& to) = 0;
+
+  /// The name of the new file for as long as it is being written.
+  static std::string Name_Beside(const std::string& path);
+  std::unique_ptr<basic::Output_File> Create_Beside(const std::string& path) final;
+
+  /// Puts a file into the place of another or of none: at any moment the old or the new one is there whole. Takes no room
+  /// on the disk. Throws as Move_Over.
+  void Replace(const std::string& from, const std::string& to);
+
+  /// The same as Copy, by a new file that takes the place of `to`: at any moment the old or the new one is there whole.
+  void Copy_Over(const std::string& from, const std::string& to);
+
+  /// Ends what a power cut has left half done of a replacement of that file. Called before the first look for it.
+  void Recover(const std::string& path);
 
   /// The local time of a file's last change. Throws error 53 if it isn't there.
   virtual basic::Moment Last_Change(const std::string& path) = 0;

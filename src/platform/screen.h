@@ -1,10 +1,19 @@
 // The screen: its size, its density and the part of it that docked bars leave free.
 #pragma once
 
+#include "basic/run_error.h"
+
 namespace platform {
 
 struct Pixel_Area {
   int Left = 0, Top = 0, Width = 0, Height = 0;  ///< pixels
+};
+
+/// Thrown where the user's desktop needs places beyond 16 bits of twips and the user hasn't consented to them. It is an
+/// overflow like any other, but one for which there is a remedy.
+class Work_Area_Too_Large : public basic::Run_Error {
+ public:
+  Work_Area_Too_Large() noexcept : Run_Error(basic::Error_Number::Overflow) {}
 };
 
 class Screen {

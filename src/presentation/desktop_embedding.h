@@ -17,9 +17,18 @@ class Desktop_Embedding {
                     state::Calendar_State& calendar, std::function<void()> show_splash);
 
   /// Called once, at the start: finds the shell's windows, shows the splash if the desktop exists and the setting wants
-  /// it, reads the two colours of the icons' text and makes the calendar a child of the desktop's top window. Stops at
-  /// the first window that is missing.
+  /// it, reads the two colours of the icons' text and makes the calendar a child of the window that holds the icons.
+  /// Stops at the first window that is missing.
   void No_ShowDesktop_and_IconColours();
+
+  /// Whether the calendar is a part of the desktop at this moment: the shell's windows are there, the icons are still
+  /// in the one that the calendar was moved to, and the calendar's window is the one that was moved.
+  [[nodiscard]] bool Embedded() const;
+
+  /// If it isn't: finds the shell's windows anew and makes the calendar a part of what is there, without the splash.
+  /// Returns true if that was done. May be called again and again: it costs a few questions to the system. A desktop that
+  /// couldn't show the calendar isn't asked twice.
+  bool Embed_Again();
 
   /// Does nothing; the tick does the work.
   void Set_Transparent_Icon_Stuff() {}
@@ -28,14 +37,20 @@ class Desktop_Embedding {
   void Keep_Desktop_Text_Clear();
 
  private:
+  void Find_Icons();
+  bool Enter_Desktop();
+
   platform::Desktop_Shell& shell_;
   Main_Frm& main_frm_;
   const settings::Settings& settings_;
   state::Calendar_State& calendar_;
   const std::function<void()> show_splash_;
   platform::Window_Handle progman_hwnd_ = 0;
+  platform::Window_Handle icons_top_hwnd_ = 0;  // what holds the view: Progman, on newer systems maybe another window
   platform::Window_Handle defview_hwnd_ = 0;
   platform::Window_Handle iconlist_hwnd_ = 0;
+  platform::Window_Handle embedded_ = 0;  // the calendar's window as it was moved; 0 if it wasn't
+  platform::Window_Handle refused_ = 0;   // the window that couldn't show it
 };
 
 }  // namespace presentation

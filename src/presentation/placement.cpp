@@ -1,11 +1,14 @@
 #include "presentation/placement.h"
 
+#include <utility>
+
 #include "presentation/box_style.h"
 
 namespace presentation {
 
 namespace {
 
+using settings::Desktop_Mode;
 using settings::Settings;
 using toolkit::Round_To_Even;
 
@@ -49,7 +52,9 @@ void Placement::Position_Form(basic::Int16 position) {
     case 4: form.Move(right, top); break;
     case 5: form.Move(centre, top); break;
     case 6: form.Move(left, top); break;
-    case manual_position: form.Move(stored_.Values.Manual_PosX.Value(), stored_.Values.Manual_PosY.Value()); break;
+    case manual_position:
+      form.Move(stored_.Manual_Edge(Desktop_Mode::left_edge), stored_.Manual_Edge(Desktop_Mode::top_edge));
+      break;
     case 8: form.Move(right, middle); break;
     case 9: form.Move(left, middle); break;
     default: break;
@@ -60,19 +65,24 @@ void Placement::Position_In_Force() { Position_Form(presentation::Position_In_Fo
 
 void Placement::Set_Repos() {
   const Desktop_Rect area = GetDesktopRect(screen_, true);
-  saved_work_area_ = {area.Height, area.Width, area.Left, area.Top};
+  saved_work_area_ = {Allowed(area.Left), Allowed(area.Top), Allowed(area.Width), Allowed(area.Height)};
 }
 
 void Placement::RePosition() {
   const Desktop_Rect area = GetDesktopRect(screen_, true);
-  const auto follow = [this](std::int32_t now, basic::Int16& saved) {
-    if (now == saved.Value()) return false;
+  const auto follow = [this](std::int32_t now, std::int32_t& saved) {
+    if (now == saved) return false;
     Position_In_Force();
-    saved = now;
+    saved = Allowed(now);
     return true;
   };
   follow(area.Height, saved_work_area_.Height) || follow(area.Width, saved_work_area_.Width) ||
       follow(area.Top, saved_work_area_.Top) || follow(area.Left, saved_work_area_.Left);
+}
+
+std::int32_t Placement::Allowed(std::int32_t twips) const {
+  if (!stored_.Desktop.Modern() && !std::in_range<std::int16_t>(twips)) throw platform::Work_Area_Too_Large();
+  return twips;
 }
 
 bool Placement::Dragging_Allowed() const {
@@ -83,13 +93,14 @@ void Placement::Start_Drag(double x, double y) {
   if (!Dragging_Allowed()) return;
   toolkit::Form& form = main_frm_.Window;
   form.MousePointer = toolkit::Pointer::Four_Arrows;
-  drag_start_ = {Round_To_Even(x), Round_To_Even(y), Round_To_Even(form.Left), Round_To_Even(form.Top)};
+  const auto whole = [this](double twips) { return Allowed(Round_To_Even(twips)); };
+  drag_start_ = {whole(x), whole(y), whole(form.Left), whole(form.Top)};
 }
 
 void Placement::Drag(double x, double y) {
   if (!Dragging_Allowed()) return;
   toolkit::Form& form = main_frm_.Window;
-  form.Move(form.Left - (drag_start_.X.Value() - x), form.Top - (drag_start_.Y.Value() - y));
+  form.Move(form.Left - (drag_start_.X - x), form.Top - (drag_start_.Y - y));
 }
 
 void Placement::End_Drag() {
@@ -101,15 +112,15 @@ void Placement::End_Drag() {
 
 void Placement::Keep_Place() {
   // Both are checked before either is stored: a place beyond 16 bits leaves the settings as they were.
-  const basic::Int16 left = Round_To_Even(main_frm_.Window.Left), top = Round_To_Even(main_frm_.Window.Top);
-  stored_.Set(&Settings::Manual_PosX, left);
-  stored_.Set(&Settings::Manual_PosY, top);
+  const std::int32_t left = Allowed(Round_To_Even(main_frm_.Window.Left));
+  const std::int32_t top = Allowed(Round_To_Even(main_frm_.Window.Top));
+  stored_.Keep_Manual_Edge(Desktop_Mode::left_edge, left);
+  stored_.Keep_Manual_Edge(Desktop_Mode::top_edge, top);
 }
 
 /// A drag that changed only one coordinate doesn't count.
 bool Placement::Place_Would_Be_Lost() const {
-  const bool moved =
-      main_frm_.Window.Left() != drag_start_.Left.Value() && main_frm_.Window.Top() != drag_start_.Top.Value();
+  const bool moved = main_frm_.Window.Left() != drag_start_.Left && main_frm_.Window.Top() != drag_start_.Top;
   return moved && (stored_.Values.Alignment != manual_position || stored_.Values.Use_Theme_Pos == 1);
 }
 

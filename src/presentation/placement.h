@@ -1,6 +1,8 @@
 // Where the calendar window is: at one of nine places of the work area, or where the user dragged it.
 #pragma once
 
+#include <cstdint>
+
 #include "basic/int16.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
@@ -37,28 +39,28 @@ class Placement {
     return presentation::Position_In_Force(stored_.Values, calendar_);
   }
 
-  /// Remembers the present work area. Throws error 6 if one of its four values is beyond 16 bits, in twips.
+  /// Remembers the present work area. Throws Work_Area_Too_Large if one of its four values is beyond 16 bits, in twips,
+  /// and the user hasn't consented to that.
   void Set_Repos();
 
   /// Called on each tick: if one of the work area's four values has changed, places the window again and remembers that
   /// value. Other changed values wait for the next calls. Throws as Set_Repos.
   void RePosition();
 
-  /// The drag by the title; x and y are twips within the title. Start_Drag and End_Drag throw error 6 for a place of
-  /// the window beyond 16 bits, in twips. End_Drag may show a message box.
+  /// The drag by the title; x and y are twips within the title. Start_Drag and End_Drag throw
+  /// Work_Area_Too_Large for a place of the window beyond 16 bits, in twips, without that consent. End_Drag may show a message box.
   void Start_Drag(double x, double y);
   void Drag(double x, double y);
   void End_Drag();
 
  private:
-  /// In twips.
-  struct Work_Area {
-    basic::Int16 Height, Width, Left, Top;
-  };
   /// At the press: the pointer within the title, and the place of the window. In twips.
   struct Drag_Point {
-    basic::Int16 X, Y, Left, Top;
+    std::int32_t X = 0, Y = 0, Left = 0, Top = 0;
   };
+
+  /// Lets a number of twips through. Throws Work_Area_Too_Large if it is beyond 16 bits without the user's consent.
+  [[nodiscard]] std::int32_t Allowed(std::int32_t twips) const;
 
   [[nodiscard]] bool Dragging_Allowed() const;
   void Keep_Place();
@@ -70,7 +72,7 @@ class Placement {
   platform::Message_Box& message_box_;
   settings::Stored_Settings& stored_;
   const state::Calendar_State& calendar_;
-  Work_Area saved_work_area_;
+  Desktop_Rect saved_work_area_;  // in twips
   Drag_Point drag_start_;
 };
 

@@ -30,8 +30,14 @@ struct Writer {
 }  // namespace
 
 void Stored_Settings::Load_Settings() {
+  Desktop.Load();
   for (const Setting_Key& key : All_Keys())
     std::visit(Reader{Values, store_.Get(application, key.Section, key.Name, key.Default)}, key.Variable);
+}
+
+void Stored_Settings::Keep_Manual_Edge(Desktop_Mode::Edge edge, std::int32_t twips) {
+  Set(Manual_Variable(edge), Desktop_Mode::Nearest(twips));
+  Desktop.Keep_Manual_Edge(edge, twips);
 }
 
 void Stored_Settings::Take_Text(const Setting_Key& key, const std::string& text) {

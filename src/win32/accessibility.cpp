@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "win32/system_library.h"
+
 namespace win32 {
 
 Accessibility::~Accessibility() {
@@ -15,9 +17,9 @@ bool Accessibility::Start() {
 }
 
 bool Accessibility::Load() {
-  readers_.Reset(LoadLibraryA("oleacc.dll"));
-  ole_.Reset(LoadLibraryA("ole32.dll"));
-  automation_.Reset(LoadLibraryA("oleaut32.dll"));
+  readers_ = System_Library("oleacc.dll");
+  ole_ = System_Library("ole32.dll");
+  automation_ = System_Library("oleaut32.dll");
   answer_ = Find_Function<Answer_Function>(readers_.Get(), "LresultFromObject");
   object_ = Find_Function<Object_Function>(readers_.Get(), "AccessibleObjectFromWindow");
   text_ = Find_Function<Text_Function>(automation_.Get(), "SysAllocStringLen");

@@ -28,6 +28,13 @@ platform::Window_Handle Shell_Windows::Find_Top_Window(const std::string& window
   return To_Handle(FindWindowA(window_class.c_str(), caption.c_str()));
 }
 
+platform::Window_Handle Shell_Windows::Find_Next_Top_Window(platform::Window_Handle after,
+                                                            const std::string& window_class) {
+  return To_Handle(FindWindowExA(nullptr, To_Window(after), window_class.c_str(), nullptr));
+}
+
+bool Shell_Windows::Exists(platform::Window_Handle window) { return IsWindow(To_Window(window)) != 0; }
+
 platform::Window_Handle Shell_Windows::Find_Child(platform::Window_Handle parent, const std::string& window_class) {
   return To_Handle(FindWindowExA(To_Window(parent), nullptr, window_class.c_str(), nullptr));
 }
@@ -41,7 +48,7 @@ int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int pa
 
 // The window keeps the style of a popup, since a window with the style of a child can never be active. Only during the
 // move it has the style of a child, since some systems make a popup active when it moves to another parent.
-void Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
+bool Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
   const HWND moved = To_Window(window);
   const LONG style = GetWindowLongA(moved, GWL_STYLE);
   constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
@@ -49,6 +56,7 @@ void Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_
   SetParent(moved, To_Window(parent));
   context_.Embedded = true;
   SetWindowLongA(moved, GWL_STYLE, style);
+  return true;
 }
 
 void Shell_Windows::Invalidate(platform::Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }

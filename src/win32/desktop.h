@@ -31,9 +31,11 @@ class Shell_Windows final : public platform::Desktop_Shell {
   explicit Shell_Windows(Window_Context& context) : context_(context) {}
 
   platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
+  platform::Window_Handle Find_Next_Top_Window(platform::Window_Handle after, const std::string& window_class) override;
+  bool Exists(platform::Window_Handle window) override;
   platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
   int Send(platform::Window_Handle window, unsigned message, int parameter) override;
-  void Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
+  bool Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
   void Update(platform::Window_Handle window) override;
 

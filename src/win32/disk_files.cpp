@@ -49,6 +49,38 @@ Handle_Owner Open(const std::string& path, DWORD access, DWORD sharing, DWORD ho
   return file;
 }
 
+/// The pauses after which a file is tried again: a virus scanner looks into a file that has just been written, and holds it for
+/// a moment.
+constexpr DWORD pauses[] = {15, 30, 60, 100, 100};  // milliseconds
+
+bool Held_By_Another() {
+  constexpr DWORD unable_to_remove_replaced = 1175;
+  const DWORD failure = GetLastError();
+  return failure == ERROR_ACCESS_DENIED || failure == ERROR_SHARING_VIOLATION || failure == unable_to_remove_replaced;
+}
+
+/// Calls `work` until it returns true, or fails for another reason than a file that is held. Returns what it returned last.
+template <class Work>
+bool Patiently(Work&& work) {
+  for (const DWORD pause : pauses) {
+    if (work()) return true;
+    if (!Held_By_Another()) return false;
+    Sleep(pause);
+  }
+  return work();
+}
+
+/// Has the system bring to the disk what it holds back of a file.
+void Bring_To_Disk(const std::string& path) {
+  Handle_Owner file;
+  const bool opened = Patiently([&] {
+    file.Reset(Valid_Or_None(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    return static_cast<bool>(file);
+  });
+  if (!opened || FlushFileBuffers(file.Get()) == 0) Throw_File_Error();
+}
+
 DWORD Attributes(const std::string& path) { return GetFileAttributesA(path.c_str()); }
 
 /// The files or the folders of a folder, which has itself and the one above among its folders.
@@ -119,6 +151,29 @@ std::vector<std::string> Disk_Files::Folder_Names(const std::string& folder) {
   std::vector<std::string> names = Names_In(folder, true);
   std::erase_if(names, [](const std::string& name) { return name == "." || name == ".."; });
   return names;
+}
+
+void Disk_Files::Check_Writing(const std::string& path) {
+  if (!Folder_Exists(path)) return;
+  Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
+}
+
+bool Disk_Files::Move_Over(const std::string& from, const std::string& to) {
+  // A copy of a file that may not be written is one of the same kind, and couldn't be brought to the disk.
+  if ((Attributes(from) & FILE_ATTRIBUTE_READONLY) != 0) SetFileAttributesA(from.c_str(), FILE_ATTRIBUTE_NORMAL);
+  Bring_To_Disk(from);
+  // Windows 98 has the function, which does nothing there but fail.
+  const auto move =
+      Find_Function<BOOL WINAPI(const char*, const char*, DWORD)>(GetModuleHandleA("kernel32.dll"), "MoveFileExA");
+  if (move == nullptr) return false;
+  constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (Patiently([&] { return move(from.c_str(), to.c_str(), how) != 0; })) return true;
+  if (GetLastError() == ERROR_CALL_NOT_IMPLEMENTED) return false;
+  Throw_File_Error();
+}
+
+void Disk_Files::Rename(const std::string& from, const std::string& to) {
+  if (!Patiently([&] { return MoveFileA(from.c_str(), to.c_str()) != 0; })) Throw_File_Error();
 }
 
 void Disk_Files::Delete(const std::string& path) {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "basic/run_error.h"
+#include "platform/screen.h"
 #include "win32/code_page.h"
 #include "win32/desktop.h"
 #include "win32/disk_files.h"
@@ -49,6 +50,22 @@ struct Win32_Platform::Parts {
 
 namespace {
 
+constexpr const char* large_desktop =
+    "Your desktop is larger than this calendar was first made for.\r\n\r\n"
+    "Would you like it to work on large desktops from now on? It then opens right away and won't ask again; your "
+    "events and settings stay as they are.\r\n\r\n"
+    "If you choose No, the calendar closes.";
+
+bool Is_Large_Desktop(const std::exception_ptr& failure) {
+  try {
+    std::rethrow_exception(failure);
+  } catch (const platform::Work_Area_Too_Large&) {
+    return true;
+  } catch (...) {
+    return false;
+  }
+}
+
 std::string Report_Of(const std::exception_ptr& failure) {
   try {
     std::rethrow_exception(failure);
@@ -63,16 +80,24 @@ std::string Report_Of(const std::exception_ptr& failure) {
   }
 }
 
-}  // namespace
-
-int Win32_Platform::Report_Failure(const std::exception_ptr& failure) {
+/// A box of a program that has ended. Returns the system's number of the button.
+int Last_Box(const std::string& text, UINT flags) {
   // A box closes at once if it finds the message to quit in the queue.
   MSG message;
   while (PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0) continue;
   Common_Controls controls;
   controls.Start();
-  MessageBoxA(nullptr, Report_Of(failure).c_str(), "Meridex", MB_OK | MB_ICONHAND | MB_SETFOREGROUND | MB_TASKMODAL);
-  return 1;
+  return MessageBoxA(nullptr, text.c_str(), "Meridex", flags | MB_SETFOREGROUND | MB_TASKMODAL);
+}
+
+}  // namespace
+
+Win32_Platform::End Win32_Platform::Report_Failure(const std::exception_ptr& failure) {
+  if (!Is_Large_Desktop(failure)) {
+    Last_Box(Report_Of(failure), MB_OK | MB_ICONHAND);
+    return End::Failure;
+  }
+  return Last_Box(large_desktop, MB_YESNO | MB_ICONQUESTION) == IDYES ? End::Consent : End::Failure;
 }
 
 Win32_Platform::Win32_Platform(void* instance) {
@@ -86,14 +111,14 @@ toolkit::Backend& Win32_Platform::Backend() { return parts_->Backend; }
 
 platform::System& Win32_Platform::System() { return parts_->System; }
 
-int Win32_Platform::Run(const std::function<void()>& start) {
+Win32_Platform::End Win32_Platform::Run(const std::function<void()>& start) {
   Guard& guard = parts_->Context.Guard;
   guard.Run([&] {
     Warn_Of_Utf8(GetACP(), parts_->Store, parts_->Message_Box);
     start();
   });
   parts_->Loop.Run();
-  if (guard.Failure() == nullptr) return 0;
+  if (guard.Failure() == nullptr) return End::Ordinary;
   return Report_Failure(guard.Failure());
 }
 

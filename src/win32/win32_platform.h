@@ -21,12 +21,14 @@ class Win32_Platform {
   [[nodiscard]] toolkit::Backend& Backend();
   [[nodiscard]] platform::System& System();
 
-  /// Calls `start` and serves messages until the program quits. Returns the exit status: 0, or 1 if an exception ended
-  /// the program, which is reported in a message box.
-  int Run(const std::function<void()>& start);
+  enum class End { Ordinary, Failure, Consent };
 
-  /// Reports an exception that ends the program in a message box. Returns the exit status.
-  static int Report_Failure(const std::exception_ptr& failure);
+  /// Calls `start` and serves messages until the program quits. An exception that ends the program is reported.
+  End Run(const std::function<void()>& start);
+
+  /// Reports an exception that ends the program in a message box. Returns Consent if it was a desktop too large, and the
+  /// user would have the calendar work on such desktops.
+  static End Report_Failure(const std::exception_ptr& failure);
 
  private:
   struct Parts;

@@ -1,4 +1,4 @@
-// A disk in memory that can be filled and whose files can be blocked.
+// A disk in memory that can be filled, whose files can be blocked, and which the power can be taken from.
 #pragma once
 
 #include <algorithm>
@@ -18,6 +18,12 @@ class Fake_Disk : public basic::Disk {
   std::size_t Room = std::numeric_limits<std::size_t>::max();  ///< bytes that can still be written
   int Open_For_Writing = 0;                                    ///< files that are open at this moment
   int Reads = 0, Writes = 0;
+  bool Replaces = true;       ///< a file can take another's place by one step
+  bool Blocks_Moves = false;  ///< no file can take another's place
+
+  /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes comes
+  /// halfway if it is a write.
+  int Steps_To_Power_Cut = std::numeric_limits<int>::max();
 
   void Read_Whole(const std::string& path, std::string& buffer) override {
     ++Reads;
@@ -29,30 +35,71 @@ class Fake_Disk : public basic::Disk {
 
   std::unique_ptr<basic::Output_File> Create(const std::string& path) override {
     Refuse_If_Blocked(path);
-    Contents[path].clear();
-    return std::make_unique<File>(*this, Contents[path]);
+    if (Step()) Contents[path].clear();
+    return std::make_unique<File>(*this, path);
+  }
+
+  std::unique_ptr<basic::Output_File> Create_Beside(const std::string& path) override {
+    Created_Beside.push_back(path);
+    return std::make_unique<File>(*this, path);
+  }
+  std::vector<std::string> Created_Beside;  ///< paths; what is written goes to the file itself
+  std::vector<std::string> Finished;
+
+  void Check_Writing(const std::string& path) const { Refuse_If_Blocked(path); }
+
+  bool Move_Over(const std::string& from, const std::string& to) {
+    if (Blocks_Moves) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
+    if (!Replaces) return false;
+    Put_In_Place(from, to);
+    return true;
+  }
+
+  void Rename(const std::string& from, const std::string& to) {
+    if (Contents.contains(to) && Steps_To_Power_Cut > 0) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
+    Put_In_Place(from, to);
+  }
+
+  void Delete(const std::string& path) {
+    if (Step()) Contents.erase(path);
   }
 
  private:
   class File : public basic::Output_File {
    public:
-    File(Fake_Disk& disk, std::string& content) : disk_(disk), content_(content) { ++disk_.Open_For_Writing; }
+    File(Fake_Disk& disk, std::string path) : disk_(disk), path_(std::move(path)) { ++disk_.Open_For_Writing; }
     ~File() override { --disk_.Open_For_Writing; }
 
     std::size_t Write(std::string_view bytes) override {
       ++disk_.Writes;
       const std::size_t taken = std::min(bytes.size(), disk_.Room);
-      content_ += bytes.substr(0, taken);
+      if (disk_.Steps_To_Power_Cut == 0) Content() += bytes.substr(0, taken / 2);
+      if (disk_.Step()) Content() += bytes.substr(0, taken);
       disk_.Room -= taken;
       return taken;
     }
 
-    void Cut(std::size_t size) override { content_.resize(std::min(size, content_.size())); }
+    void Cut(std::size_t size) override {
+      if (disk_.Step()) Content().resize(std::min(size, Content().size()));
+    }
+
+    void Finish() override { disk_.Finished.push_back(path_); }
 
    private:
+    std::string& Content() { return disk_.Contents[path_]; }
+
     Fake_Disk& disk_;
-    std::string& content_;
+    const std::string path_;
   };
+
+  /// Returns true while there is power.
+  bool Step() { return Steps_To_Power_Cut-- > 0; }
+
+  void Put_In_Place(const std::string& from, const std::string& to) {
+    if (!Step()) return;
+    Contents[to] = Contents.at(from);
+    Contents.erase(from);
+  }
 
   void Refuse_If_Blocked(const std::string& path) const {
     if (Blocked.contains(path)) throw basic::Run_Error(basic::Error_Number::Permission_Denied);

@@ -365,3 +365,28 @@ TEST_F(File_Channel_Test, Knows_which_file_has_the_number) {
   Channel.Close();
   EXPECT_FALSE(Channel.Holds(path));
 }
+
+TEST_F(File_Channel_Test, A_file_written_beside_another_is_finished_by_closing_alone) {
+  using Paths = std::vector<std::string>;
+  Channel.Open_For_Writing(path, basic::Saving::Beside);
+  EXPECT_EQ(Disk.Created_Beside, Paths{path});
+  Channel.Write_Record("a");
+  Channel.Write_Out();
+  Channel.Give_Up();
+  EXPECT_EQ(Disk.Finished, Paths{});
+  Channel.Open_For_Writing(path, basic::Saving::Beside);
+  Channel.Write_Record("b");
+  Channel.Close();
+  EXPECT_EQ(Disk.Finished, Paths{path});
+  Channel.Open_For_Writing(other);
+  EXPECT_EQ(Disk.Created_Beside, (Paths{path, path})) << "in its place, where nothing else is asked for";
+}
+
+TEST_F(File_Channel_Test, A_file_that_found_no_room_is_not_finished) {
+  Disk.Room = 3;
+  Channel.Open_For_Writing(path, basic::Saving::Beside);
+  Channel.Write_Record("tea");
+  EXPECT_EQ(Error_Of([&] { Channel.Close(); }), 61);
+  EXPECT_TRUE(Disk.Finished.empty());
+  EXPECT_EQ(Error_Of_Opening(), 55);
+}

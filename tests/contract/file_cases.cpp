@@ -132,6 +132,91 @@ TEST_F(File_Cases, A_file_was_changed_a_moment_ago_when_it_has_just_been_written
   EXPECT_EQ(Error_Of([&] { Files.Last_Change(In_Case("none")); }), 53);
 }
 
+TEST_F(File_Cases, A_file_takes_anothers_place_and_leaves_none_of_its_own) {
+  Write("new", "new");
+  Write("file", "old, and longer");
+  if (Files.Move_Over(In_Case("new"), In_Case("file"))) {
+    EXPECT_EQ(Read("file"), "new");
+    EXPECT_FALSE(Files.File_Exists(In_Case("new")));
+  }
+  Write("new", "first");
+  if (Files.Move_Over(In_Case("new"), In_Case("free"))) {
+    EXPECT_EQ(Read("free"), "first");
+  }
+}
+
+TEST_F(File_Cases, A_file_that_cannot_take_a_place_stays_where_it_is) {
+  Write("new", "new");
+  Write("file", "old");
+  const auto move = [&](const std::string& from, const std::string& to) {
+    return Error_Of([&] { Files.Move_Over(from, to); });
+  };
+  EXPECT_EQ(move(In_Case("none"), In_Case("file")), 53);
+  EXPECT_EQ(move(In_Case("new"), Path("Case")), 75) << "a folder is there";
+  EXPECT_EQ(Read("new"), "new");
+  EXPECT_EQ(Read("file"), "old");
+}
+
+TEST_F(File_Cases, A_file_gets_a_name_that_no_file_has) {
+  Write("file", "x");
+  Files.Rename(In_Case("file"), In_Case("other"));
+  EXPECT_EQ(Read("other"), "x");
+  EXPECT_FALSE(Files.File_Exists(In_Case("file")));
+  Write("file", "y");
+  EXPECT_NE(Error_Of([&] { Files.Rename(In_Case("file"), In_Case("other")); }), 0);
+  EXPECT_EQ(Read("other"), "x");
+  EXPECT_EQ(Read("file"), "y");
+}
+
+TEST_F(File_Cases, To_check_a_file_for_writing_changes_nothing) {
+  Write("file", "x");
+  Files.Check_Writing(In_Case("file"));
+  Files.Check_Writing(In_Case("none"));
+  EXPECT_EQ(Read("file"), "x");
+  EXPECT_FALSE(Files.File_Exists(In_Case("none")));
+  EXPECT_EQ(Error_Of([&] { Files.Check_Writing(Path("Case")); }), 75);
+  const auto output = Files.Create(In_Case("file"));
+  EXPECT_EQ(Error_Of([&] { Files.Check_Writing(In_Case("file")); }), 70);
+}
+
+TEST_F(File_Cases, A_file_written_beside_another_takes_its_place_when_it_is_finished) {
+  Write("file", "old");
+  {
+    const auto given_up = Files.Create_Beside(In_Case("file"));
+    given_up->Write("half");
+    EXPECT_EQ(Read("file"), "old");
+  }
+  const auto output = Files.Create_Beside(In_Case("file"));
+  output->Write("new and");
+  output->Cut(4);
+  output->Write("whole");
+  output->Finish();
+  EXPECT_EQ(Read("file"), "new whole");
+  EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
+}
+
+TEST_F(File_Cases, A_copy_over_a_file_keeps_the_time_and_leaves_nothing_beside_it) {
+  Write("source", "new");
+  Write("file", "old, and longer");
+  const basic::Moment written = Files.Last_Change(In_Case("source"));
+  Files.Copy_Over(In_Case("source"), In_Case("file"));
+  EXPECT_EQ(Read("file"), "new");
+  EXPECT_EQ(Files.Last_Change(In_Case("file")), written);
+  EXPECT_EQ(Error_Of([&] { Files.Copy_Over(In_Case("none"), In_Case("file")); }), 53);
+  EXPECT_EQ(Files.File_Names(Path("Case")), (std::vector<std::string>{"file", "source"}));
+}
+
+TEST_F(File_Cases, A_file_between_two_renamings_is_found_again) {
+  Write("file.~bak", "old");
+  Write("file.~new", "ne");
+  Files.Recover(In_Case("file"));
+  EXPECT_EQ(Read("file"), "old");
+  Write("file.~bak", "older");
+  Files.Recover(In_Case("file"));
+  EXPECT_EQ(Read("file"), "old");
+  EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
+}
+
 TEST_F(File_Cases, What_cannot_be_copied_is_an_error) {
   Write("file", "x");
   const auto copy = [&](const std::string& from, const std::string& to) {

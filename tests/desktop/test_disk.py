@@ -39,15 +39,28 @@ class Read_Only_File(Disk):
         self.save(desktop, "Dentist at 9").gone()
         wait_for_file(desktop, content + record("10/3/2004=Dentist at 9"))
 
+    def test_with_the_consent_too_and_no_file_is_left_beside_it(self):
+        desktop = self.desktop(events=["11/3/2004=Choir"], permissions=True, modern=True)
+        content = desktop.data_file.read_bytes()
+        desktop.data_file.chmod(0o444)
+        files = sorted(desktop.folder.iterdir())
+        desktop.started()
+        self.refused(desktop, "Dentist")
+        self.assertEqual(desktop.data_file.read_bytes(), content)
+        self.assertEqual(sorted(desktop.folder.iterdir()), files)
+        desktop.data_file.chmod(0o644)
+        self.save(desktop, "Dentist at 9").gone()
+        wait_for_file(desktop, content + record("10/3/2004=Dentist at 9"))
+
 
 class Full_Disk(Disk):
     ROOM = 4096  # bytes, a page
     EVENTS = [f"{day}/3/{year}=Choir at seven, then tea" for year in range(2004, 2008) for day in range(1, 28)]
     TEXT = "Dentist at nine, then the bank, the post office and the grocer"
 
-    def world(self):
+    def world(self, modern=False):
         """Events that nearly fill the disk; the text for the 10th, written in among them, leaves no room for the last."""
-        desktop = self.desktop(events=self.EVENTS, settings={"Show Alerts": 0})
+        desktop = self.desktop(events=self.EVENTS, settings={"Show Alerts": 0}, modern=modern)
         self.assertTrue(self.ROOM - 40 < len(desktop.data_file.read_bytes()) < self.ROOM)
         records = [record(f"10/3/2004={self.TEXT}" if event.startswith("10/3/2004=") else event) for event in self.EVENTS]
         self.expected = b""
@@ -80,3 +93,13 @@ class Full_Disk(Disk):
         desktop.calendar()
         self.refused(desktop, self.TEXT)
         self.assertEqual(desktop.data_file.read_bytes(), self.expected)
+
+    def test_with_the_consent_the_old_file_stays_whole_and_nothing_lies_beside_it(self):
+        desktop = self.world(modern=True)
+        content = desktop.data_file.read_bytes()
+        files = sorted(desktop.folder.iterdir())
+        desktop.start(["env", "--ignore-signal=XFSZ", "prlimit", f"--fsize={self.ROOM}"])
+        desktop.calendar()
+        self.refused(desktop, self.TEXT)
+        self.assertEqual(desktop.data_file.read_bytes(), content)
+        self.assertEqual(sorted(desktop.folder.iterdir()), files)

@@ -29,10 +29,11 @@ class Edit_Frm_Test : public ::testing::Test {
   const std::string data_file = Memory_Files::Full_Path("calendar.dat");
   Memory_Platform Platform;
   settings::Settings Settings{};
+  settings::Desktop_Mode Desktop{Platform.Store};
   state::Calendar_State Calendar;
   basic::File_Channel Channel{Platform.Files};
   presentation::Main_Frm Main_Frm{Platform.Backend()};
-  events::Event_File Event_File{Platform.Files, Channel, Platform.Message_Box, Calendar};
+  events::Event_File Event_File{Platform.Files, Channel, Platform.Message_Box, Calendar, Desktop};
   int Idle_Restarts = 0;
   editor::Edit_Frm Editor{Platform.Backend(), Main_Frm, Event_File, Settings, Calendar, [this] { ++Idle_Restarts; }};
 };

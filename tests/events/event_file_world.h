@@ -22,8 +22,13 @@ class Fake_Files : public platform::Files {
   bool Folder_Exists(const std::string& path) override { return Disk.Contents.count(path) != 0; }
   std::vector<std::string> File_Names(const std::string&) override { return {}; }
   std::vector<std::string> Folder_Names(const std::string&) override { return {}; }
-  void Delete(const std::string& path) override { Disk.Contents.erase(path); }
-  void Copy(const std::string& from, const std::string& to) override { Disk.Contents[to] = Disk.Contents.at(from); }
+  void Check_Writing(const std::string& path) override { Disk.Check_Writing(path); }
+  bool Move_Over(const std::string& from, const std::string& to) override { return Disk.Move_Over(from, to); }
+  void Rename(const std::string& from, const std::string& to) override { Disk.Rename(from, to); }
+  void Delete(const std::string& path) override { Disk.Delete(path); }
+  void Copy(const std::string& from, const std::string& to) override {
+    Disk.Create(to)->Write(std::string(Disk.Contents.at(from)));
+  }
   basic::Moment Last_Change(const std::string& /*path*/) override { return {}; }
   bool Same_Path(const std::string& a, const std::string& b) override { return a == b; }
   std::string Program_Folder() override { return "C:\\Meridex"; }
@@ -42,6 +47,15 @@ class Fake_Message_Box : public platform::Message_Box {
   }
 };
 
+/// Has the user's consent to today's desktops.
+class Consent_Store : public platform::Settings_Store {
+ public:
+  std::string Get(const std::string&, const std::string&, const std::string& key, const std::string& text) override {
+    return key == "Modern" ? "1" : text;
+  }
+  void Save(const std::string&, const std::string&, const std::string&, const std::string&) override {}
+};
+
 class Event_File_World {
  public:
   static constexpr const char* path = "C:\\Meridex\\calendar.dat";
@@ -53,7 +67,9 @@ class Event_File_World {
   Fake_Message_Box Message_Box;
   state::Calendar_State Calendar;
   events::Day_Event Editor;  ///< what the editor holds
-  events::Event_File File{Files, Channel, Message_Box, Calendar};
+  Consent_Store Store;
+  settings::Desktop_Mode Desktop{Store};
+  events::Event_File File{Files, Channel, Message_Box, Calendar, Desktop};
   std::vector<std::string> Calls;    ///< what a reading for the grid does, in order
   std::vector<std::string> Entered;  ///< the lines that went to the grid
 

@@ -46,7 +46,7 @@ class Line_Merge_Test : public ::testing::Test {
 
 TEST_F(Line_Merge_Test, The_first_line_of_the_day_gets_the_text) {
   Set({"3/4/2004=a", "3/4/9999=b", "4/4/9999=c", "4/4/2004=d"});
-  Line_Merge merge(Lines, Channel, path);
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
   merge.Merge("3/4/2004", "x");
   merge.Merge("4/4/2004", "y");
   merge.Merge("3/4/2005", "z");
@@ -61,14 +61,14 @@ TEST_F(Line_Merge_Test, The_first_line_of_the_day_gets_the_text) {
 TEST_F(Line_Merge_Test, Without_an_event_nothing_is_opened) {
   Disk.Contents[path] = "before";
   Set({"3/4/2004=a"});
-  Line_Merge merge(Lines, Channel, path);
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
   merge.Close();
   EXPECT_EQ(Content(), "before");
 }
 
 TEST_F(Line_Merge_Test, A_text_with_an_equals_sign_is_no_date) {
   Set({"3/4/2004=4/4/2004=a"});
-  Line_Merge merge(Lines, Channel, path);
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
   merge.Merge("4/4/2004", "b=c");
   merge.Merge("4/4/2004", "d");
   EXPECT_EQ(Present(), (Texts{"3/4/2004=4/4/2004=a", "4/4/2004=b=c + d"}));
@@ -83,7 +83,7 @@ TEST_F(Line_Merge_Test, A_year_of_three_digits_finds_the_event_of_every_year) {
 
 TEST_F(Line_Merge_Test, A_line_without_a_date_ends_the_search_that_meets_it) {
   Set({"3/4/2004=a", "broken", "4/4/2004=b"});
-  Line_Merge merge(Lines, Channel, path);
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
   merge.Merge("3/4/2004", "x");
   EXPECT_EQ(Error_Of([&] { merge.Merge("4/4/2004", "y"); }), 5);
   EXPECT_EQ(Error_Of([&] { merge.Merge("5/4/2004", "y"); }), 5);
@@ -94,7 +94,7 @@ TEST_F(Line_Merge_Test, The_file_is_whole_after_each_event) {
   std::mt19937 random(11);
   for (int round = 0; round < 50; ++round) {
     Set({"1/1/9999=new year", "2/1/2004=second"});
-    Line_Merge merge(Lines, Channel, path);
+    Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
     for (int i = 0; i < 40; ++i) {
       const std::string key = std::to_string(random() % 28 + 1) + "/" + std::to_string(random() % 2 + 1) + "/2004";
       merge.Merge(key, std::string(random() % 30, 'x'));
@@ -111,7 +111,7 @@ TEST_F(Line_Merge_Test, A_full_disk_keeps_whole_records_and_the_file_number) {
     Set({"1/1/2004=first", "2/1/2004=second"});
     Disk.Room = room;
     basic::File_Channel channel(Disk);
-    Line_Merge merge(Lines, channel, path);
+    Line_Merge merge(Lines, channel, path, basic::Saving::In_Place);
     int error = 0;
     for (const char* const key : {"3/1/2004", "4/1/2004", "5/1/2004"})
       if (error == 0) error = Error_Of([&] { merge.Merge(key, "more"); });
@@ -125,7 +125,7 @@ TEST_F(Line_Merge_Test, A_full_disk_keeps_whole_records_and_the_file_number) {
 
 TEST_F(Line_Merge_Test, The_last_line_is_the_32767th) {
   for (int i = 0; i < 32767; ++i) Lines.Append("1/1/2004=x");
-  Line_Merge merge(Lines, Channel, path);
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
   merge.Merge("1/1/2004", "y");
   EXPECT_EQ(Error_Of([&] { merge.Merge("2/1/2004", "y"); }), 6);
 }

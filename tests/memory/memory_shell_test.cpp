@@ -87,9 +87,46 @@ TEST(Memory_Shell_Test, A_handle_of_a_window_that_has_gone_does_nothing) {
 TEST(Memory_Shell_Test, Knows_what_was_moved_under_the_desktop) {
   Memory_Shell shell;
   shell.Set_Chain(Shell_Chain::Icon_List);
-  EXPECT_FALSE(shell.Under_Progman(7));
-  shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager"));
-  EXPECT_TRUE(shell.Under_Progman(7));
+  EXPECT_FALSE(shell.Part_Of_Desktop(7));
+  EXPECT_TRUE(shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager")));
+  EXPECT_TRUE(shell.Part_Of_Desktop(7));
+}
+
+TEST(Memory_Shell_Test, A_desktop_that_shows_no_children_takes_none) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  shell.Refuse_Children(true);
+  EXPECT_FALSE(shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager")));
+  EXPECT_FALSE(shell.Part_Of_Desktop(7));
+  EXPECT_EQ(shell.Moves(), 1);
+}
+
+TEST(Memory_Shell_Test, The_view_may_be_in_the_second_of_two_workers) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  EXPECT_EQ(shell.Find_Next_Top_Window(0, "WorkerW"), 0U);
+  shell.Set_Worker(true);
+  EXPECT_EQ(Length_Of_Chain(shell), 1) << "nothing is in Progman";
+  const Window_Handle first = shell.Find_Next_Top_Window(0, "WorkerW");
+  const Window_Handle second = shell.Find_Next_Top_Window(first, "WorkerW");
+  ASSERT_NE(second, 0U);
+  EXPECT_EQ(shell.Find_Next_Top_Window(second, "WorkerW"), 0U);
+  EXPECT_EQ(shell.Find_Child(first, "SHELLDLL_DefView"), 0U);
+  EXPECT_NE(shell.Find_Child(second, "SHELLDLL_DefView"), 0U);
+}
+
+TEST(Memory_Shell_Test, A_restart_gives_all_windows_other_handles) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  const Window_Handle progman = shell.Find_Top_Window("Progman", "Program Manager"), list = List_Of(shell);
+  shell.Set_Parent(7, progman);
+  EXPECT_TRUE(shell.Exists(list));
+  shell.Restart();
+  EXPECT_FALSE(shell.Exists(progman));
+  EXPECT_FALSE(shell.Exists(list));
+  EXPECT_FALSE(shell.Part_Of_Desktop(7));
+  EXPECT_NE(List_Of(shell), 0U);
+  EXPECT_NE(List_Of(shell), list);
 }
 
 TEST(Memory_Instances_Test, Another_instance_is_found_by_its_title_and_posted_to) {

@@ -29,10 +29,13 @@ class Silent_Box : public platform::Message_Box {
   }
 };
 
-class Empty_Store : public platform::Settings_Store {
+/// Has the consent to today's desktops, or nothing.
+class Consent_Store : public platform::Settings_Store {
  public:
-  std::string Get(const std::string&, const std::string&, const std::string&, const std::string& text) override {
-    return text;
+  bool Consent = false;
+
+  std::string Get(const std::string&, const std::string&, const std::string& key, const std::string& text) override {
+    return Consent && key == "Modern" ? "1" : text;
   }
   void Save(const std::string&, const std::string&, const std::string&, const std::string&) override {}
 };
@@ -56,11 +59,24 @@ class Placement_Test : public ::testing::Test {
     return {Made.Window.Left, Made.Window.Top};
   }
 
+  void Consent() {
+    Store.Consent = true;
+    Stored.Load_Settings();
+  }
+
+  /// From the window's place to that one.
+  void Drag_To(double left, double top) {
+    Stored.Values.Allow_Dragging = 1;
+    Place.Start_Drag(0, 0);
+    Place.Drag(left - Made.Window.Left, top - Made.Window.Top);
+    Place.End_Drag();
+  }
+
   Fake_Backend Backend;
   presentation::Main_Frm Made{Backend};
   Fake_Screen Screen;
   Silent_Box Box;
-  Empty_Store Store;
+  Consent_Store Store;
   settings::Stored_Settings Stored{Store};
   state::Calendar_State Calendar;
   Placement Place{Made, Screen, Box, Stored, Calendar};
@@ -151,6 +167,44 @@ TEST_F(Placement_Test, Set_Repos_throws_error_6_for_a_work_area_beyond_16_bits) 
   Work_Area(0, 0, 100000, 100000);
   Window_Of(1000, 1000);
   EXPECT_EQ(Placed(0), Corner(99000, 99000));
+}
+
+TEST_F(Placement_Test, A_desktop_beyond_16_bits_is_told_from_other_overflows) {
+  Screen.Area = {0, 0, 3840, 2185};
+  EXPECT_THROW(Place.Set_Repos(), platform::Work_Area_Too_Large);
+  EXPECT_THROW(Place.RePosition(), platform::Work_Area_Too_Large);
+  Made.Window.Move(32768, 0);
+  Stored.Values.Allow_Dragging = 1;
+  EXPECT_THROW(Place.Start_Drag(0, 0), platform::Work_Area_Too_Large);
+  Made.Window.Move(0, 0);
+  EXPECT_THROW(Drag_To(0, 32768), platform::Work_Area_Too_Large);
+}
+
+TEST_F(Placement_Test, With_the_consent_the_work_area_has_32_bits) {
+  Consent();
+  Stored.Values.Alignment = 6;
+  for (const platform::Pixel_Area& area : {platform::Pixel_Area{0, 0, 3840, 2160}, {-7680, -4320, 7680, 4320}}) {
+    Screen.Area = area;
+    for (int call = 0; call < 4; ++call) Place.RePosition();
+    Made.Window.Move(-1, -1);
+    Place.RePosition();
+    EXPECT_EQ(Made.Window.Left(), -1) << "all four values are known by now";
+    Place.Set_Repos();
+    Place.RePosition();
+    EXPECT_EQ(Made.Window.Left(), -1);
+    EXPECT_EQ(Placed(6), Corner(area.Left * 15, area.Top * 15));
+  }
+}
+
+TEST_F(Placement_Test, With_the_consent_a_drag_goes_beyond_16_bits_and_its_place_is_the_manual_one) {
+  Consent();
+  Drag_To(110000, -50000);
+  EXPECT_EQ(Placed(7), Corner(110000, -50000));
+  EXPECT_EQ(Stored.Values.Manual_PosX, 32767);
+  EXPECT_EQ(Stored.Values.Manual_PosY, -32768);
+  Made.Window.Move(110000, -50000);
+  Drag_To(40000, 1500);
+  EXPECT_EQ(Placed(7), Corner(40000, 1500));
 }
 
 TEST_F(Placement_Test, RePosition_does_nothing_while_the_work_area_stays) {

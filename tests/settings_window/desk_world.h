@@ -49,7 +49,7 @@ class Desk_World : public ::testing::Test {
   packs::Set_Wallpaper_Mod Set_Wallpaper{Platform.Registry, Platform.Wallpaper};
   packs::Pack_Lookup Packs{Platform.Files, Channel, Platform.Pictures, Platform.Message_Box, Stored, Set_Wallpaper};
   packs::Wallpaper_Stuff Wallpaper{Packs, Set_Wallpaper, Registry, Platform.Clock, Stored.Values, Calendar};
-  events::Event_File Event_File{Platform.Files, Channel, Platform.Message_Box, Calendar};
+  events::Event_File Event_File{Platform.Files, Channel, Platform.Message_Box, Calendar, Stored.Desktop};
   presentation::Main_Frm Main_Frm{Platform.Backend()};
   presentation::Placement Placement{Main_Frm, Platform.Screen, Platform.Message_Box, Stored, Calendar};
   presentation::Colours Colours{Main_Frm, Stored.Values, Calendar};

@@ -169,7 +169,7 @@ TEST_F(Events_Overview_Test, An_empty_file_empties_the_lists_without_a_word) {
 TEST_F(Events_Overview_Test, A_line_that_is_no_event_ends_the_reading_with_a_message) {
   for (const char* const bad : {"no sign", "5/3=x", "a/3/2004=x", "5/3/40000=x", "1/1/99=x", "31/12/9998999=x", ""}) {
     basic::File_Channel channel(Platform.Files);
-    events::Event_File file(Platform.Files, channel, Platform.Message_Box, Calendar);
+    events::Event_File file(Platform.Files, channel, Platform.Message_Box, Calendar, Stored.Desktop);
     settings_window::Events_Overview overview(Page, Desk, file, Dates, Platform.Message_Box);
     Put({"5/3/2004=Dentist", bad, "6/3/2004=Outing"});
     overview.Load();

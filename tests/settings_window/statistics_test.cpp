@@ -103,7 +103,7 @@ TEST_F(Statistics_Test, A_line_that_cannot_be_counted_leaves_the_labels_as_they_
   for (const char* const bad : {"29/2/9999=x", "no sign", "5/3=x", "a/3/2004=x", "5/3/x=x", "31/4/2004=x", "5/0/2004=x",
                                 "40000/1/2004=x", "5/3/10000=x", "", "1/13/yyyy=x", "1/0/yyyy=x", "5/3/2004/1=x"}) {
     basic::File_Channel channel(Platform.Files);
-    events::Event_File file(Platform.Files, channel, Platform.Message_Box, Calendar);
+    events::Event_File file(Platform.Files, channel, Platform.Message_Box, Calendar, Stored.Desktop);
     settings_window::Statistics statistics(Page, file, Dates);
     Put({"4/3/2004=a", bad, "4/3/2004=b"});
     statistics.Get_Stats();

@@ -83,8 +83,8 @@ void Play_Balloon(World& world, const Words& /*words*/) {
 
 void Play_Parent(World& world, const Words& /*words*/) {
   const Form* const main = world.Find_Window("Main_Frm");
-  const bool embedded = main != nullptr && world.Platform.Shell.Under_Progman(main->Handle());
-  world.Print(embedded ? "parent Progman" : "parent none");
+  const bool embedded = main != nullptr && world.Platform.Shell.Part_Of_Desktop(main->Handle());
+  world.Print(embedded ? std::string("parent ") + world.Platform.Shell.Icons_Are_In() : "parent none");
 }
 
 using state::Calendar_State;

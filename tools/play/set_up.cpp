@@ -72,10 +72,12 @@ void Play_Deny(World& world, const Words& words) {
 
 void Play_Shell(World& world, const Words& words) {
   using memory::Shell_Chain;
-  constexpr std::array<std::pair<std::string_view, Shell_Chain>, 4> chains{{{"on", Shell_Chain::Icon_List},
+  constexpr std::array<std::pair<std::string_view, Shell_Chain>, 5> chains{{{"on", Shell_Chain::Icon_List},
+                                                                            {"workerw", Shell_Chain::Icon_List},
                                                                             {"off", Shell_Chain::None},
                                                                             {"progman", Shell_Chain::Progman},
                                                                             {"defview", Shell_Chain::Def_View}}};
+  world.Platform.Shell.Set_Worker(words[0] == "workerw");
   for (const auto& [name, chain] : chains)
     if (words[0] == name) return world.Platform.Shell.Set_Chain(chain);
   throw Cannot_Play("no such shell: " + words[0]);

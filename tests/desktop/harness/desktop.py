@@ -11,14 +11,14 @@ from typing import NamedTuple
 
 from . import geometry
 from .prefix import ROOT, Prefix
-from .screen import HEIGHT, WIDTH, Screen, Window
+from .screen import SIZE, Screen, Window
 from .waiting import wait_for
 
 BUILD = ROOT / "build/windows-x64"
 PICTURES = ROOT / "build/desktop-pictures"  # where a failed test leaves what it saw last
 PROGRAM = "meridex.exe"
 PROBE = f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\")
-WHOLE_SCREEN = (0, 0, WIDTH, HEIGHT)
+WHOLE_SCREEN = (0, 0, *SIZE)
 
 # The ground of the virtual desktop, as scripts/lib/wine.sh sets it, and that of the stand-in for the shell's windows.
 DESKTOP_COLOUR = (58, 110, 165)
@@ -40,16 +40,18 @@ def record(line):
 
 class Desktop:
     def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
-                 keyboard="us", shell=False, permissions=False):
+                 keyboard="us", shell=False, permissions=False, size=SIZE,
+                 modern=False):
         """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values;
         shell: with the stand-in for the desktop's own windows, under which the calendar then lives; permissions: what is
-        read-only is so for root too."""
+        read-only is so for root too; size: the screen's, in pixels; modern: with
+        the user's consent to today's desktops."""
         self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, "Show Splash": 0, **(settings or {})}
         self.shell = shell
         self.now = datetime.datetime.fromisoformat(now)
         self.programs = []
         self._temporary = tempfile.mkdtemp(prefix="meridex-")
-        self.screen = Screen(keyboard)
+        self.screen = Screen(keyboard, size)
         try:
             self.prefix = Prefix(pathlib.Path(self._temporary, "prefix"), self.screen.environment, language,
                                  permissions)
@@ -62,6 +64,10 @@ class Desktop:
             if data is not None or events:
                 self.data_file.write_bytes(data if data is not None else b"".join(record(line) for line in events))
             self.prefix.preset("Software\\Meridex\\Settings", self.settings)
+            if size != SIZE:
+                self.prefix.preset("Software\\Wine\\Explorer\\Desktops", {"meridex": "{}x{}".format(*size)})
+            if modern:
+                self.prefix.preset("Software\\Meridex\\Desktop", {"Modern": 1})
             if colours:
                 self.prefix.preset("Software\\Meridex\\Colours", colours)
             self.prefix.boot(self._desktop_stands)
@@ -227,11 +233,11 @@ class Desktop:
         return geometry.Layout(self.settings["Style"], year or self.now.year, month or self.now.month,
                                self.settings["Start Day"])
 
-    def place(self, layout=None, area=WHOLE_SCREEN):
-        """Where the calendar must stand."""
+    def place(self, layout=None, area=None):
+        """Where the calendar must stand; the area is the whole screen if no other is given."""
         layout = layout or self.layout()
         manual = self.settings.get("Manual_PosX", 0), self.settings.get("Manual_PosY", 0)
-        left, top = geometry.placed(self.settings["Alignment"], layout.window_twips, area, manual)
+        left, top = geometry.placed(self.settings["Alignment"], layout.window_twips, area or (0, 0, *self.screen.size), manual)
         width, height = layout.window_size
         return geometry.Rect(left, top, left + width, top + height)
 

@@ -10,8 +10,7 @@ from .geometry import Rect
 from .picture import Picture
 from .waiting import wait_for
 
-WIDTH, HEIGHT = 1280, 1024
-QUIET_CORNER = (WIDTH // 2, 2)  # where the pointer rests without being over anything of the calendar
+SIZE = WIDTH, HEIGHT = 1280, 1024  # the usual one
 
 TREE_LINE = re.compile(r'^\s*(0x[0-9a-f]+) (?:"(.*)"|\(has no name\)): \("([^"]*)" "[^"]*"\)\s+'
                        r'(\d+)x(\d+)[+-]-?\d+[+-]-?\d+\s+\+(-?\d+)\+(-?\d+)')
@@ -26,11 +25,13 @@ class Window(NamedTuple):
 
 
 class Screen:
-    def __init__(self, keyboard="us"):
-        """keyboard: the layout; what it doesn't have can't be typed."""
+    def __init__(self, keyboard="us", size=SIZE):
+        """keyboard: the layout; what it doesn't have can't be typed. size: in pixels."""
+        self.size = size
+        self.quiet_corner = size[0] // 2, 2  # where the pointer rests without being over anything of the calendar
         reader, writer = os.pipe()
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{size[0]}x{size[1]}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[writer], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(writer)
         with os.fdopen(reader) as answer:
@@ -79,7 +80,7 @@ class Screen:
         return bool(match) and int(match[1], 16) != 0
 
     def picture(self):
-        return Picture.of_screen(WIDTH, HEIGHT, self.environment)
+        return Picture.of_screen(*self.size, self.environment)
 
     def picture_at_rest(self, seconds=10):
         """The screen as soon as it stays as it is: two successive pictures that are equal."""
@@ -138,4 +139,4 @@ class Screen:
 
     def rest_pointer(self):
         """Takes the pointer where no tip or highlight comes up under it."""
-        self.move(*QUIET_CORNER)
+        self.move(*self.quiet_corner)

@@ -1,0 +1,214 @@
+// Saving with the user's consent to today's desktops: whatever happens, the old file or the new one is there whole.
+#include <gtest/gtest.h>
+
+#include "tests/basic/error_of.h"
+#include "tests/events/event_file_world.h"
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class Safe_Saving_World : public Event_File_World {
+ public:
+  Safe_Saving_World() {
+    Desktop.Load();
+    Editor.Text = "Tea";
+    Put(Old_Lines());
+  }
+
+  /// More than the channel gathers before it writes, so that a save is several writes.
+  static Lines Old_Lines() {
+    Lines lines;
+    for (int year = 2001; year <= 2100; ++year)
+      lines.push_back("9/3/" + std::to_string(year) + "=" + std::string(2000, 'x'));
+    return lines;
+  }
+
+  static std::string Old_Content() {
+    std::string content;
+    for (const std::string& line : Old_Lines()) content += Record(line);
+    return content;
+  }
+  static std::string New_Content() { return Old_Content() + Record("8/3/2004=Tea"); }
+
+  void Save() { Change("8/3/2004", "Tea"); }
+
+  std::map<std::string, std::string>& All_Files() { return Files.Disk.Contents; }
+
+  /// The power is back and the program starts anew: all that is on the disk then.
+  std::map<std::string, std::string> After_The_Next_Start() {
+    Files.Disk.Steps_To_Power_Cut = std::numeric_limits<int>::max();
+    Event_File_World later;
+    later.Desktop.Load();
+    later.Files.Disk.Contents = All_Files();
+    later.File.Recover();
+    return later.Files.Disk.Contents;
+  }
+};
+
+class Safe_Saving : public ::testing::Test, public Safe_Saving_World {
+ protected:
+  bool Is_Taken() {
+    return Error_Of([this] {
+             Channel.Open_For_Reading(path);
+             Channel.Close();
+           }) == 55;
+  }
+};
+
+/// Cuts the power at every step of the work, on systems of both kinds. Gives how often the new file was there after it.
+template <class Work>
+int Cut_At_Every_Step(const Work& work, const std::string& old_content, const std::string& new_content) {
+  int new_ones = 0, cuts = 0;
+  for (const bool replaces : {true, false}) {
+    for (int steps = 0;; ++steps) {
+      Safe_Saving_World world;
+      world.Files.Disk.Replaces = replaces;
+      world.Files.Disk.Steps_To_Power_Cut = steps;
+      work(world);
+      const bool whole_work = world.Files.Disk.Steps_To_Power_Cut >= 0;
+      const auto files = world.After_The_Next_Start();
+      EXPECT_EQ(files.size(), 1U) << "nothing but the file itself is left, step " << steps;
+      const auto found = files.find(Event_File_World::path);
+      if (found == files.end()) {
+        ADD_FAILURE() << "no file, step " << steps;
+        break;
+      }
+      const bool is_new = found->second == new_content;
+      EXPECT_TRUE(is_new || found->second == old_content) << found->second.size() << " bytes, step " << steps;
+      if (whole_work) {
+        EXPECT_TRUE(is_new);
+        break;
+      }
+      ++cuts;
+      new_ones += is_new ? 1 : 0;
+    }
+  }
+  EXPECT_GT(cuts, new_ones) << "some steps come before the new file is in its place";
+  return cuts;
+}
+
+}  // namespace
+
+TEST_F(Safe_Saving, The_new_file_is_in_the_old_ones_place_and_nothing_beside_it) {
+  Save();
+  EXPECT_EQ(Content(), New_Content());
+  EXPECT_EQ(All_Files().size(), 1U);
+  EXPECT_FALSE(Is_Taken());
+  EXPECT_EQ(Messages(), Lines{});
+}
+
+TEST_F(Safe_Saving, The_first_event_of_all_makes_the_file) {
+  All_Files().clear();
+  Save();
+  EXPECT_EQ(Content(), Record("8/3/2004=Tea"));
+  EXPECT_EQ(All_Files().size(), 1U);
+}
+
+TEST_F(Safe_Saving, The_old_file_is_there_whole_until_the_new_one_is_complete) {
+  Channel.Open_For_Writing(path, File.Saving());
+  Channel.Write_Record("8/3/2004=Tea");
+  Channel.Write_Out();
+  EXPECT_EQ(Content(), Old_Content());
+  Channel.Close();
+  EXPECT_EQ(Content(), Record("8/3/2004=Tea"));
+}
+
+TEST_F(Safe_Saving, A_power_cut_at_any_step_leaves_the_old_or_the_new_file) {
+  const int cuts = Cut_At_Every_Step([](Safe_Saving_World& world) { world.Save(); }, Old_Content(), New_Content());
+  EXPECT_GT(cuts, 10) << "creating, writing four times, renaming";
+}
+
+TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_leaves_the_old_or_the_new_file) {
+  const auto copy = [](Safe_Saving_World& world) {
+    world.Files.Disk.Contents["D:\\backup"] = "new";
+    world.Files.Copy_Over("D:\\backup", path);
+    world.Files.Disk.Contents.erase("D:\\backup");
+  };
+  Cut_At_Every_Step(copy, Old_Content(), "new");
+}
+
+TEST_F(Safe_Saving, A_power_cut_at_any_step_of_an_import_leaves_the_old_file_or_that_of_the_whole_import) {
+  const auto import = [](Safe_Saving_World& world) {
+    world.Channel.Open_For_Writing(path, world.File.Saving());
+    world.Channel.Write_Record("first");
+    world.Channel.Write_Out();
+    for (const char* const line : {"second", "third", "last"}) {
+      world.Channel.Go_Back_To(Record("first").size());
+      world.Channel.Write_Record(line);
+      world.Channel.Write_Out();
+    }
+    world.Channel.Close();
+  };
+  Cut_At_Every_Step(import, Old_Content(), Record("first") + Record("last"));
+}
+
+TEST_F(Safe_Saving, A_disk_that_is_full_at_any_byte_leaves_the_old_file_and_no_other) {
+  const std::size_t size = New_Content().size();
+  for (std::size_t room = 0; room < size; room += room < 100 || room + 100 > size ? 1 : 997) {
+    Safe_Saving_World world;
+    world.Files.Disk.Room = room;
+    world.Save();
+    EXPECT_EQ(world.Messages(), Lines{saving_failed});
+    EXPECT_EQ(world.Content(), Old_Content()) << room;
+    EXPECT_EQ(world.All_Files().size(), 1U) << room;
+    EXPECT_EQ(world.Files.Disk.Open_For_Writing, 0);
+  }
+}
+
+TEST_F(Safe_Saving, A_full_disk_takes_the_file_number_as_ever) {
+  Files.Disk.Room = 10;
+  Save();
+  EXPECT_TRUE(Is_Taken());
+  Channel.Give_Up();
+  EXPECT_FALSE(Is_Taken());
+  EXPECT_EQ(Content(), Old_Content());
+}
+
+TEST_F(Safe_Saving, A_file_that_may_not_be_written_fails_before_anything_is_done) {
+  Files.Disk.Blocked.insert(path);
+  EXPECT_EQ(Error_Of([&] { Channel.Open_For_Writing(path, File.Saving()); }), 70);
+  EXPECT_EQ(All_Files().size(), 1U);
+  Files.Disk.Blocked.clear();
+  EXPECT_FALSE(Is_Taken());
+}
+
+TEST_F(Safe_Saving, A_new_file_that_cannot_take_the_place_is_taken_away) {
+  Channel.Open_For_Writing(path, File.Saving());
+  Channel.Write_Record("8/3/2004=Tea");
+  Files.Disk.Blocks_Moves = true;
+  EXPECT_EQ(Error_Of([&] { Channel.Close(); }), 70);
+  EXPECT_EQ(Content(), Old_Content());
+  EXPECT_EQ(All_Files().size(), 1U);
+  EXPECT_TRUE(Is_Taken());
+}
+
+TEST_F(Safe_Saving, A_copy_that_fails_leaves_the_old_file_and_no_other) {
+  All_Files()["D:\\backup"] = "new";
+  Files.Disk.Blocks_Moves = true;
+  EXPECT_EQ(Error_Of([&] { Files.Copy_Over("D:\\backup", path); }), 70);
+  EXPECT_EQ(Content(), Old_Content());
+  EXPECT_EQ(All_Files().size(), 2U);
+}
+
+TEST_F(Safe_Saving, What_is_given_up_leaves_the_old_file_and_no_other) {
+  Channel.Open_For_Writing(path, File.Saving());
+  Channel.Write_Record("8/3/2004=Tea");
+  Channel.Write_Out();
+  Channel.Give_Up();
+  EXPECT_EQ(Content(), Old_Content());
+  EXPECT_EQ(All_Files().size(), 1U);
+}
+
+TEST_F(Safe_Saving, Without_the_consent_the_file_is_written_in_its_place_and_nothing_is_looked_for) {
+  Event_File_World world;
+  world.Put({"9/3/2004=Tea"});
+  world.Files.Disk.Contents[std::string(path) + ".~bak"] = "older";
+  world.File.Recover();
+  EXPECT_EQ(world.Files.Disk.Contents.size(), 2U);
+  EXPECT_EQ(world.File.Saving(), basic::Saving::In_Place);
+  world.Editor.Text = "Cake";
+  world.Files.Disk.Room = 5;
+  world.Change("8/3/2004", "Cake");
+  EXPECT_EQ(world.Content(), "");
+}
