@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "main/meridex.h"
+#include "settings/desktop_mode.h"
 #include "win32/win32_platform.h"
 
 namespace {
