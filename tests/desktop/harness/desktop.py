@@ -41,11 +41,12 @@ def record(line):
 class Desktop:
     def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
                  keyboard="us", shell=False, permissions=False, size=SIZE,
-                 modern=False):
+                 density=96, modern=False):
         """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values;
         shell: with the stand-in for the desktop's own windows, under which the calendar then lives; permissions: what is
-        read-only is so for root too; size: the screen's, in pixels; modern: with
+        read-only is so for root too; size: the screen's, in pixels; density: its dots per inch; modern: with
         the user's consent to today's desktops."""
+        geometry.set_density(density)
         self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, "Show Splash": 0, **(settings or {})}
         self.shell = shell
         self.now = datetime.datetime.fromisoformat(now)
@@ -66,6 +67,8 @@ class Desktop:
             self.prefix.preset("Software\\Meridex\\Settings", self.settings)
             if size != SIZE:
                 self.prefix.preset("Software\\Wine\\Explorer\\Desktops", {"meridex": "{}x{}".format(*size)})
+            if density != 96:
+                self.prefix.preset_number("Control Panel\\Desktop", "LogPixels", density)
             if modern:
                 self.prefix.preset("Software\\Meridex\\Desktop", {"Modern": 1})
             if colours:
@@ -123,13 +126,13 @@ class Desktop:
         if self.shell:
             return self._calendar_in_shell()
         return next((window for window in self.windows()
-                     if not window.framed and not window.title and window.rect.width in geometry.WINDOW_WIDTHS), None)
+                     if not window.framed and not window.title and window.rect.width in geometry.window_widths()), None)
 
     def _calendar_in_shell(self):
         for window in self.probe():
             for child in window["children"] if window["class"] == "Progman" else []:
                 rect = geometry.Rect(*child["rect"])
-                if child["visible"] and rect.width in geometry.WINDOW_WIDTHS:
+                if child["visible"] and rect.width in geometry.window_widths():
                     return Window(child["handle"], child["text"], PROGRAM, rect, False)
         return None
 
@@ -160,7 +163,7 @@ class Desktop:
 
     def _calendar_is_active(self):
         return any(window["active"] for window in self.probe()
-                   if window["rect"][2] - window["rect"][0] in geometry.WINDOW_WIDTHS)
+                   if window["rect"][2] - window["rect"][0] in geometry.window_widths())
 
     def find_window(self, title, seconds=15):
         """Waits for a window with a title bar, such as the editor."""
@@ -221,7 +224,7 @@ class Desktop:
 
     def menu_choose(self, number):
         """Chooses an item of the open popup menu, counted from 1; separators and grey items don't count."""
-        wait_for(lambda: any(not window.framed and window.rect.width not in geometry.WINDOW_WIDTHS
+        wait_for(lambda: any(not window.framed and window.rect.width not in geometry.window_widths()
                              for window in self.windows()), "a menu")
         self.screen.picture_at_rest()
         self.screen.key(*["Down"] * number, "Return")

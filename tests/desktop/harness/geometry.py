@@ -2,7 +2,7 @@
 import calendar
 from typing import NamedTuple
 
-TWIPS_PER_PIXEL = 15
+twips_per_pixel = 15.0
 
 THIN, SQUARE, SMALL = 0, 1, 2
 
@@ -55,7 +55,7 @@ TITLE_LEFT = 495
 
 def pixels(left, top, width, height):
     """A rectangle in twips as one in pixels."""
-    return Rect(*(round(value / TWIPS_PER_PIXEL) for value in (left, top, left + width, top + height)))
+    return Rect(*(round(value / twips_per_pixel) for value in (left, top, left + width, top + height)))
 
 
 def days_in_month(year, month):
@@ -135,7 +135,7 @@ class Layout:
 
     @property
     def window_size(self):
-        return tuple(round(value / TWIPS_PER_PIXEL) for value in self.window_twips)
+        return tuple(round(value / twips_per_pixel) for value in self.window_twips)
 
     def row_gap(self, row):
         """The strip between a row of boxes and the next, across the columns that both rows use."""
@@ -148,14 +148,21 @@ class Layout:
         return Rect(one.right, one.top, other.left, one.bottom)
 
 
-# The width of the window in each style.
-WINDOW_WIDTHS = [Layout(style, 2004, 3, 2).window_size[0] for style in STYLES]
+def set_density(dots_per_inch):
+    """From now on pixels are those of such a screen."""
+    global twips_per_pixel  # pylint: disable=global-statement
+    twips_per_pixel = 1440 / dots_per_inch
+
+
+def window_widths():
+    """The width of the window in each style, in pixels."""
+    return [Layout(style, 2004, 3, 2).window_size[0] for style in STYLES]
 
 
 def placed(alignment, window_twips, area, manual=(0, 0)):
     """Left and top of the window in pixels, for a position number and a work area in pixels."""
     width, height = window_twips
-    left, top, right, bottom = (value * TWIPS_PER_PIXEL for value in area)
+    left, top, right, bottom = (value * twips_per_pixel for value in area)
     lefts = {"left": left, "middle": round(right - left - width) // 2 + left, "right": right - width}
     tops = {"top": top, "middle": round(bottom - top - height) // 2 + top, "bottom": bottom - height}
     across, down = {
@@ -164,4 +171,4 @@ def placed(alignment, window_twips, area, manual=(0, 0)):
         8: ("right", "middle"), 9: ("left", "middle"),
     }[alignment]
     twips = manual if across is None else (lefts[across], tops[down])
-    return tuple(round(value / TWIPS_PER_PIXEL) for value in twips)
+    return tuple(round(value / twips_per_pixel) for value in twips)

@@ -74,6 +74,11 @@ class Prefix:
             file.write(f"\n[{registry_text(key)}] 1\n")
             file.writelines(f'"{registry_text(name)}"="{registry_text(value)}"\n' for name, value in values.items())
 
+    def preset_number(self, key, name, value):
+        assert not self.booted
+        with open(self.folder / "user.reg", "a", encoding="ascii", newline="\n") as file:
+            file.write(f'\n[{registry_text(key)}] 1\n"{name}"=dword:{value:08x}\n')
+
     def boot(self, stands):
         """On the real clock, so that only the program sees the false one; `stands` tells whether Wine's desktop has come
         up. It would go a second after the last program on it, so an idle command line stays there until the end."""
