@@ -3,7 +3,7 @@ import json
 from typing import NamedTuple
 
 from harness.desktop import PROBE, Desktop_Test
-from harness.geometry import WINDOW_WIDTHS, Rect
+from harness.geometry import Rect, window_widths
 from harness.hands import item_rect
 from harness.waiting import wait_for
 
@@ -22,7 +22,7 @@ class Places(NamedTuple):
         return any((rect.width, rect.height) == SPLASH for rect in self.rects)
 
     def calendar(self):
-        return any(rect.width in WINDOW_WIDTHS for rect in self.rects)
+        return any(rect.width in window_widths() for rect in self.rects)
 
 
 class Exit_Behind_The_Splash(Desktop_Test):

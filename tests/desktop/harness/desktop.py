@@ -51,6 +51,7 @@ class Desktop:
         self.shell = shell
         self.now = datetime.datetime.fromisoformat(now)
         self.programs = []
+        self.closed = False
         self._temporary = tempfile.mkdtemp(prefix="meridex-")
         self.screen = Screen(keyboard, size)
         try:
@@ -84,6 +85,9 @@ class Desktop:
         return self.screen.picture().pixel(1, 1) == DESKTOP_COLOUR
 
     def close(self):
+        if self.closed:
+            return
+        self.closed = True
         if hasattr(self, "prefix"):
             self.prefix.end()
         for program in self.programs:
