@@ -18,8 +18,8 @@ class Instances {
   /// Returns true if another instance of the same executable is running.
   virtual bool Other_Is_Running() = 0;
 
-  /// A top-level window with that whole title, in any letter case; 0 if there is none. Where several programs have one, it
-  /// is an instance's.
+  /// A top-level window with that whole title, in any letter case; 0 if there is none. Of several it may be any; the
+  /// system's service takes an instance's before another program's.
   virtual Window_Handle Find_Window(const std::string& title) = 0;
 
   /// Posts a message without parameters; doesn't wait for it to be handled.
