@@ -46,17 +46,9 @@ int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int pa
   return answered ? static_cast<int>(result) : platform::no_colour;
 }
 
-// The window keeps the style of a popup, since a window with the style of a child can never be active. Only during the
-// move it has the style of a child, since some systems make a popup active when it moves to another parent.
 bool Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
-  const HWND moved = To_Window(window);
-  const LONG style = GetWindowLongA(moved, GWL_STYLE);
-  constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
-  SetWindowLongA(moved, GWL_STYLE, (style & ~popup) | child);
-  SetParent(moved, To_Window(parent));
-  context_.Embedded = true;
-  SetWindowLongA(moved, GWL_STYLE, style);
-  return true;
+  Program_Window* const moved = context_.Windows.Around(To_Window(window));
+  return moved != nullptr && moved->Embed(To_Window(parent));
 }
 
 void Shell_Windows::Invalidate(platform::Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }

@@ -34,13 +34,23 @@ const char* Title_Of(const toolkit::Form& form) {
 
 /// The window that this one stays in front of. The shell's window, to which the calendar belongs as a part of the
 /// desktop, never owns windows of ours.
-HWND Owner_Of(const toolkit::Form& form) {
+HWND Owner_Of(const toolkit::Form& form, const Window_List& windows) {
   if (form.Owner == nullptr || !form.Owner->Loaded()) return nullptr;
-  const HWND owner = To_Window(form.Owner->Handle());
-  const auto ancestor = Find_Function<HWND WINAPI(HWND, UINT)>(GetModuleHandleA("user32.dll"), "GetAncestor");
-  const bool embedded = ancestor != nullptr && ancestor(owner, GA_PARENT) != GetDesktopWindow();
-  return embedded ? nullptr : owner;
+  const Program_Window* const owner = windows.Around(To_Window(form.Owner->Handle()));
+  return owner == nullptr || owner->Embedded() ? nullptr : owner->Window();
 }
+
+/// Counts one more for as long as it lives.
+class Counted {
+ public:
+  explicit Counted(int& count) : count_(count) { ++count_; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+  ~Counted() { --count_; }
+
+ private:
+  int& count_;
+};
 
 }  // namespace
 
@@ -79,23 +89,28 @@ Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
         return native != nullptr ? native->Window() : nullptr;
       }) {
   Register_Class(context.Instance);
-  const Frame_Style frame = Style_Of(form.Border);
-  window_.Reset(Made(CreateWindowExA(frame.Extended, class_name, Title_Of(form), frame.Style, place_.left, place_.top,
-                                     place_.right - place_.left, place_.bottom - place_.top, Owner_Of(form), nullptr,
-                                     context.Instance, nullptr)));
+  Make_Window();
+  context.Windows.Add(*this);
+}
+
+/// Makes the system's window for the form as it is, hidden, with all that it holds.
+void Form_Window::Make_Window() {
+  const Frame_Style frame = Style_Of(form_.Border);
+  window_.Reset(Made(CreateWindowExA(frame.Extended, class_name, Title_Of(form_), frame.Style, place_.left, place_.top,
+                                     place_.right - place_.left, place_.bottom - place_.top,
+                                     Owner_Of(form_, context_.Windows), nullptr, context_.Instance, nullptr)));
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  if (form.Border == toolkit::Form_Border::Fixed_Dialog) {
+  if (form_.Border == toolkit::Form_Border::Fixed_Dialog) {
     for (const auto& [kind, across, down] :
          {std::array{ICON_SMALL, SM_CXSMICON, SM_CYSMICON}, std::array{ICON_BIG, SM_CXICON, SM_CYICON}}) {
-      const HICON icon = context.Pictures.Frame_Icon(GetSystemMetrics(across), GetSystemMetrics(down));
+      const HICON icon = context_.Pictures.Frame_Icon(GetSystemMetrics(across), GetSystemMetrics(down));
       SendMessageA(Window(), WM_SETICON, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(icon));
     }
   }
-  if (!form.Accepts_Input()) EnableWindow(Window(), FALSE);
+  if (!form_.Accepts_Input()) EnableWindow(Window(), FALSE);
   surface_.Begin(Window());
-  for (toolkit::Control* const control : form.Controls())
-    if (auto native = Make_Native_Control(Window(), *control, context)) natives_.push_back(std::move(native));
-  context.Windows.Add(*this);
+  for (toolkit::Control* const control : form_.Controls())
+    if (auto native = Make_Native_Control(Window(), *control, context_)) natives_.push_back(std::move(native));
 }
 
 Form_Window::~Form_Window() {
@@ -184,20 +199,20 @@ RECT Form_Window::Wanted_Place() const {
 }
 
 void Form_Window::Set_Region(const toolkit::Region& region) {
-  if (!round_ && region == region_) return;
-  round_ = false;
-  region_ = region;
-  new_region_.Reset(Make_Region(region.Rects()));
+  const auto* const present = std::get_if<toolkit::Region>(&shape_);
+  if (present != nullptr && region == *present) return;
+  shape_ = region;
   cut_ = true;
 }
 
 void Form_Window::Set_Round_Region(int width, int height, int corner) {
-  round_ = true;
-  new_region_.Reset(CreateRoundRectRgn(0, 0, width, height, corner, corner));
+  shape_ = Round_Shape{width, height, corner};
   cut_ = true;
 }
 
 void Form_Window::Settle() {
+  const Counted settling(context_.Settling);
+  if (Embedded() && IsWindow(Window()) == 0) Make_Anew();
   if (std::exchange(moved_, false)) Settle_Place();
   if (std::exchange(cut_, false)) Settle_Region();
   if (std::exchange(natives_changed_, false)) Settle_Natives();
@@ -219,7 +234,8 @@ void Form_Window::Settle_Place() {
   place_ = wanted;
   if (Minimised()) return Place_For_Return();
   context_.Note_Pointer(form_.System().Input);
-  SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
+  const RECT place = Place_In_Parent();
+  SetWindowPos(Window(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
@@ -228,7 +244,7 @@ void Form_Window::Place_For_Return() const {
   WINDOWPLACEMENT placement = {};
   placement.length = sizeof placement;
   GetWindowPlacement(Window(), &placement);
-  placement.rcNormalPosition = place_;
+  placement.rcNormalPosition = Place_In_Parent();
   RECT work_area = {};
   if ((Style_Of(form_.Border).Extended & WS_EX_TOOLWINDOW) == 0)
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work_area, 0);
@@ -239,8 +255,12 @@ void Form_Window::Place_For_Return() const {
 
 void Form_Window::Settle_Region() {
   context_.Note_Pointer(form_.System().Input);
+  HRGN region = nullptr;
+  if (const auto* const rects = std::get_if<toolkit::Region>(&shape_)) region = Make_Region(rects->Rects());
+  if (const auto* const round = std::get_if<Round_Shape>(&shape_))
+    region = CreateRoundRectRgn(0, 0, round->Width, round->Height, round->Corner, round->Corner);
   // From here on the system owns the region.
-  SetWindowRgn(Window(), new_region_.Take(), TRUE);
+  SetWindowRgn(Window(), region, TRUE);
   surface_.Repaint_All();
 }
 

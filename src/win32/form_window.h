@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "toolkit/form.h"
@@ -54,8 +55,18 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Look_Changed(UINT message) override;
   bool Take_Key(const MSG& message) override;
 
+  bool Embed(HWND parent) override;
+  [[nodiscard]] bool Embedded() const override { return parent_ != nullptr; }
+
  private:
+  /// A rectangle with rounded corners, in pixels.
+  struct Round_Shape {
+    int Width, Height, Corner;
+  };
+
   static void Register_Class(HINSTANCE instance);
+  void Make_Window();
+  void Make_Anew();
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);
 
   // What a message means. Each returns true if the message is handled. **A handler may destroy this window: touch no
@@ -67,12 +78,14 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   [[nodiscard]] std::optional<toolkit::Control*> Under(POINT on_screen, toolkit::Control* control) const;
   void Capture_Changed(HWND to);
   bool Active_Changed(bool active);
+  void Close_Requested();
   void Place_Changed(const WINDOWPOS& place);
   [[nodiscard]] toolkit::Pointer Pointer_Over(const toolkit::Control* control) const;
   bool Set_Pointer(HWND over, WORD part) const;
   void Show_Pointer(const toolkit::Control* changed) const;
 
   [[nodiscard]] RECT Wanted_Place() const;
+  [[nodiscard]] RECT Place_In_Parent() const;
   void Settle_Place();
   void Place_For_Return() const;
   [[nodiscard]] HWND Next_Behind() const;
@@ -87,7 +100,9 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   toolkit::Form& form_;
   Window_Context& context_;
   Window_Owner window_;
-  RECT place_{};  // pixels, in the parent
+  HWND parent_ = nullptr;  // the shell's window that this one is a child of; nullptr for a top-level window
+  bool changing_parent_ = false;
+  RECT place_{};  // pixels of the screen
   Form_Surface surface_;
   std::vector<std::unique_ptr<Native_Control>> natives_;
   Brush_Owner ground_;  // behind the native controls
@@ -96,9 +111,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   Accessible_Form accessible_;
   // What is to be settled.
   bool moved_ = false, cut_ = false, natives_changed_ = true;
-  Region_Owner new_region_;
-  toolkit::Region region_;  // the present one, unless it is round
-  bool round_ = true;       // or there is none yet
+  std::variant<std::monostate, toolkit::Region, Round_Shape> shape_;  // what the window is cut to
   bool tip_check_posted_ = false;
 };
 

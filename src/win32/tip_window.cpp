@@ -52,6 +52,11 @@ void Tip_Window::Remove() {
   watching_ = false;
 }
 
+void Tip_Window::Forget() {
+  watching_ = false;
+  window_.Reset();
+}
+
 void Tip_Window::Relay(HWND owner, UINT message, WPARAM w, LPARAM l) const {
   if (!watching_) return;
   MSG copy = {};

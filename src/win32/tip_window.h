@@ -14,6 +14,8 @@ class Tip_Window {
   /// Shows the text while the pointer rests in the place (pixels of the owner's client area).
   void Watch(HWND owner, const RECT& place, const std::string& text);
   void Remove();
+  /// The owner has gone, and the tip window with it.
+  void Forget();
   [[nodiscard]] bool Watching() const { return watching_; }
 
   /// Passes a mouse message of the owner to the tip window.

@@ -40,11 +40,11 @@ platform::Box_Answer Answer_Of(int result, platform::Box_Buttons buttons) {
 }
 
 /// The window that owns a box, and would take it along when it is destroyed: the active dialog or the calendar, never a
-/// window that closes by itself. The calendar is the program's first window.
+/// window that closes by itself. The calendar is the program's first window; as a part of the desktop it owns nothing.
 const Program_Window* Owner_Of_Box(const Window_List& windows, const Program_Window* active) {
-  if (active == nullptr || active->Form().Border != toolkit::Form_Border::None) return active;
-  const Program_Window* const calendar = windows.All().front();
-  return calendar->Form().Visible() ? calendar : nullptr;
+  if (active != nullptr && active->Form().Border != toolkit::Form_Border::None) return active;
+  const Program_Window* const calendar = windows.All().empty() ? nullptr : windows.All().front();
+  return calendar != nullptr && calendar->Form().Visible() && !calendar->Embedded() ? calendar : nullptr;
 }
 
 }  // namespace
@@ -57,8 +57,9 @@ platform::Box_Answer Win32_Message_Box::Show(const std::string& title, const std
   // Another box may be active; then it is the owner.
   const HWND active = Own_Active_Window();
   Program_Window* const active_form = context_.Windows.Around(active);
-  const Program_Window* const owner = Owner_Of_Box(context_.Windows, active_form);
-  const HWND owner_window = active_form == nullptr ? active : owner != nullptr ? owner->Window() : nullptr;
+  const bool over_another_box = active != nullptr && active_form == nullptr;
+  const Program_Window* const owner = over_another_box ? nullptr : Owner_Of_Box(context_.Windows, active_form);
+  const HWND owner_window = owner != nullptr ? owner->Window() : over_another_box ? active : nullptr;
   int result = 0;
   {
     const Behind_Box behind(context_, active_form);

@@ -29,6 +29,13 @@ class Program_Window {
   /// Paints anew after a change of the system's colours (WM_SYSCOLORCHANGE) or of the style of all that is drawn.
   virtual void Look_Changed(UINT message) = 0;
 
+  /// Makes this window a child of one of the shell's. Returns false where it couldn't be seen there; it is an ordinary
+  /// window then.
+  virtual bool Embed(HWND parent) = 0;
+
+  /// Whether it is such a child. A box must not be owned by it: the shell's window would be the owner, and disabled.
+  [[nodiscard]] virtual bool Embedded() const = 0;
+
   /// A key on its way to this window or to one in it. Returns true if it is used up. **A handler may destroy this
   /// window: touch no member after calling one.**
   virtual bool Take_Key(const MSG& message) = 0;
@@ -79,6 +86,9 @@ struct Window_Context {
   /// True once a window of ours is a child of another program's window. The two programs then share one state of input,
   /// and the messages don't report all of its changes.
   bool Embedded = false;
+
+  /// How many calls of a window's Settle are under way. A message may come in the middle of one; a window must not go then.
+  int Settling = 0;
 
   /// Where the pointer was last seen, in pixels of the screen. The system also reports a move when a window changes
   /// under a pointer at rest: a report from the same place isn't a move.

@@ -4,7 +4,9 @@
 
 #include <cstdlib>
 #include <string>
+#include <vector>
 
+#include "paint_watch.h"
 #include "report.h"
 #include "wallpaper_painter.h"
 
@@ -15,12 +17,24 @@ namespace {
 constexpr COLORREF icon_text_back = RGB(0, 0, 128);
 constexpr COLORREF icon_text = RGB(255, 255, 255);
 
+constexpr DWORD no_redirection_bitmap = 0x00200000;
+constexpr DWORD child = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+
 WNDPROC list_view_proc = nullptr;
+std::vector<HWND> top_windows;
 
 std::string Environment(const char* name) {
   char text[64] = "";
   const DWORD length = GetEnvironmentVariableA(name, text, sizeof text);
   return length < sizeof text ? std::string(text) : std::string();
+}
+
+void Repaint(HWND top) { RedrawWindow(top, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN); }
+
+/// How far the screens reach beyond the first one on that side, in pixels.
+int Beyond(const char* side) {
+  const std::string name = std::string("MERIDEX_DESKTOP_BEYOND_") + side;
+  return std::atoi(Environment(name.c_str()).c_str());
 }
 
 LRESULT Move_Work_Area(WPARAM wparam, LPARAM lparam) {
@@ -29,22 +43,31 @@ LRESULT Move_Work_Area(WPARAM wparam, LPARAM lparam) {
   return SystemParametersInfoA(SPI_SETWORKAREA, 0, &area, 0);
 }
 
+void End_Or_Begin_Again(bool again) {
+  Report(again ? "the shell begins again" : "the shell ends");
+  for (const HWND window : top_windows) DestroyWindow(window);
+  top_windows.clear();
+  if (again) Make_Desktop_Windows();
+}
+
 LRESULT CALLBACK Shell_Proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_ERASEBKGND: {
       RECT area;
       GetClientRect(window, &area);
       Paint_Ground(reinterpret_cast<HDC>(wparam), area.right, area.bottom);
+      Put_Marks(reinterpret_cast<HDC>(wparam), window);
       return 1;
     }
     case WM_SETTINGCHANGE:
       Report("setting change");
-      RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      Repaint(window);
       break;
     case WM_LBUTTONDOWN:
       Report("press desktop %d %d", static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam)));
       break;
     case work_area_message: return Move_Work_Area(wparam, lparam);
+    case end_message: End_Or_Begin_Again(wparam != 0); return 0;
     default: break;
   }
   return DefWindowProcA(window, message, wparam, lparam);
@@ -63,6 +86,20 @@ LRESULT CALLBACK List_Proc(HWND window, UINT message, WPARAM wparam, LPARAM lpar
     default: break;
   }
   return CallWindowProcA(list_view_proc, window, message, wparam, lparam);
+}
+
+/// What is painted at the same moment as Wine's own desktop can be lost in part, so what lies on the ground is painted once
+/// more a little later.
+void CALLBACK Watch_Painting(HWND top, UINT, UINT_PTR, DWORD) {
+  constexpr int a_little = 10;  // calls
+  static int waiting = 0;
+  if (A_Mark_Is_Gone()) {
+    Report("paint again");
+    Repaint(top);
+    waiting = a_little;
+  } else if (waiting > 0 && --waiting == 0) {
+    RedrawWindow(top, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  }
 }
 
 void Register(const char* name) {
@@ -89,9 +126,28 @@ void Fill_Icons(HWND list) {
   }
 }
 
-void Make_List_View(HWND view, int width, int height) {
-  const HWND list = CreateWindowExA(0, WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | LVS_ICON, 0, 0,
-                                    width, height, view, nullptr, GetModuleHandleA(nullptr), nullptr);
+struct Kind {
+  DWORD Extended;
+  const char* Class;
+  DWORD Style;
+};
+
+/// As large as the screen, and larger by what lies left of it and above it.
+HWND Make_Window(const Kind& kind, const char* title, HWND parent, int left, int top) {
+  return CreateWindowExA(kind.Extended, kind.Class, title, kind.Style, left, top,
+                         GetSystemMetrics(SM_CXSCREEN) + Beyond("LEFT"), GetSystemMetrics(SM_CYSCREEN) + Beyond("TOP"),
+                         parent, nullptr, GetModuleHandleA(nullptr), nullptr);
+}
+
+HWND Make_Top_Window(const char* name, const char* title, DWORD extended) {
+  const HWND window =
+      Make_Window({extended, name, WS_POPUP | WS_CLIPCHILDREN}, title, nullptr, -Beyond("LEFT"), -Beyond("TOP"));
+  top_windows.push_back(window);
+  return window;
+}
+
+void Make_List_View(HWND view) {
+  const HWND list = Make_Window({0, WC_LISTVIEWA, child | LVS_ICON}, "", view, 0, 0);
   const std::string back = Environment("MERIDEX_DESKTOP_ICON_BACK");
   const LPARAM colour = back.empty() ? static_cast<LPARAM>(icon_text_back) : std::atoi(back.c_str());
   SendMessageA(list, LVM_SETBKCOLOR, 0, static_cast<LPARAM>(CLR_NONE));
@@ -106,22 +162,22 @@ void Make_List_View(HWND view, int width, int height) {
 
 void Make_Desktop_Windows() {
   InitCommonControls();
-  Register("Progman");
-  Register("SHELLDLL_DefView");
-  const int width = GetSystemMetrics(SM_CXSCREEN);
-  const int height = GetSystemMetrics(SM_CYSCREEN);
-  const HINSTANCE instance = GetModuleHandleA(nullptr);
+  for (const char* const name : {"Progman", "WorkerW", "SHELLDLL_DefView"}) Register(name);
   const std::string chain = Environment("MERIDEX_DESKTOP_CHAIN");
-  const HWND progman = CreateWindowExA(WS_EX_NOACTIVATE, "Progman", "Program Manager", WS_POPUP | WS_CLIPCHILDREN, 0, 0,
-                                       width, height, nullptr, nullptr, instance, nullptr);
+  const HWND progman = Make_Top_Window("Progman", "Program Manager", chain == "raised" ? no_redirection_bitmap : 0);
+  HWND icons_top = progman;
+  if (chain == "workerw") {
+    icons_top = Make_Top_Window("WorkerW", "", 0);
+    Make_Top_Window("WorkerW", "", 0);  // one for the picture, before the one with the icons
+  }
   if (chain != "progman") {
-    const HWND view =
-        CreateWindowExA(0, "SHELLDLL_DefView", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0, 0,
-                        width, height, progman, nullptr, instance, nullptr);
-    if (chain != "defview") Make_List_View(view, width, height);
+    const HWND view = Make_Window({0, "SHELLDLL_DefView", child | WS_CLIPCHILDREN}, "", icons_top, 0, 0);
+    if (chain != "defview") Make_List_View(view);
   }
   ShowWindow(progman, SW_SHOWNA);
-  UpdateWindow(progman);
+  ShowWindow(icons_top, SW_SHOWNA);
+  UpdateWindow(icons_top);
+  SetTimer(icons_top, 1, 20, Watch_Painting);
 }
 
 }  // namespace desktop

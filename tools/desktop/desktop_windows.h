@@ -5,12 +5,22 @@
 
 namespace desktop {
 
-/// Makes and shows the windows, over the whole screen. MERIDEX_DESKTOP_CHAIN at "progman" or "defview" stops the chain at
-/// that window; MERIDEX_DESKTOP_ICON_BACK is the icons' text background, -1 for none. The top window takes
-/// work_area_message.
+/// Makes and shows the windows, over the whole screen. The environment tells which shell they are of:
+///
+///   MERIDEX_DESKTOP_CHAIN        progman, defview   the chain stops at that window
+///                                workerw            the view is in a "WorkerW" before "Progman", behind another one
+///                                raised             "Progman" has no bitmap that its children are painted to
+///   MERIDEX_DESKTOP_ICON_BACK    the icons' text background, -1 for none
+///   MERIDEX_DESKTOP_BEYOND_LEFT  how far the desktop reaches beyond the screen on that side, in pixels
+///   MERIDEX_DESKTOP_BEYOND_TOP
+///
+/// "Progman" takes the messages below.
 void Make_Desktop_Windows();
 
 /// Moves the docked bars: wParam holds left and top of the new work area, lParam right and bottom, in pixels.
 constexpr UINT work_area_message = WM_APP + 1;
+
+/// The shell ends, and all its windows go; with wParam 1 it begins again at once, with new ones.
+constexpr UINT end_message = WM_APP + 2;
 
 }  // namespace desktop

@@ -24,6 +24,8 @@ WHOLE_SCREEN = (0, 0, *SIZE)
 DESKTOP_COLOUR = (58, 110, 165)
 SHELL_COLOUR = (40, 120, 90)
 WHITE = (255, 255, 255)
+SHELL_TOPS = ("Progman", "WorkerW")  # the stand-in's windows that can hold the icons
+CALENDAR_CLASS = "Meridex_Form"
 
 
 class Message_Box(NamedTuple):
@@ -134,7 +136,7 @@ class Desktop:
 
     def _calendar_in_shell(self):
         for window in self.probe():
-            for child in window["children"] if window["class"] == "Progman" else []:
+            for child in window["children"] if window["class"] in SHELL_TOPS else []:
                 rect = geometry.Rect(*child["rect"])
                 if child["visible"] and rect.width in geometry.window_widths():
                     return Window(child["handle"], child["text"], PROGRAM, rect, False)
@@ -181,6 +183,15 @@ class Desktop:
         status, output = self.prefix.run(PROBE)
         assert status == 0, f"the probe ended with status {status}; {self.prefix.complaints()}"
         return [json.loads(line) for line in output.decode("latin-1").splitlines() if line.startswith("{")]
+
+    def shell_window(self):
+        """"Progman", as the probe sees it; None if there is no shell."""
+        return next((window for window in self.probe() if window["class"] == "Progman"), None)
+
+    def lone_calendar(self):
+        """The calendar as an ordinary window, as the probe sees it; None if it isn't one or doesn't show."""
+        return next((window for window in self.probe() if window["class"] == CALENDAR_CLASS and window["visible"] and
+                     window["rect"][2] - window["rect"][0] in geometry.WINDOW_WIDTHS), None)
 
     def post(self, window, message, first=0, second=0):
         """Posts a message to a window of the prefix, named by its handle."""

@@ -1,0 +1,88 @@
+// A form's window as a child of the shell's window: how it gets there, its place in it, and how it is made anew when the
+// shell has gone and taken it along.
+#include "toolkit/input.h"
+#include "win32/form_window.h"
+
+namespace win32 {
+
+namespace {
+
+// Of systems newer than the first ones.
+constexpr LONG no_redirection_bitmap = 0x00200000;  // what children of such a window paint isn't kept for them
+constexpr LONG layered = 0x00080000;                // keeps it itself
+constexpr DWORD by_alpha = 2;
+
+/// The window keeps the style of a popup, since a window with the style of a child can never be active. Only during the
+/// move it has the style of a child, since some systems make a popup active when it moves to another parent.
+void Move_Under(HWND window, HWND parent) {
+  const LONG style = GetWindowLongA(window, GWL_STYLE);
+  constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
+  SetWindowLongA(window, GWL_STYLE, (style & ~popup) | child);
+  SetParent(window, parent);
+  SetWindowLongA(window, GWL_STYLE, style);
+}
+
+/// Comes after the move: a window that is layered while it moves can stay unseen. Not every system lets a child be layered.
+bool Become_Layered(HWND window) {
+  const auto set_attributes = Find_Function<BOOL WINAPI(HWND, COLORREF, BYTE, DWORD)>(GetModuleHandleA("user32.dll"),
+                                                                                      "SetLayeredWindowAttributes");
+  if (set_attributes == nullptr) return false;
+  SetWindowLongA(window, GWL_EXSTYLE, GetWindowLongA(window, GWL_EXSTYLE) | layered);
+  return (GetWindowLongA(window, GWL_EXSTYLE) & layered) != 0 && set_attributes(window, 0, 255, by_alpha) != 0;
+}
+
+void Become_Plain(HWND window) {
+  const LONG style = GetWindowLongA(window, GWL_EXSTYLE);
+  if ((style & layered) != 0) SetWindowLongA(window, GWL_EXSTYLE, style & ~layered);
+}
+
+}  // namespace
+
+bool Form_Window::Embed(HWND parent) {
+  context_.Note_Pointer(form_.System().Input);
+  changing_parent_ = true;
+  Become_Plain(Window());
+  Move_Under(Window(), parent);
+  const bool seen = (GetWindowLongA(parent, GWL_EXSTYLE) & no_redirection_bitmap) == 0 || Become_Layered(Window());
+  if (!seen) {
+    Become_Plain(Window());
+    Move_Under(Window(), nullptr);
+  }
+  parent_ = seen ? parent : nullptr;
+  context_.Embedded = seen;
+  const RECT place = Place_In_Parent();
+  SetWindowPos(Window(), HWND_TOP, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+  changing_parent_ = false;
+  surface_.Repaint_All();
+  return seen;
+}
+
+RECT Form_Window::Place_In_Parent() const {
+  RECT place = place_;
+  if (parent_ != nullptr) MapWindowPoints(nullptr, parent_, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+/// The shell's window has been destroyed, and this one with it: the form gets a new one, an ordinary one behind all others,
+/// as the desktop was.
+void Form_Window::Make_Anew() {
+  toolkit::Input& input = form_.System().Input;
+  if (input.Mouse_Window() == &form_) input.Mouse_Lost();
+  if (context_.Active == this) {
+    context_.Active = nullptr;
+    input.Activity_Went(form_);
+  }
+  parent_ = nullptr;
+  context_.Embedded = false;
+  tip_.Forget();
+  natives_.clear();
+  Make_Window();
+  natives_changed_ = true;
+  if (!std::holds_alternative<std::monostate>(shape_)) Settle_Region();
+  if (!form_.Visible()) return;
+  constexpr UINT stay = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+  SetWindowPos(Window(), HWND_BOTTOM, 0, 0, 0, 0, stay | SWP_SHOWWINDOW);
+  surface_.Repaint_All();
+}
+
+}  // namespace win32

@@ -1,0 +1,146 @@
+// A window as a child of the shell's: its place, and what becomes of it when the shell's window goes.
+#include "tests/win32/window_on_screen.h"
+#include "toolkit/command_button.h"
+#include "toolkit/text_box.h"
+
+namespace {
+
+constexpr LONG layered = 0x00080000;
+constexpr DWORD no_redirection_bitmap = 0x00200000;
+
+class Form_Embedding : public Window_On_Screen {
+ protected:
+  Form_Embedding() {
+    Text.Place({150, 150, 1500, 600});
+    Button.Place({150, 1500, 1500, 600});
+    Window.On_Close = [this] { ++Closed; };
+    Show();
+  }
+  ~Form_Embedding() override {
+    Window.Unload();
+    DestroyWindow(Parent);
+  }
+
+  bool Embed(DWORD extended = 0) {
+    Parent = CreateWindowExA(extended, "Static", "", WS_POPUP | WS_VISIBLE, -300, -200, 1600, 1200, nullptr, nullptr,
+                             nullptr, nullptr);
+    return Platform.System().Shell.Set_Parent(Window.Handle(), win32::To_Handle(Parent));
+  }
+
+  void End_Parent() {
+    DestroyWindow(Parent);
+    Wait(50);
+  }
+
+  [[nodiscard]] RECT Place() const {
+    RECT place = {};
+    GetWindowRect(Handle(), &place);
+    return place;
+  }
+
+  toolkit::Text_Box Text{Window, "Text"};
+  toolkit::Command_Button Button{Window, "Button"};
+  HWND Parent = nullptr;
+  int Closed = 0;
+};
+
+/// Asks the window to close, once, in the middle of the system's work on its place.
+LRESULT CALLBACK Closes_While_It_Moves(HWND window, UINT message, WPARAM w, LPARAM l) {
+  const auto before = reinterpret_cast<WNDPROC>(GetPropA(window, "before"));
+  if (message == WM_WINDOWPOSCHANGING && RemovePropA(window, "ask") != nullptr) SendMessageA(window, WM_CLOSE, 0, 0);
+  return CallWindowProcA(before, window, message, w, l);
+}
+
+}  // namespace
+
+TEST_F(Form_Embedding, A_window_in_a_parent_keeps_its_place_on_the_screen) {
+  const RECT before = Place();
+  EXPECT_EQ(before.left, 100);
+  ASSERT_TRUE(Embed());
+  EXPECT_EQ(GetAncestor(Handle(), GA_PARENT), Parent);
+  RECT now = Place();
+  EXPECT_TRUE(EqualRect(&before, &now)) << now.left << ' ' << now.top;
+  EXPECT_EQ(Window.Left(), 1500);
+  Window.Move(3000, 2250);
+  Wait(10);
+  now = Place();
+  EXPECT_EQ(now.left, 200);
+  EXPECT_EQ(now.top, 150);
+}
+
+TEST_F(Form_Embedding, A_place_that_the_user_gives_it_there_is_told_as_one_of_the_screen) {
+  ASSERT_TRUE(Embed());
+  SetWindowPos(Handle(), nullptr, 300 + 40, 200 + 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  EXPECT_EQ(Window.Left(), 600);
+  EXPECT_EQ(Window.Top(), 450);
+}
+
+TEST_F(Form_Embedding, A_parent_without_a_bitmap_makes_it_layered) {
+  ASSERT_TRUE(Embed(no_redirection_bitmap));
+  EXPECT_NE(GetWindowLongA(Handle(), GWL_EXSTYLE) & layered, 0);
+  EXPECT_EQ(GetAncestor(Handle(), GA_PARENT), Parent);
+}
+
+TEST_F(Form_Embedding, With_its_parent_gone_it_is_made_anew_with_all_that_it_held) {
+  Text.Text = "Choir";
+  Button.Enabled = false;
+  ASSERT_TRUE(Embed());
+  const RECT before = Place();
+  const HWND old = Handle();
+  End_Parent();
+  ASSERT_NE(Handle(), old);
+  ASSERT_TRUE(IsWindow(Handle()));
+  EXPECT_TRUE(IsWindowVisible(Handle()));
+  const RECT now = Place();
+  EXPECT_TRUE(EqualRect(&before, &now));
+  char text[32] = "";
+  GetWindowTextA(Child("Edit"), text, sizeof text);
+  EXPECT_STREQ(text, "Choir");
+  EXPECT_FALSE(IsWindowEnabled(Child("Button")));
+  Button.Enabled = true;
+  EXPECT_TRUE(IsWindowEnabled(Child("Button"))) << "the form's changes reach the new one";
+}
+
+TEST_F(Form_Embedding, It_can_be_embedded_again_after_that) {
+  ASSERT_TRUE(Embed());
+  End_Parent();
+  ASSERT_TRUE(Embed());
+  EXPECT_EQ(GetAncestor(Handle(), GA_PARENT), Parent);
+}
+
+TEST_F(Form_Embedding, Its_region_is_the_new_windows_too) {
+  Window.Set_Round_Region(200, 100, 20);
+  ASSERT_TRUE(Embed());
+  End_Parent();
+  RECT box = {};
+  const HRGN region = CreateRectRgn(0, 0, 0, 0);
+  ASSERT_NE(GetWindowRgn(Handle(), region), ERROR);
+  GetRgnBox(region, &box);
+  DeleteObject(region);
+  EXPECT_LE(box.right, 200);
+  EXPECT_LE(box.bottom, 100);
+}
+
+TEST_F(Form_Embedding, A_hidden_window_stays_hidden) {
+  Window.Hide();
+  ASSERT_TRUE(Embed());
+  End_Parent();
+  ASSERT_TRUE(IsWindow(Handle()));
+  EXPECT_FALSE(IsWindowVisible(Handle()));
+}
+
+TEST_F(Form_Embedding, A_close_request_that_comes_while_the_window_settles_waits_its_turn) {
+  SetPropA(Handle(), "ask", Handle());
+  SetPropA(Handle(), "before", reinterpret_cast<HANDLE>(GetWindowLongPtrA(Handle(), GWLP_WNDPROC)));
+  SetWindowLongPtrA(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Closes_While_It_Moves));
+  Window.On_Close = [this] {
+    ++Closed;
+    Window.Unload();
+  };
+  Window.Move(3000, 3000);
+  Window.Refresh();  // settles
+  EXPECT_TRUE(Window.Loaded());
+  Wait(50);
+  EXPECT_FALSE(Window.Loaded());
+  EXPECT_EQ(Closed, 1);
+}
