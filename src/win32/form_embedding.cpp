@@ -14,12 +14,13 @@ constexpr DWORD by_alpha = 2;
 
 /// The window keeps the style of a popup, since a window with the style of a child can never be active. Only during the
 /// move it has the style of a child, since some systems make a popup active when it moves to another parent.
-void Move_Under(HWND window, HWND parent) {
+bool Move_Under(HWND window, HWND parent) {
   const LONG style = GetWindowLongA(window, GWL_STYLE);
   constexpr LONG popup = static_cast<LONG>(WS_POPUP), child = WS_CHILD;
   SetWindowLongA(window, GWL_STYLE, (style & ~popup) | child);
-  SetParent(window, parent);
+  const bool moved = SetParent(window, parent) != nullptr;
   SetWindowLongA(window, GWL_STYLE, style);
+  return moved;
 }
 
 /// Comes after the move: a window that is layered while it moves can stay unseen. Not every system lets a child be layered.
@@ -38,12 +39,20 @@ void Become_Plain(HWND window) {
 
 }  // namespace
 
+/// A child can't own windows: they would be the shell's, and go with it.
+void Form_Window::Give_Up_Owned() {
+  tip_.Forget();
+  for (const Program_Window* const other : context_.Windows.All())
+    if (GetWindow(other->Window(), GW_OWNER) == Window()) SetWindowLongPtrA(other->Window(), GWLP_HWNDPARENT, 0);
+}
+
 bool Form_Window::Embed(HWND parent) {
   context_.Note_Pointer(form_.System().Input);
   changing_parent_ = true;
+  Give_Up_Owned();
   Become_Plain(Window());
-  Move_Under(Window(), parent);
-  const bool seen = (GetWindowLongA(parent, GWL_EXSTYLE) & no_redirection_bitmap) == 0 || Become_Layered(Window());
+  const bool keeps_bitmap = (GetWindowLongA(parent, GWL_EXSTYLE) & no_redirection_bitmap) == 0;
+  const bool seen = Move_Under(Window(), parent) && (keeps_bitmap || Become_Layered(Window()));
   if (!seen) {
     Become_Plain(Window());
     Move_Under(Window(), nullptr);

@@ -65,6 +65,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   };
 
   static void Register_Class(HINSTANCE instance);
+  void Give_Up_Owned();
   void Make_Window();
   void Make_Anew();
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM w, LPARAM l);

@@ -101,6 +101,28 @@ TEST_F(Form_Embedding, With_its_parent_gone_it_is_made_anew_with_all_that_it_hel
   EXPECT_TRUE(IsWindowEnabled(Child("Button"))) << "the form's changes reach the new one";
 }
 
+TEST_F(Form_Embedding, A_window_that_it_owned_before_stays_when_the_parent_goes) {
+  toolkit::Form owned(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog, &Window);
+  owned.Show();
+  const HWND handle = win32::To_Window(owned.Handle());
+  EXPECT_EQ(GetWindow(handle, GW_OWNER), Handle());
+  ASSERT_TRUE(Embed());
+  EXPECT_EQ(GetWindow(handle, GW_OWNER), nullptr);
+  End_Parent();
+  EXPECT_TRUE(IsWindow(handle));
+  owned.Unload();
+}
+
+TEST_F(Form_Embedding, Without_a_parent_it_stays_an_ordinary_window) {
+  const RECT before = Place();
+  EXPECT_FALSE(Platform.System().Shell.Set_Parent(Window.Handle(), 1));
+  const RECT now = Place();
+  EXPECT_TRUE(EqualRect(&before, &now));
+  Window.Move(3000, 2250);
+  Wait(10);
+  EXPECT_EQ(Place().left, 200);
+}
+
 TEST_F(Form_Embedding, It_can_be_embedded_again_after_that) {
   ASSERT_TRUE(Embed());
   End_Parent();
