@@ -76,7 +76,7 @@ TEST_F(Line_Merge_Test, A_text_with_an_equals_sign_is_no_date) {
 
 TEST_F(Line_Merge_Test, A_year_of_three_digits_finds_the_event_of_every_year) {
   Set({"1/19999=a", "1/1/9999=b"});
-  Line_Merge merge(Lines, Channel, path);
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
   merge.Merge("1/1/100", "c");
   EXPECT_EQ(Present(), (Texts{"1/19999=a", "1/1/9999=b + c"}));
 }
