@@ -39,6 +39,6 @@ TEST_F(First_Box, A_window_of_labels_does_without_the_library_and_a_box_has_it) 
 }
 
 TEST_F(First_Box, The_report_of_a_failure_has_the_library) {
-  EXPECT_EQ(Platform.Run([] { throw std::bad_alloc(); }), 1);
+  EXPECT_EQ(Platform.Run([] { throw std::bad_alloc(); }), win32::Win32_Platform::End::Failure);
   EXPECT_TRUE(loaded_under_box);
 }
