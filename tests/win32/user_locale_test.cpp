@@ -63,12 +63,12 @@ TEST(User_Locale_Test, A_year_that_two_digits_do_not_tell_is_listed_first) {
 TEST(User_Locale_Test, A_form_that_is_not_read_is_listed_with_the_year_first) {
   const Own_Value short_date(LOCALE_SSHORTDATE, "'on 'dd/MM'x'yyyy");
   EXPECT_EQ(Readable({In_The_Evening(2004).Day, 0}), "2004-03-05");
-  const Own_Value time(LOCALE_STIMEFORMAT, "'at 'HH'x'mm");
+  const Own_Value time(LOCALE_STIMEFORMAT, "'at 'HH:mm:ss");
   EXPECT_EQ(Readable(In_The_Evening(2004)), "2004-03-05 21:00:00");
 }
 
 TEST(User_Locale_Test, Numbers_are_read_in_the_order_of_the_user) {
-  const Own_Value order(LOCALE_IDATE, "0");
+  const Own_Value short_date(LOCALE_SSHORTDATE, "M/d/yyyy");
   win32::User_Locale locale;
   EXPECT_EQ(locale.Read_Date("3/5/2004"), In_The_Evening(2004).Day);
   EXPECT_EQ(locale.Read_Moment("3/5/04 9:00 PM"), In_The_Evening(2004));
