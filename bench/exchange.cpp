@@ -1,5 +1,6 @@
 // What CSV files cost natively, over files in memory: the export of as many events as there can be, and the import of ten
-// thousand rows, each of which rewrites the event file. The options are Google Benchmark's.
+// thousand rows, at best each of a new day, which is written behind the others, at worst all of the first days of a file of
+// thirty thousand, which is written anew from there each time. The options are Google Benchmark's.
 #include <benchmark/benchmark.h>
 
 #include <memory>
@@ -92,8 +93,31 @@ void Import_Csv(benchmark::State& state) {
   program.Expect("calendar.dat", events);
 }
 
+void Import_Csv_Into_The_First_Lines(benchmark::State& state) {
+  constexpr int lines = 30000, rows = 10000, days = 7;
+  std::string before, in = "Subject,Start Date,Description\r\n", after;
+  for (int i = 0; i < lines; ++i) {
+    const std::string line = "\"" + Date_Of(first_day + i) + "=An event of an ordinary length";
+    before += line + "\"\r\n";
+    after += line;
+    for (int row = i; i < days && row < rows; row += days) after += " + Event";
+    after += "\"\r\n";
+  }
+  for (int i = 0; i < rows; ++i) in += "\"Event\",\"" + Date_Of(first_day + i % days) + "\"\r\n";
+  Open_Program program;
+  program.Put("in.csv", in);
+  for (auto _ : state) {
+    state.PauseTiming();
+    program.Put("calendar.dat", before);
+    state.ResumeTiming();
+    program.Press("Import_Btn", 2, "in.csv", "Successfully imported 10000 ");
+  }
+  program.Expect("calendar.dat", after);
+}
+
 BENCHMARK(Export_Csv)->Unit(benchmark::kMillisecond);
 BENCHMARK(Import_Csv)->Unit(benchmark::kMillisecond);
+BENCHMARK(Import_Csv_Into_The_First_Lines)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
 

@@ -33,28 +33,35 @@ std::optional<std::array<Number, 3>> Split(std::string_view text) {
   return text.empty() ? std::optional(numbers) : std::nullopt;
 }
 
-int Full_Year(const Number& year) {
+int Full_Year(const Number& year, int newest_short_year) {
   if (year.Digits > 2) return year.Value;
-  return year.Value + (year.Value < 30 ? 2000 : 1900);
+  const int of_its_century = newest_short_year - newest_short_year % 100 + year.Value;
+  return of_its_century > newest_short_year ? of_its_century - 100 : of_its_century;
+}
+
+std::optional<Serial_Day> Day_Of(int year, int month, int day) {
+  if (year < 100 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) return std::nullopt;
+  const Serial_Day serial = Date_Serial(year, month, day);
+  if (Civil_From_Serial(serial).Day != day) return std::nullopt;
+  return serial;
 }
 
 }  // namespace
 
-std::optional<Serial_Day> Read_Numeric_Date(std::string_view text, Date_Order order) {
+std::optional<Serial_Day> Read_Numeric_Date(std::string_view text, const Date_Rules& rules) {
   const auto numbers = Split(Trim_Blanks(text));
   if (!numbers) return std::nullopt;
   auto [day, month, year] = *numbers;
+  Date_Order order = rules.Order;
   if (day.Digits > 2 || day.Value > 31) order = Date_Order::Year_First;
   else if (order == Date_Order::Year_First && year.Digits > 2) order = Date_Order::Day_First;
   if (order == Date_Order::Year_First) std::swap(day, year);
   if (order == Date_Order::Month_First) std::swap(day, month);
   if (month.Value > 12 && day.Value <= 12) std::swap(day, month);
-  const int full_year = Full_Year(year);
-  if (full_year < 100 || full_year > 9999 || month.Value < 1 || month.Value > 12 || day.Value < 1 || day.Value > 31)
-    return std::nullopt;
-  const Serial_Day serial = Date_Serial(full_year, month.Value, day.Value);
-  if (Civil_From_Serial(serial).Day != day.Value) return std::nullopt;
-  return serial;
+  const auto serial = Day_Of(Full_Year(year, rules.Newest_Short_Year), month.Value, day.Value);
+  const auto& [first, second, third] = *numbers;
+  if (serial || third.Digits > 2) return serial;
+  return Day_Of(Full_Year(first, rules.Newest_Short_Year), second.Value, third.Value);
 }
 
 }  // namespace basic

@@ -41,6 +41,21 @@ void File_Channel::Write_Record(std::string_view line) {
   End_Record();
 }
 
+void File_Channel::Write_Records(std::string_view records, std::span<const std::size_t> lengths) {
+  Flush();
+  const std::size_t room = output_->Write(records);
+  if (room < records.size()) {
+    std::size_t whole = 0;
+    for (const std::size_t length : lengths) {
+      if (whole + length > room) break;
+      whole += length;
+    }
+    output_->Cut(written_ + whole);
+    throw Run_Error(Error_Number::Disk_Full);
+  }
+  written_ += room;
+}
+
 void File_Channel::Write_Line(std::string_view line) {
   buffer_ += line;
   buffer_ += "\r\n";
@@ -82,6 +97,7 @@ void File_Channel::Give_Up() noexcept {
 bool File_Channel::Holds(std::string_view path) const { return taken_ && Same_Letters(path_, path); }
 
 void File_Channel::Flush() {
+  if (buffer_.empty()) return;
   const std::size_t room = output_->Write(buffer_);
   if (room < buffer_.size()) {
     const auto end = std::upper_bound(record_ends_.begin(), record_ends_.end(), room);

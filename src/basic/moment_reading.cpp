@@ -72,28 +72,38 @@ int Month_Of_Name(std::string_view word, const Date_Words& words) {
   return 0;
 }
 
+bool Is_Weekday(std::string_view word, const Date_Words& words) {
+  const auto is_it = [&](std::string_view name) {
+    // Some systems write a point behind the short name, which is no part of a word here.
+    return Same_Letters(word, name.substr(0, name.find('.')));
+  };
+  return std::any_of(words.Weekdays.begin(), words.Weekdays.end(), is_it) ||
+         std::any_of(words.Short_Weekdays.begin(), words.Short_Weekdays.end(), is_it);
+}
+
 /// The name takes its place among the numbers, between the day and the year.
-std::optional<Serial_Day> Read_Named_Date(std::string_view text, const Date_Words& words) {
+std::optional<Serial_Day> Read_Named_Date(std::string_view text, const Date_Rules& rules, const Date_Words& words) {
   std::vector<std::string_view> pieces = Words_Of(text);
+  if (pieces.size() == 4 && Is_Weekday(pieces.front(), words)) pieces.erase(pieces.begin());
   if (pieces.size() != 3) return std::nullopt;
   const auto name = std::find_if(pieces.begin(), pieces.begin() + 2,
                                  [&](std::string_view piece) { return Month_Of_Name(piece, words) != 0; });
   if (name == pieces.begin() + 2) return std::nullopt;
   std::string numbers(pieces[name == pieces.begin() ? 1 : 0]);
   numbers.append("/").append(std::to_string(Month_Of_Name(*name, words))).append("/").append(pieces[2]);
-  return Read_Numeric_Date(numbers, Date_Order::Day_First);
+  return Read_Numeric_Date(numbers, {Date_Order::Day_First, rules.Newest_Short_Year});
 }
 
-std::optional<Serial_Day> Read_Day(std::string_view text, Date_Order order, const Date_Words& words) {
-  const auto day = Read_Numeric_Date(text, order);
-  return day ? day : Read_Named_Date(text, words);
+std::optional<Serial_Day> Read_Day(std::string_view text, const Date_Rules& rules, const Date_Words& words) {
+  const auto day = Read_Numeric_Date(text, rules);
+  return day ? day : Read_Named_Date(text, rules, words);
 }
 
 }  // namespace
 
-std::optional<Moment> Read_Moment(std::string_view text, Date_Order order, const Date_Words& words) {
+std::optional<Moment> Read_Moment(std::string_view text, const Date_Rules& rules, const Date_Words& words) {
   text = Trim_Blanks(text);
-  if (const auto day = Read_Day(text, order, words)) return Moment{*day, 0};
+  if (const auto day = Read_Day(text, rules, words)) return Moment{*day, 0};
   const std::size_t separator = text.find(words.Time_Separator);
   if (words.Time_Separator.empty() || separator == std::string_view::npos) return std::nullopt;
   const std::size_t blank = text.substr(0, separator).rfind(' ');
@@ -101,7 +111,7 @@ std::optional<Moment> Read_Moment(std::string_view text, Date_Order order, const
   const auto time = Read_Time(text.substr(blank + 1), words.Time_Separator);
   if (!time) return std::nullopt;
   if (date.empty()) return Moment{0, *time};
-  const auto day = Read_Day(date, order, words);
+  const auto day = Read_Day(date, rules, words);
   return day ? std::optional(Moment{*day, *time}) : std::nullopt;
 }
 

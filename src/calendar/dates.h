@@ -28,6 +28,11 @@ class Dates {
   }
   [[nodiscard]] basic::Moment Read_Moment(const std::string& text) const { return locale_.Read_Moment(text); }
 
+  /// Append the short date, and the general form of a moment, so that they read back as the same day: the date has no
+  /// blanks, and is written with the year first where the locale's form would be read as another day or not at all.
+  void Append_Readable_Date(std::string& to, basic::Serial_Day day) const;
+  void Append_Readable_Moment(std::string& to, const basic::Moment& moment) const;
+
   /// The first day of the grid's week: the setting's, or the locale's if the setting is 0. Throws error 5 for a setting
   /// outside 0 to 7.
   [[nodiscard]] basic::Weekday First_Day_Of_Week(const settings::Settings& settings) const;

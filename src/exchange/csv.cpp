@@ -107,25 +107,10 @@ void Csv::Read_CSV_Record(std::string_view line) {
   }
   if (subject.empty() && description.empty()) return;
   std::string entry;
-  Append_Staged_Date(entry, date);
+  dates_.Append_Readable_Moment(entry, date);
   entry += behind_date;
   entry += Event_Text(subject, description);
   lists_.Events().Add_Item(std::move(entry));
-}
-
-/// The general form; where that doesn't read back as the same moment, as with a year of two digits, the year first.
-void Csv::Append_Staged_Date(std::string& to, const basic::Moment& moment) const {
-  std::string date;
-  dates_.Append_General_Date(date, moment);
-  try {
-    if (dates_.Read_Moment(date).Day == moment.Day) {
-      to += date;
-      return;
-    }
-  } catch (const basic::Run_Error&) {
-    // A form that isn't read at all is no better than one that is read as another day.
-  }
-  basic::Append_Date(to, moment, moment.Seconds() == 0 ? "yyyy-mm-dd" : "yyyy-mm-dd HH:mm:ss", dates_.Words());
 }
 
 std::string Csv::Backup_Path() const { return transfer_.Files.Program_Folder() + "\\data.bak"; }

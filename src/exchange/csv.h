@@ -25,7 +25,6 @@ class Csv {
   bool Import_Chosen_File();
   bool Read_CSV_Headings(std::string_view line);
   void Read_CSV_Record(std::string_view line);
-  void Append_Staged_Date(std::string& to, const basic::Moment& moment) const;
 
   void Backup_Data();
   void Restore_Data();

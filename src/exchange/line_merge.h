@@ -29,8 +29,10 @@ class Line_Merge {
 
  private:
   [[nodiscard]] int First_Line_Of(const std::string& date_key) const;
-  void Note_Key(int line);
-  void Write_Temp_Lst(int first_changed);
+  void Note_Line(int line);
+  [[nodiscard]] std::size_t Start_Of(int record) const;
+  void Lengthen(int line, std::size_t start, const std::string& text);
+  void Write_Temp_Lst(int first_changed, std::size_t start);
 
   static constexpr int none = std::numeric_limits<int>::max();
 
@@ -40,7 +42,8 @@ class Line_Merge {
   const basic::Saving how_;
   std::unordered_map<std::string, int> first_of_key_;  // the first line of each date as it stands in the lines
   int first_without_date_ = none;
-  std::vector<std::size_t> starts_;  // where in the file each line's record begins, and the next one would
+  std::string records_;               // the lines as the file holds them
+  std::vector<std::size_t> lengths_;  // of each record
   bool open_ = false;
 };
 

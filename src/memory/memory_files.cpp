@@ -115,6 +115,7 @@ void Memory_Files::Read_Whole(const std::string& path, std::string& buffer) {
   Check_Place(path);
   const Entry* const file = Find(path);
   if (file == nullptr) throw Run_Error(Error_Number::File_Not_Found);
+  if (file->Locked) throw Run_Error(Error_Number::Permission_Denied);
   buffer = file->Bytes;
 }
 
@@ -235,6 +236,7 @@ void Memory_Files::Put(const std::string& path, std::string_view bytes) {
   Entry& file = Make_File(path);
   file.Bytes = bytes;
   file.Full = false;
+  file.Locked = false;
 }
 
 std::optional<std::string> Memory_Files::Bytes(const std::string& path) const {

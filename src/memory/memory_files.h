@@ -1,5 +1,5 @@
-// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up two
-// faults: a folder in a file's place, and a file that can be opened but takes no bytes.
+// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up three
+// faults: a folder in a file's place, a file that can be opened but takes no bytes, and one that can't be opened to be read.
 #pragma once
 
 #include <map>
@@ -58,6 +58,10 @@ class Memory_Files : public platform::Files {
   /// a new one that is to take its place. A copy over it may be as long as the file is now.
   void Fill_Up(const std::string& path);
 
+  /// From now on the file, which must exist, is there but can't be read, as one that another program keeps for itself: error
+  /// 70. It can be put again.
+  void Lock(const std::string& path) { Find(path)->Locked = true; }
+
   struct Listed {
     std::string Name;
     bool Is_Folder;
@@ -74,6 +78,7 @@ class Memory_Files : public platform::Files {
     basic::Moment Changed;
     bool Is_Folder = false;
     bool Full = false;
+    bool Locked = false;
     std::size_t Room = 0;  // how long a copy over a full one may be
     int Writers = 0;       // how often the file is open for writing
   };

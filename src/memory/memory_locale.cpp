@@ -84,13 +84,13 @@ void Memory_Locale::Append_General_Date(std::string& to, const basic::Moment& mo
 }
 
 basic::Moment Memory_Locale::Read_Moment(const std::string& text) {
-  const auto moment = basic::Read_Moment(text, present_->Order, present_->Words);
+  const auto moment = basic::Read_Moment(text, {present_->Order}, present_->Words);
   if (!moment) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
   return *moment;
 }
 
 basic::Serial_Day Memory_Locale::Read_Date(const std::string& text) {
-  const auto day = basic::Read_Numeric_Date(text, present_->Order);
+  const auto day = basic::Read_Numeric_Date(text, {present_->Order});
   if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
   return *day;
 }

@@ -112,7 +112,7 @@ void Events_Overview::Add_2_List(std::string_view line) {
   } else {
     entry += basic::To_Text(Date_Added_Count);
     entry += '=';
-    Append_Readable_Date(entry, day);
+    dates_.Append_Readable_Date(entry, day);
     Date_Added_Count += 1;
   }
   if (of_every_year) entry += every_year_marker;
@@ -135,24 +135,9 @@ std::string Events_Overview::Line_By_Day_Number(std::string_view entry) const {
   const Entry parts = Read_Entry(entry);
   std::string line;
   line.reserve(entry.size() + 2 * behind_every_year_date.size());
-  Append_Readable_Date(line, basic::To_Int32(parts.Date));
+  dates_.Append_Readable_Date(line, basic::To_Int32(parts.Date));
   Append_Rest(line, parts);
   return line;
-}
-
-void Events_Overview::Append_Readable_Date(std::string& to, basic::Serial_Day day) const {
-  std::string date;
-  dates_.Append_Short_Date(date, day);
-  std::erase(date, ' ');
-  try {
-    if (dates_.Read_Date(date) == day) {
-      to += date;
-      return;
-    }
-  } catch (const basic::Run_Error&) {
-    // A form that isn't read at all is no better than one that is read as another day.
-  }
-  basic::Append_Date(to, {day, 0}, "yyyy-mm-dd", dates_.Words());
 }
 
 basic::Serial_Day Events_Overview::Clicked_Day() const {

@@ -55,9 +55,6 @@ class Events_Overview : public exchange::Overview_Lists {
   /// The clicked entry's date. Throws error 13 where it is none.
   [[nodiscard]] basic::Serial_Day Clicked_Day() const;
 
-  /// The locale's short date without blanks; where that doesn't read back as the same day, the year first.
-  void Append_Readable_Date(std::string& to, basic::Serial_Day day) const;
-
   calendar::Desk& desk_;
   events::Event_File& event_file_;
   calendar::Dates& dates_;

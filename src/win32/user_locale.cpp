@@ -1,6 +1,5 @@
 #include "win32/user_locale.h"
 
-#include "basic/date_reading.h"
 #include "win32/handle.h"
 
 namespace win32 {
@@ -65,6 +64,18 @@ basic::Date_Order Present_Order() {
   return number == "2" ? basic::Date_Order::Year_First : basic::Date_Order::Day_First;
 }
 
+/// The last of the hundred years that the user means by two digits. The first systems don't tell it.
+int Newest_Short_Year() {
+  using Teller = int WINAPI(LCID, CALID, CALTYPE, char*, int, DWORD*);
+  constexpr CALTYPE as_number = 0x20000000, newest_short_year = 0x30;
+  Teller* const tell = Find_Function<Teller>(GetModuleHandleA("kernel32.dll"), "GetCalendarInfoA");
+  DWORD year = 0;
+  if (tell == nullptr ||
+      tell(LOCALE_USER_DEFAULT, CAL_GREGORIAN, as_number | newest_short_year, nullptr, 0, &year) == 0 || year > 9999)
+    return basic::Date_Rules().Newest_Short_Year;
+  return static_cast<int>(year);
+}
+
 }  // namespace
 
 User_Locale::User_Locale() {
@@ -100,22 +111,23 @@ void User_Locale::Append_Long_Date(std::string& to, basic::Serial_Day day) {
 }
 
 /// Thousands of dates are read in a row: the system is asked once in a second.
-basic::Date_Order User_Locale::Order() {
+const basic::Date_Rules& User_Locale::Rules() {
   constexpr DWORD a_second = 1000;  // milliseconds
   const DWORD now = GetTickCount();
   if (!asked_ || now - asked_at_ >= a_second) {
-    order_ = Present_Order();
+    rules_ = {Present_Order(), Newest_Short_Year()};
     asked_ = true;
     asked_at_ = now;
   }
-  return order_;
+  return rules_;
 }
 
 basic::Serial_Day User_Locale::Read_Date(const std::string& text) { return Read_Moment(text).Day; }
 
-/// Numbers are read here, names and times by the system's automation.
+/// What names a day of a year is read here, by one rule for years of two digits; the rest by the system's automation, which
+/// may have another.
 basic::Moment User_Locale::Read_Moment(const std::string& text) {
-  if (const auto day = basic::Read_Numeric_Date(text, Order())) return {*day, 0};
+  if (const auto moment = basic::Read_Moment(text, Rules(), words_)) return *moment;
   return automation_.Moment_Of_Text(text);
 }
 

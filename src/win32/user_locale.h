@@ -1,7 +1,7 @@
 // The user's locale, with the changes that the user made to it.
 #pragma once
 
-#include "basic/date_reading.h"
+#include "basic/moment_reading.h"
 #include "platform/locale.h"
 #include "win32/automation_dates.h"
 
@@ -20,10 +20,10 @@ class User_Locale final : public platform::Locale {
   basic::Serial_Day Read_Date(const std::string& text) override;
 
  private:
-  basic::Date_Order Order();
+  const basic::Date_Rules& Rules();
 
   basic::Date_Words words_;
-  basic::Date_Order order_ = basic::Date_Order::Day_First;
+  basic::Date_Rules rules_;
   bool asked_ = false;
   unsigned long asked_at_ = 0;  // milliseconds since the system's start
   Automation_Dates automation_;

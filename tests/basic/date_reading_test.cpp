@@ -13,7 +13,7 @@ constexpr std::array all_orders{Date_Order::Day_First, Date_Order::Month_First, 
 
 /// As "year-month-day", "none" where it is no date.
 std::string Read(std::string_view text, Date_Order order) {
-  const std::optional<Serial_Day> day = Read_Numeric_Date(text, order);
+  const std::optional<Serial_Day> day = Read_Numeric_Date(text, {order});
   if (!day) return "none";
   const basic::Civil_Date date = basic::Civil_From_Serial(*day);
   return std::to_string(date.Year) + '-' + std::to_string(date.Month) + '-' + std::to_string(date.Day);
@@ -70,6 +70,31 @@ TEST(Read_Numeric_Date, Years_of_one_or_two_digits_are_those_from_1930_to_2029) 
   EXPECT_EQ(Day_First("5/3/004"), "none") << "three digits are meant as they stand";
 }
 
+TEST(Read_Numeric_Date, Years_of_one_or_two_digits_are_the_hundred_that_end_with_the_newest_one) {
+  const auto year_of = [](const char* text, int newest) {
+    const auto day = Read_Numeric_Date(text, {Date_Order::Day_First, newest});
+    return day ? basic::Civil_From_Serial(*day).Year : 0;
+  };
+  EXPECT_EQ(year_of("5/3/49", 2049), 2049);
+  EXPECT_EQ(year_of("5/3/50", 2049), 1950);
+  EXPECT_EQ(year_of("5/3/0", 2049), 2000);
+  EXPECT_EQ(year_of("5/3/99", 2099), 2099);
+  EXPECT_EQ(year_of("5/3/0", 2099), 2000);
+  EXPECT_EQ(year_of("5/3/0", 2000), 2000);
+  EXPECT_EQ(year_of("5/3/1", 2000), 1901);
+  EXPECT_EQ(year_of("50/3/5", 2049), 1950);
+  EXPECT_EQ(year_of("5/3/2049", 1999), 2049);
+  EXPECT_EQ(year_of("5/3/50", 99), 0) << "a year below 100 is none";
+}
+
+TEST(Read_Numeric_Date, Takes_the_first_number_for_the_year_where_there_is_no_such_day) {
+  EXPECT_EQ(Day_First("31/2/04"), "1931-2-4");
+  EXPECT_EQ(Day_First("29/2/03"), "2029-2-3");
+  EXPECT_EQ(Month_First("2/30/4"), "none");
+  EXPECT_EQ(Day_First("31/2/2004"), "none") << "2004 is no day";
+  EXPECT_EQ(Day_First("31/2/32"), "none");
+}
+
 TEST(Read_Numeric_Date, Knows_the_length_of_each_month) {
   EXPECT_EQ(Day_First("29/2/2004"), "2004-2-29");
   EXPECT_EQ(Day_First("29/2/2003"), "none");
@@ -100,8 +125,8 @@ TEST(Read_Numeric_Date, Reads_back_every_day_as_it_is_written) {
   for (Serial_Day day = Date_Serial(1999, 1, 1); day < Date_Serial(2005, 1, 1); ++day) {
     const basic::Civil_Date date = basic::Civil_From_Serial(day);
     const std::string d = std::to_string(date.Day), m = std::to_string(date.Month), y = std::to_string(date.Year);
-    EXPECT_EQ(Read_Numeric_Date(d + "/" + m + "/" + y, Date_Order::Day_First), day);
-    EXPECT_EQ(Read_Numeric_Date(m + "/" + d + "/" + y, Date_Order::Month_First), day);
-    EXPECT_EQ(Read_Numeric_Date(y + "/" + m + "/" + d, Date_Order::Year_First), day);
+    EXPECT_EQ(Read_Numeric_Date(d + "/" + m + "/" + y, {Date_Order::Day_First}), day);
+    EXPECT_EQ(Read_Numeric_Date(m + "/" + d + "/" + y, {Date_Order::Month_First}), day);
+    EXPECT_EQ(Read_Numeric_Date(y + "/" + m + "/" + d, {Date_Order::Year_First}), day);
   }
 }

@@ -308,6 +308,35 @@ TEST_F(File_Channel_Test, Writes_out_and_goes_on) {
   EXPECT_EQ(Content(), Record("a") + Record("b"));
 }
 
+TEST_F(File_Channel_Test, Writes_records_that_stand_ready) {
+  Channel.Open_For_Writing(path);
+  Channel.Write_Record("a");
+  const std::vector<std::size_t> lengths{Record("b").size(), Record("cd").size()};
+  Channel.Write_Records(Record("b") + Record("cd"), lengths);
+  Channel.Write_Record("e");
+  Channel.Close();
+  EXPECT_EQ(Content(), Record("a") + Record("b") + Record("cd") + Record("e"));
+}
+
+TEST_F(File_Channel_Test, Cuts_behind_a_whole_one_of_the_records_that_stand_ready) {
+  const std::vector<std::string> records{Record("a"), Record("b"), Record(std::string(100'000, 'c')), Record("d")};
+  const std::vector<std::size_t> lengths{records[1].size(), records[2].size(), records[3].size()};
+  for (std::size_t whole = 0; whole < records.size(); ++whole) {
+    std::string expected;
+    for (std::size_t i = 0; i < whole; ++i) expected += records[i];
+    Disk.Room = expected.size() + 3;
+    basic::File_Channel channel(Disk);
+    channel.Open_For_Writing(path);
+    channel.Write_Record("a");
+    EXPECT_EQ(Error_Of([&] {
+                channel.Write_Records(records[1] + records[2] + records[3], lengths);
+                channel.Write_Out();
+              }),
+              61);
+    EXPECT_EQ(Content(), expected) << whole;
+  }
+}
+
 TEST_F(File_Channel_Test, Goes_back_and_writes_anew_from_there) {
   Channel.Open_For_Writing(path);
   for (const char* const line : {"a", "b", "c"}) Channel.Write_Record(line);

@@ -8,8 +8,8 @@ using basic::Serial_Day;
 
 namespace {
 
-const basic::Date_Words words{{"", "", "", "", "", "", ""},
-                              {"", "", "", "", "", "", ""},
+const basic::Date_Words words{{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"},
+                              {"Sun.", "Mon.", "Tue.", "Wed.", "Thu.", "Fri.", "Sat."},
                               {"January", "February", "M\xE4rz", "April", "May", "June", "July", "August", "September",
                                "October", "November", "December"},
                               "/",
@@ -19,7 +19,7 @@ constexpr Serial_Day fifth_of_april_2004 = 38082;
 
 /// Day 1 stands for a text that isn't read.
 Moment Read(std::string_view text, Date_Order order = Date_Order::Day_First) {
-  return basic::Read_Moment(text, order, words).value_or(Moment{1, 0});
+  return basic::Read_Moment(text, {order}, words).value_or(Moment{1, 0});
 }
 
 Moment At(Serial_Day day, int hour, int minute, int second) {
@@ -43,8 +43,27 @@ TEST(Moment_Reading_Test, Reads_the_names_of_months_and_their_beginnings) {
     EXPECT_EQ(Read(text), At(fifth_of_april_2004, 0, 0, 0)) << text;
   EXPECT_EQ(Read("5 M\xE4r 2004").Day, fifth_of_april_2004 - 31);
   for (const char* const text :
-       {"5 Ap 2004", "5 Aprils 2004", "5 2004 April", "April 2004", "April 31 2004", "Fri 5 April 2004"})
+       {"5 Ap 2004", "5 Aprils 2004", "5 2004 April", "April 2004", "April 31 2004", "5 April", "on 5 April 2004"})
     EXPECT_EQ(Read(text), unread) << text;
+}
+
+TEST(Moment_Reading_Test, Passes_over_a_weekday_in_front) {
+  for (const char* const text : {"Monday, April 5, 2004", "Mon 5 April 2004", "mon. 5 apr 04", "Friday, 5 April 2004"})
+    EXPECT_EQ(Read(text), At(fifth_of_april_2004, 0, 0, 0)) << text;
+  EXPECT_EQ(Read("Monday, 5 April 2004 9:05"), At(fifth_of_april_2004, 9, 5, 0));
+  for (const char* const text : {"Monday", "M 5 April 2004", "5 April 2004 Monday", "Monday Monday 5 April 2004"})
+    EXPECT_EQ(Read(text), unread) << text;
+}
+
+TEST(Moment_Reading_Test, All_forms_know_the_same_years_by_two_digits) {
+  const auto year_of = [](const char* text, int newest) {
+    const auto moment = basic::Read_Moment(text, {Date_Order::Day_First, newest}, words);
+    return moment ? basic::Civil_From_Serial(moment->Day).Year : 0;
+  };
+  for (const char* const text : {"5/4/35", "5/4/35 9:05", "5 April 35", "April 5, 35 9:05 PM", "Monday, 5 April 35"}) {
+    EXPECT_EQ(year_of(text, 2029), 1935) << text;
+    EXPECT_EQ(year_of(text, 2049), 2035) << text;
+  }
 }
 
 TEST(Moment_Reading_Test, Reads_a_time_behind_the_date) {

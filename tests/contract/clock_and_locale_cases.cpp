@@ -70,6 +70,25 @@ TEST_F(Clock_And_Locale_Cases, A_text_that_is_no_date_is_error_13) {
     EXPECT_EQ(Error_Of([&] { Locale.Read_Date(text); }), 13) << text;
 }
 
+TEST_F(Clock_And_Locale_Cases, Two_digits_mean_the_same_year_in_all_forms) {
+  const auto year_of = [&](const std::string& text) {
+    return basic::Civil_From_Serial(Locale.Read_Moment(text).Day).Year;
+  };
+  int oldest = 9999, newest = 0;
+  for (int number = 0; number < 100; ++number) {
+    const std::string year = std::to_string(number / 10) + std::to_string(number % 10);
+    const int full = year_of("5/3/" + year);
+    EXPECT_EQ(full % 100, number);
+    for (const std::string& text :
+         {"5/3/" + year + " 9:05", "5 March " + year, "Mar 5, " + year, "Friday, 5 March " + year})
+      EXPECT_EQ(year_of(text), full) << text;
+    EXPECT_EQ(basic::Civil_From_Serial(Locale.Read_Date("5/3/" + year)).Year, full);
+    oldest = std::min(oldest, full);
+    newest = std::max(newest, full);
+  }
+  EXPECT_EQ(newest - oldest, 99);
+}
+
 TEST_F(Clock_And_Locale_Cases, A_moment_has_a_general_form_that_reads_back) {
   std::string text = "at ";
   Locale.Append_General_Date(text, {fifth_of_march_2004, 0});

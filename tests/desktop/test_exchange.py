@@ -8,6 +8,7 @@ import tempfile
 from harness import exchange
 from harness.desktop import Desktop_Test
 from harness.hands import wait_for_file
+from harness.settings import LIST
 from harness.waiting import wait_for
 
 HEADINGS = ["Subject", "Start Date", "Description", "Start Time", "End Date", "End Time"]
@@ -108,6 +109,82 @@ class Csv_Files(Exchange_Test):
         wait_for(lambda: desktop.framed_window("Meridex"), "the end of the import", 60)
         self.told(desktop, "Successfully imported 10000 events")
         self.assertEqual(desktop.data_file.read_bytes().count(b"\r\n"), 10000)
+
+
+class Dates_Of_The_User(Exchange_Test):
+    INTERNATIONAL = "HKCU\\Control Panel\\International"
+
+    def opened_with(self, short_date, **world):
+        """The window with the list of events shown, and then turned to the tab of imports."""
+        desktop = self.desktop(settings={**exchange.SETTINGS, "Settings Tab": 1}, **world)
+        desktop.prefix.set_registry_value(self.INTERNATIONAL, "sShortDate", short_date)
+        desktop.started()
+        self.tab = exchange.Exchange(desktop)
+        desktop.screen.key("Tab", "Up")
+        desktop.screen.picture_at_rest()
+        desktop.screen.key("shift+Tab", *["Right"] * (exchange.TAB - 1))
+        desktop.screen.picture_at_rest()
+        return desktop
+
+    def bring_in(self, desktop, *dates):
+        rows = "".join(f'"{chr(ord("a") + i)}","{date}"\r\n' for i, date in enumerate(dates))
+        (desktop.folder / "in.csv").write_bytes(b"Subject,Start Date,Description\r\n" + rows.encode(CODE_PAGE))
+        self.tab.bring_in("in.csv")
+        self.told(desktop, f"Successfully imported {len(dates)} events")
+
+    def imported(self, desktop, *dates):
+        self.bring_in(desktop, *dates)
+        return desktop.data_file.read_bytes().decode(CODE_PAGE).split("\r\n")[:-1]
+
+    def remove(self, desktop, line, list_rect):
+        """Clicks a line of the events' list, and asks for its removal. Gives the question, and agrees."""
+        place = list_rect[0] + 30, list_rect[1] + 8 + 13 * line
+        desktop.screen.click(*place)
+        desktop.screen.picture_at_rest()
+        desktop.screen.double_click(*place)
+        text = desktop.message_box().text
+        desktop.answer("y")
+        return text.split("\r\n")[-1].split("\n")[-1]
+
+    def test_british_dates(self):
+        desktop = self.opened()
+        self.assertEqual(
+            self.imported(desktop, "3/4", "5 Sept 2004", "Fri 12 March 2004", "Friday, March 26, 2004", "5 April", "14:30",
+                          "5 May 60", "5/6/60", "5/7/20", "5/8/60 9:00", "29/2/03"),
+            ['"3/4/2004=a"', '"5/9/2004=b"', '"12/3/2004=c"', '"26/3/2004=d"', '"5/4/2004=e"', '"30/12/1899=f"', '"5/5/1960=g"',
+             '"5/6/1960=h"', '"5/7/2020=i"', '"5/8/1960=j"', '"3/2/2029=k"'])
+
+    def test_american_dates(self):
+        desktop = self.opened(language="en_US")
+        self.assertEqual(
+            self.imported(desktop, "3/4/2004", "13/3/2004", "March 5, 2004", "Friday, March 12, 2004 1:05:09 PM", "5/6/60",
+                          "7/8"),
+            ['"4/3/2004=a"', '"13/3/2004=b"', '"5/3/2004=c"', '"12/3/2004=d"', '"6/5/1960=e"', '"8/7/2004=f"'])
+
+    def test_german_dates(self):
+        desktop = self.opened(language="de_DE")
+        self.assertEqual(
+            self.imported(desktop, "5. März 2004", "6.4.2004 13:05", "7. Mai 60", "8. Okt 2004", "Freitag, 12. März 2004",
+                          "31.12.2004", "3/4/2004"),
+            ['"5/3/2004=a"', '"6/4/2004=b"', '"7/5/1960=c"', '"8/10/2004=d"', '"12/3/2004=e"', '"31/12/2004=f"', '"3/4/2004=g"'])
+
+    def test_a_short_date_with_a_year_of_two_digits_keeps_the_year(self):
+        desktop = self.opened_with("dd/MM/yy")
+        self.assertEqual(self.imported(desktop, "5/3/1920", "6/3/1920 13:05", "7/3/2004 13:05", "8/3/04"),
+                         ['"5/3/1920=a"', '"6/3/1920=b"', '"7/3/2004=c"', '"8/3/2004=d"'])
+        events = self.tab.list_of_events()
+        self.assertEqual(self.remove(desktop, 0, events), "1920-03-05  -  a")
+        self.assertEqual(self.remove(desktop, 0, events), "1920-03-06 13:05:00  -  b")
+        self.assertEqual(self.remove(desktop, 1, events), "08/03/04  -  d")
+        wait_for_file(desktop, b'"7/3/2004=c"\r\n')
+
+    def test_a_short_date_with_blanks_is_clicked_in_the_list(self):
+        desktop = self.opened_with("d. M. yyyy", events=["8/3/2004=Tea"])
+        self.bring_in(desktop, "9/3/2004", "10/3/2004 13:05")
+        events = self.tab.list_of_events()
+        self.assertEqual(self.remove(desktop, 1, events), "10.3.2004 13:05:00  -  b")
+        self.assertEqual(self.remove(desktop, 0, events), "9.3.2004  -  a")
+        wait_for_file(desktop, b'"8/3/2004=Tea"\r\n')
 
 
 class Csv_Files_And_An_Office(Exchange_Test):

@@ -1,5 +1,6 @@
 // Imports of files that are large, broken or unlucky, by the whole program.
 #include <chrono>
+#include <ctime>
 
 #include "tests/exchange/exchange_world.h"
 
@@ -12,14 +13,16 @@ std::string Done(int count) {
   return "Successfully imported " + std::to_string(count) + " events from the CSV file...\r\n\r\nC:\\Meridex\\in.csv\n";
 }
 
+std::string Date_Of(basic::Serial_Day day) {
+  const basic::Civil_Date date = basic::Civil_From_Serial(day);
+  return std::to_string(date.Day) + "/" + std::to_string(date.Month) + "/" + std::to_string(date.Year);
+}
+
 /// Rows of as many days, one after the other.
 std::string Rows(int count) {
   std::string rows = headings;
-  for (int i = 0; i < count; ++i) {
-    const basic::Civil_Date day = basic::Civil_From_Serial(40000 + i);
-    rows += "\"Event " + std::to_string(i) + "\",\"" + std::to_string(day.Day) + "/" + std::to_string(day.Month) + "/" +
-            std::to_string(day.Year) + "\",\"at nine\"\r\n";
-  }
+  for (int i = 0; i < count; ++i)
+    rows += "\"Event " + std::to_string(i) + "\",\"" + Date_Of(40000 + i) + "\",\"at nine\"\r\n";
   return rows;
 }
 
@@ -48,6 +51,25 @@ TEST_F(Csv_Program_Test, Ten_thousand_rows_of_one_day_come_in_in_time) {
   std::string expected = "\"1/1/2010=first";
   for (int i = 0; i < 10000; ++i) expected += " + Event";
   EXPECT_EQ(File("calendar.dat"), expected + "\"\r\n\"2/1/2010=second\"\r\n");
+}
+
+TEST_F(Csv_Program_Test, Ten_thousand_rows_of_the_first_of_thirty_thousand_lines_come_in_in_time) {
+  constexpr int lines = 30000, days = 7;
+  std::string before, rows = headings, expected;
+  for (int i = 0; i < lines; ++i) {
+    const std::string line = "\"" + Date_Of(40000 + i) + "=An event of some length";
+    before += line + "\"\r\n";
+    expected += line;
+    for (int row = i; i < days && row < 10000; row += days) expected += " + Event";
+    expected += "\"\r\n";
+  }
+  for (int i = 0; i < 10000; ++i) rows += "\"Event\",\"" + Date_Of(40000 + i % days) + "\"\r\n";
+  Put("calendar.dat", before);
+  Put("in.csv", rows);
+  const std::clock_t start = std::clock();
+  EXPECT_EQ(Import_Csv(), Done(10000));
+  EXPECT_LT((std::clock() - start) / CLOCKS_PER_SEC, 20) << "seconds of processor time";
+  EXPECT_TRUE(File("calendar.dat") == expected);
 }
 
 TEST_F(Csv_Program_Test, More_rows_than_a_list_counts_fail_and_leave_the_file) {
@@ -109,6 +131,31 @@ TEST_F(Csv_Program_Test, An_event_file_that_is_too_long_fails_with_its_own_messa
   EXPECT_EQ(File("calendar.dat"), many);
 }
 
+TEST_F(Csv_Program_Test, Without_rows_an_event_file_that_is_too_long_fails_in_its_own_place_alone) {
+  std::string many;
+  for (int i = 0; i < 32768; ++i) many += "\"1/1/2010=x\"\r\n";
+  Put("calendar.dat", many);
+  Put("in.csv", headings);
+  // The second one is that of the month's drawing, since the first has left the file open.
+  EXPECT_EQ(Import_Csv(), "Error loading in data file.\nError loading in data file.\n" + Done(0));
+  EXPECT_EQ(File("calendar.dat"), many);
+  EXPECT_EQ(File("data.bak"), many);
+  Put("in.csv", Rows(1));
+  EXPECT_EQ(Import_Csv(), failed) << "the file number is still taken";
+}
+
+TEST_F(Csv_Program_Test, A_file_that_another_program_keeps_for_itself_fails_the_import) {
+  const std::string before = "\"1/1/2010=first\"\r\n";
+  Put("calendar.dat", before);
+  Put("in.csv", Rows(1));
+  World.Platform.Files.Lock(Path("in.csv"));
+  EXPECT_EQ(Import_Csv(), failed);
+  EXPECT_EQ(File("calendar.dat"), before);
+  EXPECT_EQ(File("data.bak"), "no file");
+  Put("in.csv", Rows(1));
+  EXPECT_EQ(Import_Csv(), Done(1)) << "the file number is free";
+}
+
 TEST_F(Csv_Program_Test, Undoing_that_fails_ends_the_program) {
   Put("calendar.dat", "\"1/1/2010=first\"\r\n");
   Put("in.csv", Rows(1));
@@ -122,13 +169,17 @@ TEST_F(Csv_Program_Test, Undoing_that_fails_ends_the_program) {
 }
 
 TEST_F(Csv_Program_Test, The_pointer_shows_the_wait_and_no_longer) {
-  Put("in.csv", Rows(3));
-  EXPECT_FALSE(World.Platform.Windows_And_Timers.Busy());
-  (void)Import_Csv();
-  EXPECT_FALSE(World.Platform.Windows_And_Timers.Busy());
-  Put("in.csv", "broken");
-  (void)Import_Csv();
-  EXPECT_FALSE(World.Platform.Windows_And_Timers.Busy());
+  const auto& windows = World.Platform.Windows_And_Timers;
+  const auto waits_of = [&](const std::string& file) {
+    const int before = windows.Times_Busy();
+    Put("in.csv", file);
+    (void)Import_Csv();
+    EXPECT_FALSE(windows.Busy());
+    return windows.Times_Busy() - before;
+  };
+  EXPECT_EQ(waits_of("broken"), 0);
+  EXPECT_EQ(waits_of(headings + std::string("\"a\",\"soon\"\r\n")), 1) << "while the rows are read";
+  EXPECT_EQ(waits_of(Rows(3)), 2) << "and while they are merged";
 }
 
 TEST_F(Csv_Program_Test, A_failure_gives_the_window_the_default_pointer) {
@@ -155,11 +206,7 @@ TEST_F(Csv_Program_Test, The_window_that_goes_under_the_question_ends_the_import
 
 TEST_F(Csv_Program_Test, The_largest_export_has_a_row_for_each_event) {
   std::string file;
-  for (int i = 0; i < 32767; ++i) {
-    const basic::Civil_Date day = basic::Civil_From_Serial(30000 + i);
-    file += "\"" + std::to_string(day.Day) + "/" + std::to_string(day.Month) + "/" + std::to_string(day.Year) +
-            "=Event\"\r\n";
-  }
+  for (int i = 0; i < 32767; ++i) file += "\"" + Date_Of(30000 + i) + "=Event\"\r\n";
   Put("calendar.dat", file);
   EXPECT_EQ(Export_Csv(), "Successfully exported 32767 events to the CSV file...\r\n\r\nC:\\Meridex\\out.csv\n");
   const std::string rows = File("out.csv");

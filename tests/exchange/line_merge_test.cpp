@@ -123,6 +123,36 @@ TEST_F(Line_Merge_Test, A_full_disk_keeps_whole_records_and_the_file_number) {
   }
 }
 
+TEST_F(Line_Merge_Test, What_comes_before_the_line_that_has_changed_is_not_written_again) {
+  Set({"1/1/2004=" + std::string(1000, 'a'), "2/1/2004=b", "3/1/2004=c"});
+  Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);
+  merge.Merge("4/1/2004", "d");
+  constexpr std::size_t room = 1000;
+  Disk.Room = room;
+  merge.Merge("2/1/2004", "x");
+  const std::string rewritten = "\"2/1/2004=b + x\"\r\n\"3/1/2004=c\"\r\n\"4/1/2004=d\"\r\n";
+  EXPECT_EQ(room - Disk.Room, rewritten.size());
+  EXPECT_EQ(Content(), Whole());
+}
+
+TEST_F(Line_Merge_Test, A_full_disk_cuts_behind_a_whole_record_also_where_a_line_in_the_middle_changes) {
+  const Texts before{"1/1/2004=first", "2/1/2004=second", "3/1/2004=third"};
+  for (std::size_t room = 0; room < 50; ++room) {
+    Set(before);
+    basic::File_Channel channel(Disk);
+    Disk.Room = 1000;
+    Line_Merge merge(Lines, channel, path, basic::Saving::In_Place);
+    merge.Merge("3/1/2004", "x");
+    Disk.Room = room;
+    const int error = Error_Of([&] { merge.Merge("2/1/2004", "y"); });
+    const std::string rewritten = "\"2/1/2004=second + y\"\r\n\"3/1/2004=third + x\"\r\n";
+    ASSERT_EQ(error, room < rewritten.size() ? 61 : 0) << room;
+    ASSERT_EQ(Content(), Whole().substr(0, Content().size()));
+    ASSERT_TRUE(Content().starts_with("\"1/1/2004=first\"\r\n") && Content().ends_with("\"\r\n")) << room;
+    channel.Give_Up();
+  }
+}
+
 TEST_F(Line_Merge_Test, The_last_line_is_the_32767th) {
   for (int i = 0; i < 32767; ++i) Lines.Append("1/1/2004=x");
   Line_Merge merge(Lines, Channel, path, basic::Saving::In_Place);

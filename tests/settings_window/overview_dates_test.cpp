@@ -1,41 +1,11 @@
 // The dates of the overview's list: what it writes, the click and the double-click must read back.
-#include "basic/date_reading.h"
 #include "settings_window/events_overview.h"
+#include "tests/calendar/odd_locale.h"
 #include "tests/settings_window/desk_world.h"
 
 using Texts = std::vector<std::string>;
 
 namespace {
-
-/// A locale whose short date a test chooses; it reads days first, and its own month names not at all.
-class Odd_Locale : public platform::Locale {
- public:
-  std::string Pattern;
-  int Digits_Of_Year = 4;
-
-  const basic::Date_Words& Words() override { return words_; }
-  basic::Weekday First_Weekday() override { return basic::Weekday::Monday; }
-  void Append_Short_Date(std::string& to, basic::Serial_Day day) override {
-    basic::Append_Date(to, {day, 0}, Pattern, words_);
-    const std::string year = std::to_string(basic::Civil_From_Serial(day).Year);
-    to += year.substr(year.size() - static_cast<std::size_t>(Digits_Of_Year));
-  }
-  void Append_Long_Date(std::string& to, basic::Serial_Day day) override { Append_Short_Date(to, day); }
-  void Append_General_Date(std::string& to, const basic::Moment& moment) override { Append_Short_Date(to, moment.Day); }
-  basic::Moment Read_Moment(const std::string& text) override { return {Read_Date(text), 0}; }
-  basic::Serial_Day Read_Date(const std::string& text) override {
-    const auto day = basic::Read_Numeric_Date(text, basic::Date_Order::Day_First);
-    if (!day) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
-    return *day;
-  }
-
- private:
-  basic::Date_Words words_{{"", "", "", "", "", "", ""},
-                           {"", "", "", "", "", "", ""},
-                           {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"},
-                           ".",
-                           ":"};
-};
 
 class Overview_Dates_Test : public Desk_World {
  protected:

@@ -1,7 +1,7 @@
 """The tab of imports and exports as a user works it: its buttons, and the system's dialogs that ask for a file."""
 import time
 
-from .settings import BUTTON, Settings_Window
+from .settings import BUTTON, LIST, Settings_Window
 from .waiting import wait_for
 
 TAB = 7
@@ -46,3 +46,15 @@ class Exchange:
         """Imports a CSV file of the program's folder. Returns as above."""
         self.press("from CSV File")
         return self.name_file("Import Events from CSV File", f"C:\\Meridex\\{name}")
+
+    def list_of_events(self):
+        """Turns to the page of events, on which the list has been shown before, and gives the list's place."""
+        x, y = self.window.origin()
+        first_tab_across, rows_of_tabs = 25, (14, 34)
+        for down in rows_of_tabs:
+            self.desktop.screen.click(x + first_tab_across, y + down)
+            self.desktop.screen.picture_at_rest()
+            lists = self.window.natives(LIST)
+            if lists:
+                return lists[0]["rect"]
+        raise AssertionError("the list of events isn't on view")
