@@ -235,8 +235,10 @@ void Form_Window::Settle_Place() {
   if (Minimised()) return Place_For_Return();
   context_.Note_Pointer(form_.System().Input);
   const RECT place = Place_In_Parent();
+  // What lies in another window is painted anew: not every system brings all of its pixels along.
+  const UINT pixels = parent_ != nullptr ? SWP_NOCOPYBITS : 0;
   SetWindowPos(Window(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | pixels);
 }
 
 /// A window that is an icon has its place when it comes back. The system counts that from the corner of the work area.
