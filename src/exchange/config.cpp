@@ -112,7 +112,7 @@ void Config::Import_Config() {
     Show_Pointer(toolkit::Pointer::Hourglass);
     Read_Lines();
     desk_.Apply_Pack(stored_.Values.Pack_Name);
-    desk_.Lay_Out(desk_.Style_In_Force());
+    desk_.Which_Style(desk_.Style_In_Force());
     desk_.Rebuild_Month();
     Show_Pointer(toolkit::Pointer::Default);
     transfer_.Tell("Loaded configuration file successfully.");
