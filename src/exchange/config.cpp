@@ -100,7 +100,6 @@ void Config::Export_Config() {
 void Config::Write_Lines() {
   basic::File_Channel& channel = transfer_.Channel;
   channel.Open_For_Writing(transfer_.Dialog1.FileName);
-  const Written_At_Last rows(channel);
   const Shown_Values shown = window_.Shown();
   for (int i = 0; i < config_lines; ++i) channel.Write_Record(Config_Line(shown, i));
   channel.Close();
