@@ -76,8 +76,10 @@ class Desk {
 
   /// Lays the calendar out in a style, with its headers and its events; the window stays where it is.
   void Take_Style(basic::Int16 style);
-  /// Does the layout alone.
+  /// Does the layout alone, and cuts the window's region to it.
   void Lay_Out(basic::Int16 style) { grid_.Lay_Out(style); }
+  /// Does the layout without the region, which the caller has to bring up to date.
+  void Which_Style(basic::Int16 style) { grid_.Which_Style(style); }
   void Position_Form(basic::Int16 position) { placement_.Position_Form(position); }
 
   void Recolour(Colour_Part part) { view_.Recolour(part); }

@@ -34,7 +34,7 @@ void Month_Grid::Setup_Boxes(basic::Int16 month, basic::Int16 year) {
   const basic::Int16 first = Start_Box(month, year, dates_.First_Day_Of_Week(settings_));
   for (int day = 1; day <= days; ++day) main_frm_.Box(first + day - 1).Set_Day(day);
   for (int i = 0; i < box_count; ++i) main_frm_.Box(i).Hide_If_Empty();
-  presentation::Which_Style(main_frm_, Style_In_Force());
+  Which_Style(Style_In_Force());
   placement_.Position_In_Force();
   presentation::TransparentForm(main_frm_.Window);
 }
@@ -53,8 +53,10 @@ void Month_Grid::Restyle(basic::Int16 style) {
   Lay_Out(style);
 }
 
+void Month_Grid::Which_Style(basic::Int16 style) { presentation::Which_Style(main_frm_, style); }
+
 void Month_Grid::Lay_Out(basic::Int16 style) {
-  presentation::Which_Style(main_frm_, style);
+  Which_Style(style);
   presentation::TransparentForm(main_frm_.Window);
 }
 

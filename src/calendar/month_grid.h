@@ -37,6 +37,9 @@ class Month_Grid {
   /// The same without the headers.
   void Lay_Out(basic::Int16 style);
 
+  /// The same without headers and region: the window takes its size and keeps the region that it has.
+  void Which_Style(basic::Int16 style);
+
   /// Called before each reading of the event file: removes the tips, and notes the present day for the alert.
   void Begin_Reading();
 

@@ -100,7 +100,6 @@ void Config::Export_Config() {
 void Config::Write_Lines() {
   basic::File_Channel& channel = transfer_.Channel;
   channel.Open_For_Writing(transfer_.Dialog1.FileName);
-  const Written_At_Last rows(channel);
   const Shown_Values shown = window_.Shown();
   for (int i = 0; i < config_lines; ++i) channel.Write_Record(Config_Line(shown, i));
   channel.Close();
@@ -112,7 +111,7 @@ void Config::Import_Config() {
     Show_Pointer(toolkit::Pointer::Hourglass);
     Read_Lines();
     desk_.Apply_Pack(stored_.Values.Pack_Name);
-    desk_.Lay_Out(desk_.Style_In_Force());
+    desk_.Which_Style(desk_.Style_In_Force());
     desk_.Rebuild_Month();
     Show_Pointer(toolkit::Pointer::Default);
     transfer_.Tell("Loaded configuration file successfully.");

@@ -42,7 +42,6 @@ void Data_Files::Export_Text() {
 void Data_Files::Write_Text() {
   basic::File_Channel& channel = transfer_.Channel;
   channel.Open_For_Writing(transfer_.Dialog1.FileName);
-  const Written_At_Last lines(channel);
   std::string line;
   const basic::Int16 count = lists_.Dates().ListCount();
   for (basic::Int16 i = 0; i < count; i += 1) {

@@ -106,8 +106,9 @@ void Memory_Files::Check_Place(const std::string& path) const {
   if (there != nullptr && there->Is_Folder) throw Run_Error(Error_Number::Path_File_Access);
 }
 
-void Memory_Files::Check_No_Writer(const std::string& path) const {
+void Memory_Files::Check_Changeable(const std::string& path) const {
   const Entry* const there = Find(path);
+  if (there != nullptr && there->Read_Only) throw Run_Error(Error_Number::Path_File_Access);
   if (there != nullptr && there->Writers > 0) throw Run_Error(Error_Number::Permission_Denied);
 }
 
@@ -130,7 +131,7 @@ Memory_Files::Entry& Memory_Files::Make_File(const std::string& path) {
 
 std::unique_ptr<basic::Output_File> Memory_Files::Create(const std::string& path) {
   Check_Place(path);
-  Check_No_Writer(path);
+  Check_Changeable(path);
   Make_File(path);
   return std::make_unique<Writer>(*this, Key_Of(path));
 }
@@ -200,7 +201,7 @@ bool Memory_Files::Full(const std::string& key) const {
 
 void Memory_Files::Delete(const std::string& path) {
   Check_Place(path);
-  Check_No_Writer(path);
+  Check_Changeable(path);
   if (entries_.erase(Key_Of(path)) == 0) throw Run_Error(Error_Number::File_Not_Found);
 }
 
@@ -210,7 +211,7 @@ void Memory_Files::Copy(const std::string& from, const std::string& to) {
   if (source == nullptr) throw Run_Error(Error_Number::File_Not_Found);
   if (Key_Of(from) == Key_Of(to)) throw Run_Error(Error_Number::Permission_Denied);
   Check_Place(to);
-  Check_No_Writer(to);
+  Check_Changeable(to);
   const Entry* const target = Find(to);
   if (target != nullptr && target->Full && source->Bytes.size() > target->Room) {
     entries_.erase(Key_Of(to));
@@ -237,6 +238,7 @@ void Memory_Files::Put(const std::string& path, std::string_view bytes) {
   file.Bytes = bytes;
   file.Full = false;
   file.Locked = false;
+  file.Read_Only = false;
 }
 
 std::optional<std::string> Memory_Files::Bytes(const std::string& path) const {

@@ -1,5 +1,6 @@
-// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up three
-// faults: a folder in a file's place, a file that can be opened but takes no bytes, and one that can't be opened to be read.
+// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up four
+// faults: a folder in a file's place, a file that can be opened but takes no bytes, one that can't be opened to be read, and
+// one that is read-only.
 #pragma once
 
 #include <map>
@@ -62,6 +63,10 @@ class Memory_Files : public platform::Files {
   /// 70. It can be put again.
   void Lock(const std::string& path) { Find(path)->Locked = true; }
 
+  /// From now on the file, which must exist, is read-only, or no longer so: to write, delete or copy over a
+  /// read-only one is error 75. It can be put again.
+  void Set_Read_Only(const std::string& path, bool on) { Find(path)->Read_Only = on; }
+
   struct Listed {
     std::string Name;
     bool Is_Folder;
@@ -79,6 +84,7 @@ class Memory_Files : public platform::Files {
     bool Is_Folder = false;
     bool Full = false;
     bool Locked = false;
+    bool Read_Only = false;
     std::size_t Room = 0;  // how long a copy over a full one may be
     int Writers = 0;       // how often the file is open for writing
   };
@@ -90,7 +96,7 @@ class Memory_Files : public platform::Files {
   void Move(const std::string& from, const std::string& to);
   [[nodiscard]] bool Full(const std::string& key) const;
   void Check_Place(const std::string& path) const;
-  void Check_No_Writer(const std::string& path) const;
+  void Check_Changeable(const std::string& path) const;
 
   const Virtual_Time& time_;
   std::map<std::string, Entry> entries_;  // by the path in upper case

@@ -37,8 +37,8 @@ class Files : public basic::Disk {
   /// Throws error 53, 70 or 75.
   virtual void Delete(const std::string& path) = 0;
 
-  /// Puts a copy of a file in the place of `to`, or makes that; the copy keeps the time of the last change. Throws error 53,
-  /// 75 or 76, error 70 for a file that is being written or that is to be copied onto itself, and error 61 on a full disk,
+  /// Puts a copy of a file in the place of `to`, or makes that; the copy keeps the time of the last change,
+  /// but isn't read-only where its source is. Throws error 53, 75 or 76, error 70 for a file that is being written or that is to be copied onto itself, and error 61 on a full disk,
   /// which leaves nothing of the copy.
   virtual void Copy(const std::string& from, const std::string& to) = 0;
 

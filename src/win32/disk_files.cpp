@@ -83,6 +83,13 @@ void Bring_To_Disk(const std::string& path) {
 
 DWORD Attributes(const std::string& path) { return GetFileAttributesA(path.c_str()); }
 
+/// The system's copy of a read-only file, such as one on a CD, is read-only too.
+void Make_Writable(const std::string& path) {
+  const DWORD attributes = Attributes(path);
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+    SetFileAttributesA(path.c_str(), attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
+}
+
 /// The files or the folders of a folder, which has itself and the one above among its folders.
 std::vector<std::string> Names_In(const std::string& folder, bool of_folders) {
   WIN32_FIND_DATAA found;
@@ -181,7 +188,10 @@ void Disk_Files::Delete(const std::string& path) {
 }
 
 void Disk_Files::Copy(const std::string& from, const std::string& to) {
-  if (CopyFileA(from.c_str(), to.c_str(), FALSE) != 0) return;
+  if (CopyFileA(from.c_str(), to.c_str(), FALSE) != 0) {
+    Make_Writable(to);
+    return;
+  }
   const DWORD failure = GetLastError();
   // Not every system takes away what a full disk has left of a copy.
   if (failure == ERROR_DISK_FULL || failure == ERROR_HANDLE_DISK_FULL) DeleteFileA(to.c_str());

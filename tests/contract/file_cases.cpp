@@ -8,7 +8,10 @@ class File_Cases : public Service_Cases {
  protected:
   File_Cases() {
     World->Make_Folder("Case");
-    for (const std::string& name : Files.File_Names(Path("Case"))) Files.Delete(Path("Case\\" + name));
+    for (const std::string& name : Files.File_Names(Path("Case"))) {
+      World->Set_Read_Only("Case\\" + name, false);
+      Files.Delete(In_Case(name));
+    }
   }
 
   std::string In_Case(const std::string& name) { return Path("Case\\" + name); }
@@ -232,6 +235,23 @@ TEST_F(File_Cases, What_cannot_be_copied_is_an_error) {
   const auto output = Files.Create(In_Case("target"));
   EXPECT_EQ(copy(In_Case("file"), In_Case("target")), 70);
   EXPECT_EQ(Read("file"), "x");
+}
+
+TEST_F(File_Cases, A_read_only_file_is_not_deleted_and_its_copy_can_be) {
+  Write("source", "x");
+  Write("target", "old");
+  const basic::Moment written = Files.Last_Change(In_Case("source"));
+  World->Set_Read_Only("Case\\source", true);
+  EXPECT_EQ(Read("source"), "x");
+  EXPECT_EQ(Error_Of_Deleting(In_Case("source")), 75);
+  for (const char* const name : {"target", "another"}) {
+    Files.Copy(In_Case("source"), In_Case(name));
+    EXPECT_EQ(Read(name), "x");
+    EXPECT_EQ(Files.Last_Change(In_Case(name)), written);
+    Write(name, "y");
+    EXPECT_EQ(Read(name), "y");
+    EXPECT_EQ(Error_Of_Deleting(In_Case(name)), 0);
+  }
 }
 
 TEST_F(File_Cases, Paths_are_the_same_without_regard_to_case) {

@@ -21,6 +21,9 @@ class Service_World {
 
   /// Makes a folder in the program folder.
   virtual void Make_Folder(const std::string& name) = 0;
+
+  /// Makes a file of the program folder read-only, or no longer so.
+  virtual void Set_Read_Only(const std::string& name, bool on) = 0;
 };
 
 std::unique_ptr<Service_World> Make_Service_World();

@@ -106,6 +106,9 @@ class Memory_World : public Service_World {
   void Make_Folder(const std::string& name) override {
     platform_.Files.Make_Folder(memory::Memory_Files::Full_Path(name));
   }
+  void Set_Read_Only(const std::string& name, bool on) override {
+    platform_.Files.Set_Read_Only(memory::Memory_Files::Full_Path(name), on);
+  }
 
  private:
   memory::Memory_Platform platform_;

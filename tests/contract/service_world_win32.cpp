@@ -209,6 +209,10 @@ class System_World : public Service_World {
   void Make_Folder(const std::string& name) override {
     std::filesystem::create_directories(System().Files.Program_Folder() + '\\' + name);
   }
+  void Set_Read_Only(const std::string& name, bool on) override {
+    const std::string path = System().Files.Program_Folder() + '\\' + name;
+    SetFileAttributesA(path.c_str(), on ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL);
+  }
 
  private:
   win32::Win32_Platform platform_{nullptr};

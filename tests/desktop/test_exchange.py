@@ -243,6 +243,35 @@ class Other_Files(Exchange_Test):
         wait_for(lambda: desktop.message_box().text.startswith("Successfully imported data file from..."), "the success")
         desktop.answer("Return")
 
+    def test_a_read_only_event_file_is_not_replaced(self):
+        desktop = self.opened(events=["8/3/2004=Tea"], permissions=True)
+        (desktop.folder / "other.dat").write_bytes(b'"8/3/2004=Cake"\r\n')
+        desktop.data_file.chmod(0o444)
+        self.tab.press("Data File")
+        self.tab.name_file("Import Data File", "C:\\Meridex\\other.dat")
+        self.assertEqual(desktop.message_box().buttons, ["Yes", "No", "Cancel"])
+        desktop.screen.key("y")
+        wait_for(lambda: desktop.message_box().text == "Error when importing data file.", "the failure")
+        desktop.answer("Return")
+        self.assertEqual(desktop.data_file.read_bytes(), b'"8/3/2004=Tea"\r\n')
+
+    def test_the_configuration_goes_out_as_it_shows(self):
+        desktop = self.opened()
+        # Balloons are chosen two tabs before, and nothing is applied.
+        desktop.screen.key("Left", "Left", "Tab", "Down", "shift+Tab", "Right", "Right")
+        desktop.screen.picture_at_rest()
+        (desktop.folder / "out.ini").write_bytes(b"old")
+        self.tab.press("Configuration", row=1)
+        self.tab.name_file("Export Configuration File", "C:\\Meridex\\out")
+        self.assertEqual(desktop.message_box().text, "Overwrite existing file?")
+        desktop.screen.key("y")
+        wait_for(lambda: desktop.message_box().text.startswith("Successfully exported current"), "the success")
+        desktop.answer("Return")
+        lines = (desktop.folder / "out.ini").read_bytes().split(b"\r\n")
+        self.assertEqual(len(lines), 33)
+        self.assertEqual(lines[31], b'"Tooltips=2"')
+        self.assertIsNone(desktop.stored("Settings", "Tooltips"))
+
     def test_the_configuration_goes_out(self):
         desktop = self.opened()
         self.tab.press("Configuration", row=1)

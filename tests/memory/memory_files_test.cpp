@@ -55,6 +55,21 @@ TEST_F(Memory_Files_Test, Putting_a_file_makes_the_folders_above_it) {
   EXPECT_FALSE(Files.File_Exists(Path("a/b")));
 }
 
+TEST_F(Memory_Files_Test, A_read_only_file_is_read_and_copied_and_nothing_else_with_75) {
+  Files.Put(Path("f"), "x");
+  Files.Put(Path("g"), "y");
+  Files.Set_Read_Only(Path("f"), true);
+  EXPECT_EQ(Error_Of_Create("F"), 75);
+  EXPECT_EQ(Error_Of([&] { Files.Delete(Path("f")); }), 75);
+  EXPECT_EQ(Error_Of([&] { Files.Copy(Path("g"), Path("f")); }), 75);
+  EXPECT_EQ(Files.Bytes(Path("f")), "x");
+  Files.Copy(Path("f"), Path("g"));
+  EXPECT_EQ(Files.Bytes(Path("g")), "x");
+  EXPECT_EQ(Error_Of_Create("g"), 0);
+  Files.Put(Path("f"), "z");
+  EXPECT_EQ(Error_Of_Create("f"), 0);
+}
+
 TEST_F(Memory_Files_Test, A_blocked_file_exists_as_a_folder_and_fails_to_open_with_75) {
   Files.Put(Path("f"), "x");
   Files.Block(Path("f"));

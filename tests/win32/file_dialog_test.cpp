@@ -180,10 +180,11 @@ void CALLBACK Name_A_File(HWND, UINT, UINT_PTR timer, DWORD) {
   PostMessageA(dialog, WM_COMMAND, IDOK, 0);
 }
 
+constexpr UINT a_moment = 50;  // milliseconds
+
 }  // namespace
 
 TEST_F(File_Dialog_On_Screen, A_real_dialog_without_room_for_the_title_gives_none) {
-  constexpr UINT a_moment = 50;  // milliseconds
   Dialog1.MaxFileSize = 0;
   Dialog1.FileTitle = "before";
   SetTimer(nullptr, 0, a_moment, Name_A_File);
@@ -196,4 +197,18 @@ TEST_F(File_Dialog_On_Screen, A_real_dialog_without_room_for_the_title_gives_non
   Dialog1.ShowSave();
   EXPECT_EQ(Dialog1.FileTitle, "named.txt");
   EXPECT_EQ(GetActiveWindow(), Handle()) << "the window is active again";
+}
+
+TEST_F(File_Dialog_On_Screen, A_real_dialog_for_several_files_gives_its_whole_buffer) {
+  constexpr std::int32_t explorer_style = OFN_EXPLORER | OFN_ALLOWMULTISELECT;
+  for (const std::int32_t flags : {std::int32_t{OFN_ALLOWMULTISELECT}, explorer_style}) {
+    Dialog1.Flags = flags;
+    Dialog1.FileTitle = "before";
+    SetTimer(nullptr, 0, a_moment, Name_A_File);
+    Dialog1.ShowOpen();
+    EXPECT_EQ(Dialog1.FileName.size(), 8192U);
+    EXPECT_STREQ(Dialog1.FileName.c_str(), "C:\\named.txt");
+    EXPECT_EQ(Dialog1.FileTitle, "before");
+    EXPECT_NE(Dialog1.Flags & OFN_ALLOWMULTISELECT, 0);
+  }
 }

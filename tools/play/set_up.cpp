@@ -58,6 +58,12 @@ void Play_Block(World& world, const Words& words) { world.Platform.Files.Block(M
 
 void Play_Full(World& world, const Words& words) { world.Platform.Files.Fill_Up(Memory_Files::Full_Path(words[0])); }
 
+void Play_Read_Only(World& world, const Words& words) {
+  const std::string path = Memory_Files::Full_Path(words[0]);
+  if (!world.Platform.Files.File_Exists(path)) throw Cannot_Play("no file " + words[0]);
+  world.Platform.Files.Set_Read_Only(path, true);
+}
+
 void Play_Setting(World& world, const Words& words) {
   world.Platform.Store.Save(application, words[0], words[1], words[2]);
 }
@@ -96,7 +102,7 @@ void Play_Start(World& world, const Words& /*words*/) { world.Start(); }
 }  // namespace
 
 std::span<const Entry> World_Commands() {
-  static constexpr std::array<Entry, 19> entries{{{"now", 2, 2, Play_Now},
+  static constexpr std::array<Entry, 20> entries{{{"now", 2, 2, Play_Now},
                                                   {"locale", 1, 1, Play_Locale},
                                                   {"screen", 2, 2, Play_Screen},
                                                   {"workarea", 4, 4, Play_Work_Area},
@@ -107,6 +113,7 @@ std::span<const Entry> World_Commands() {
                                                   {"mkdir", 1, 1, Play_Make_Folder},
                                                   {"block", 1, 1, Play_Block},
                                                   {"full", 1, 1, Play_Full},
+                                                  {"readonly", 1, 1, Play_Read_Only},
                                                   {"setting", 3, 3, Play_Setting},
                                                   {"reg", 4, 4, Play_Reg},
                                                   {"deny", 2, 2, Play_Deny},
