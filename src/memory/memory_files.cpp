@@ -168,7 +168,7 @@ std::vector<std::string> Memory_Files::Names(const std::string& folder, bool of_
 
 void Memory_Files::Check_Writing(const std::string& path) {
   Check_Place(path);
-  Check_No_Writer(path);
+  Check_Changeable(path);
 }
 
 bool Memory_Files::Move_Over(const std::string& from, const std::string& to) {
