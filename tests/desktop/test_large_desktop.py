@@ -1,4 +1,4 @@
-"""A desktop whose places are beyond 16 bits of twips: the calendar asks once whether it shall work on such desktops."""
+"""A desktop whose places are beyond 16 bits of twips: the calendar asks whether it shall work on such desktops."""
 from harness.desktop import Desktop_Test, record
 from harness.hands import Editor, wait_for_file
 
