@@ -55,8 +55,8 @@ class Memory_Files : public platform::Files {
   /// Puts a folder in the file's place, so that the path can't be opened: error 75.
   void Block(const std::string& path);
 
-  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes, and neither does
-  /// a new one that is to take its place. A copy over it may be as long as the file is now.
+  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes, and
+  /// neither does a new one that is to take its place. A copy over it may be as long as the file is now.
   void Fill_Up(const std::string& path);
 
   struct Listed {

@@ -9,7 +9,8 @@ namespace {
 /// Where the old file is for the moment between two renamings, on systems that can't replace it by one.
 std::string Old_Name(const std::string& path) { return path + ".~bak"; }
 
-/// A copy of a file that may not be written is one of the same kind. What a power cut has left of it must go all the same.
+/// A copy of a file that may not be written is one of the same kind. What a power cut has left of it must go all the
+/// same.
 void Delete_Own(Files& files, const std::string& path) {
   files.Allow_Writing(path);
   files.Delete(path);
@@ -33,8 +34,8 @@ bool Has_Old_Name_Only(Files& files, const std::string& path) {
   return !files.File_Exists(path) && files.File_Exists(Old_Name(path));
 }
 
-/// A file that has only its second name can't have been read: what would take its place has nothing of what it holds. It
-/// gets its name back, and is there for the next reading.
+/// A file that has only its second name can't have been read: what would take its place has nothing of what it holds.
+/// It gets its name back, and is there for the next reading.
 void Check_Replacing(Files& files, const std::string& path) {
   if (Has_Old_Name_Only(files, path)) {
     files.Put_Back(path);
@@ -69,7 +70,8 @@ void Or_Nothing_New(Files& files, const std::string& path, Work&& work) {
   }
 }
 
-/// A new file that takes the path's place at its end. One that fails is taken away at once: the program may go on for days.
+/// A new file that takes the path's place at its end. One that fails is taken away at once: the program may go on for
+/// days.
 class Replacement final : public basic::Output_File {
  public:
   Replacement(Files& files, const std::string& path)

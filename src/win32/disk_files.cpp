@@ -49,8 +49,8 @@ Handle_Owner Open(const std::string& path, DWORD access, DWORD sharing, DWORD ho
   return file;
 }
 
-/// The pauses after which a file is tried again: a virus scanner looks into a file that has just been written, and holds it for
-/// a moment.
+/// The pauses after which a file is tried again: a virus scanner looks into a file that has just been written, and
+/// holds it for a moment.
 constexpr DWORD pauses[] = {15, 30, 60, 100, 100};  // milliseconds
 
 bool Held_By_Another() {
@@ -58,7 +58,8 @@ bool Held_By_Another() {
   return failure == ERROR_ACCESS_DENIED || failure == ERROR_SHARING_VIOLATION;
 }
 
-/// Calls `work` until it returns true, or fails for another reason than a file that is held. Returns what it returned last.
+/// Calls `work` until it returns true, or fails for another reason than a file that is held. Returns what it returned
+/// last.
 template <class Work>
 bool Patiently(Work&& work) {
   for (const DWORD pause : pauses) {

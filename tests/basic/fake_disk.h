@@ -22,8 +22,8 @@ class Fake_Disk : public basic::Disk {
   bool Replaces = true;       ///< a file can take another's place by one step
   bool Blocks_Moves = false;  ///< no file can take another's place
 
-  /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes comes
-  /// halfway if it is a write.
+  /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes
+  /// comes halfway if it is a write.
   int Steps_To_Power_Cut = std::numeric_limits<int>::max();
 
   void Read_Whole(const std::string& path, std::string& buffer) override {
