@@ -50,6 +50,8 @@ std::unique_ptr<basic::Output_File> Posix_Files::Create(const std::string&) {
 
 void Posix_Files::Check_Writing(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
+void Posix_Files::Allow_Writing(const std::string&) {}
+
 bool Posix_Files::Move_Over(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
 void Posix_Files::Rename(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }

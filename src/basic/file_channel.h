@@ -29,13 +29,13 @@ class Output_File {
   /// Cuts the file to its first `size` bytes; a failure is silent.
   virtual void Cut(std::size_t size) = 0;
 
-  /// Called once, when all is written. A file that is to take another's place takes it now. Throws error 61, 70 or 75; the
-  /// other one stays as it was then.
+  /// Called once, when all is written. A file that is to take another's place takes it now. Throws error 61, 70 or 75;
+  /// the other one stays as it was then.
   virtual void Finish() {}
 };
 
-/// How a file is written. Beside: as a new file, which takes the old one's place when the writing has come to its end. At any
-/// moment before that, whatever happens, the old one is there whole.
+/// How a file is written. Beside: as a new file, which takes the old one's place when the writing has come to its end.
+/// At any moment before that, whatever happens, the old one is there whole.
 enum class Saving { In_Place, Beside };
 
 /// What the channel needs from the disk.
@@ -49,8 +49,8 @@ class Disk {
   /// Opens the file for writing: empties it, or creates it. Throws error 70, 75 or 76.
   virtual std::unique_ptr<Output_File> Create(const std::string& path) = 0;
 
-  /// Opens a new file for writing, which takes the path's place when it is finished; one that isn't finished leaves nothing
-  /// of itself. Throws what Create would.
+  /// Opens a new file for writing, which takes the path's place when it is finished; one that isn't finished leaves
+  /// nothing of itself. Throws what Create would.
   virtual std::unique_ptr<Output_File> Create_Beside(const std::string& path) = 0;
 };
 
@@ -65,9 +65,9 @@ class File_Channel {
   /// Empties or creates the file and takes the number. Throws the same errors.
   void Open_For_Writing(const std::string& path, Saving how = Saving::In_Place);
 
-  /// Appends a record: the line in double quotes, then CR LF. Throws error 61 if the disk is full; a file that is written in
-  /// its place then ends after the last record that fitted. The error may come only with a later record or from Close, since records are
-  /// gathered.
+  /// Appends a record: the line in double quotes, then CR LF. Throws error 61 if the disk is full; a file that is
+  /// written in its place then ends after the last record that fitted. The error may come only with a later record or
+  /// from Close, since records are gathered.
   void Write_Record(std::string_view line);
 
   /// Writes records that stand ready one behind the other, with quotes and line ends, at once. Throws error 61 as above, but
@@ -84,8 +84,8 @@ class File_Channel {
   /// something was still to be written.
   void Go_Back_To(std::size_t size);
 
-  /// Writes the records that still wait, finishes the file and frees the number. Throws error 61 if the disk is full, and as
-  /// Finish does; the number then stays taken.
+  /// Writes the records that still wait, finishes the file and frees the number. Throws error 61 if the disk is full,
+  /// and as Finish does; the number then stays taken.
   void Close();
 
   /// Frees the number whatever has failed before; does nothing while it is free. A file that was being written beside

@@ -1,6 +1,6 @@
 // The calendar's tick, ten times a second: it looks after the window's active state, the icons' text, the idle time,
-// the work area and the title, and starts each new day. With the user's consent to today's desktops it also brings the calendar
-// back onto the desktop after the shell has been started again.
+// the work area and the title, and starts each new day. With the user's consent to today's desktops it also brings the
+// calendar back onto the desktop after the shell has been started again.
 #pragma once
 
 #include "calendar/desk.h"

@@ -20,6 +20,7 @@ Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, pla
 
 void Event_File::Recover() {
   if (desktop_.Modern()) files_.Recover(path_);
+  else files_.Put_Back(path_);  // before a new file is made in its place
 }
 
 void Event_File::Load_File() {

@@ -1,6 +1,6 @@
 // All reading and writing of calendar.dat. The file is read whole whenever a month is drawn and written whole whenever
-// an event changes: in its place, or with the user's consent to today's desktops beside it, so that a power cut leaves the
-// old file or the new one.
+// an event changes: in its place, or with the user's consent to today's desktops beside it, so that a power cut leaves
+// the old file or the new one.
 //
 // To change an event, set Selected_Date, call Load_File, then Check_For_Pre. A failure of the file is reported in a
 // message box. If it comes after a successful open, the one file number stays taken, so that every later open fails

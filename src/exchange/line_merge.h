@@ -1,5 +1,5 @@
-// The merging of imported events into the lines of calendar.dat, one after the other. The file holds all lines after each; one
-// that is written beside the old file takes its place when all have come.
+// The merging of imported events into the lines of calendar.dat, one after the other. The file holds all lines after
+// each; one that is written beside the old file takes its place when all have come.
 #pragma once
 
 #include <limits>

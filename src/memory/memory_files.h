@@ -27,6 +27,7 @@ class Memory_Files : public platform::Files {
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Check_Writing(const std::string& path) override;
+  void Allow_Writing(const std::string& /*path*/) override {}
   bool Move_Over(const std::string& from, const std::string& to) override;
   void Rename(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
@@ -55,8 +56,8 @@ class Memory_Files : public platform::Files {
   /// Puts a folder in the file's place, so that the path can't be opened: error 75.
   void Block(const std::string& path);
 
-  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes, and neither does
-  /// a new one that is to take its place. A copy over it may be as long as the file is now.
+  /// From now on the file, created if it doesn't exist, can be opened, which empties it, but takes no bytes, and
+  /// neither does a new one that is to take its place. A copy over it may be as long as the file is now.
   void Fill_Up(const std::string& path);
 
   /// From now on the file, which must exist, is there but can't be read, as one that another program keeps for itself: error

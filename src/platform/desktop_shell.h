@@ -31,12 +31,12 @@ class Desktop_Shell {
   /// The first child of that class, 0 if there is none.
   virtual Window_Handle Find_Child(Window_Handle parent, const std::string& window_class) = 0;
 
-  /// Sends a message with wParam 0 and lParam `parameter`. Returns its result, cut to 32 bits, and no_colour where the window
-  /// is gone or doesn't answer within a second.
+  /// Sends a message with wParam 0 and lParam `parameter`. Returns its result, cut to 32 bits, and no_colour where the
+  /// window is gone or doesn't answer within a second.
   virtual int Send(Window_Handle window, unsigned message, int parameter) = 0;
 
-  /// Makes the window a child of `parent`, above its other children. Returns false where it couldn't be seen there: it is
-  /// a top-level window then, at the same place of the screen.
+  /// Makes the window a child of `parent`, above its other children. Returns false where it couldn't be seen there: it
+  /// is a top-level window then, at the same place of the screen.
   virtual bool Set_Parent(Window_Handle window, Window_Handle parent) = 0;
 
   /// Marks the whole window for erasing and painting.

@@ -9,20 +9,46 @@ namespace {
 /// Where the old file is for the moment between two renamings, on systems that can't replace it by one.
 std::string Old_Name(const std::string& path) { return path + ".~bak"; }
 
+/// A copy of a file that may not be written is one of the same kind. What a power cut has left of it must go all the
+/// same.
+void Delete_Own(Files& files, const std::string& path) {
+  files.Allow_Writing(path);
+  files.Delete(path);
+}
+
 /// What can't be taken away does no harm: the next replacement tries again.
 void Delete_If_There(Files& files, const std::string& path) noexcept {
   try {
-    if (files.File_Exists(path)) files.Delete(path);
+    if (files.File_Exists(path)) Delete_Own(files, path);
   } catch (const basic::Run_Error&) {
     return;
   }
+}
+
+std::unique_ptr<basic::Output_File> Create_Own(Files& files, const std::string& path) {
+  files.Allow_Writing(path);
+  return files.Create(path);
+}
+
+bool Has_Old_Name_Only(Files& files, const std::string& path) {
+  return !files.File_Exists(path) && files.File_Exists(Old_Name(path));
+}
+
+/// A file that has only its second name can't have been read: what would take its place has nothing of what it holds.
+/// It gets its name back, and is there for the next reading.
+void Check_Replacing(Files& files, const std::string& path) {
+  if (Has_Old_Name_Only(files, path)) {
+    files.Put_Back(path);
+    throw basic::Run_Error(basic::Error_Number::Path_File_Access);
+  }
+  files.Check_Writing(path);
 }
 
 /// By two renamings, between which only the old file's second name is there.
 void Rename_Over(Files& files, const std::string& from, const std::string& to) {
   if (!files.File_Exists(to)) return files.Rename(from, to);
   const std::string old = Old_Name(to);
-  if (files.File_Exists(old)) files.Delete(old);
+  if (files.File_Exists(old)) Delete_Own(files, old);
   files.Rename(to, old);
   try {
     files.Rename(from, to);
@@ -44,11 +70,12 @@ void Or_Nothing_New(Files& files, const std::string& path, Work&& work) {
   }
 }
 
-/// A new file that takes the path's place at its end. One that fails is taken away at once: the program may go on for days.
+/// A new file that takes the path's place at its end. One that fails is taken away at once: the program may go on for
+/// days.
 class Replacement final : public basic::Output_File {
  public:
   Replacement(Files& files, const std::string& path)
-      : files_(files), path_(path), file_(files.Create(Files::Name_Beside(path))) {}
+      : files_(files), path_(path), file_(Create_Own(files, Files::Name_Beside(path))) {}
   ~Replacement() override { Give_Up(); }
 
   std::size_t Write(std::string_view bytes) override {
@@ -84,30 +111,36 @@ class Replacement final : public basic::Output_File {
 std::string Files::Name_Beside(const std::string& path) { return path + ".~new"; }
 
 std::unique_ptr<basic::Output_File> Files::Create_Beside(const std::string& path) {
-  Check_Writing(path);
+  Check_Replacing(*this, path);
   return std::make_unique<Replacement>(*this, path);
 }
 
 void Files::Replace(const std::string& from, const std::string& to) {
+  Allow_Writing(from);
   if (!Move_Over(from, to)) Rename_Over(*this, from, to);
 }
 
 void Files::Copy_Over(const std::string& from, const std::string& to) {
-  Check_Writing(to);
+  Check_Replacing(*this, to);
   Or_Nothing_New(*this, to, [&] {
+    Allow_Writing(Name_Beside(to));
     Copy(from, Name_Beside(to));
     Replace(Name_Beside(to), to);
   });
 }
 
-void Files::Recover(const std::string& path) {
-  const std::string old = Old_Name(path);
+bool Files::Put_Back(const std::string& path) {
   try {
-    if (!File_Exists(path) && File_Exists(old)) Rename(old, path);
+    if (Has_Old_Name_Only(*this, path)) Rename(Old_Name(path), path);
+    return true;
   } catch (const basic::Run_Error&) {
-    return;  // the old file is there under its other name, and the next start tries again
+    return false;  // the old file is there under its other name, and the next start tries again
   }
-  Delete_If_There(*this, old);
+}
+
+void Files::Recover(const std::string& path) {
+  if (!Put_Back(path)) return;
+  Delete_If_There(*this, Old_Name(path));
   Delete_If_There(*this, Name_Beside(path));
 }
 

@@ -26,9 +26,12 @@ class Files : public basic::Disk {
   /// Throws what Create would for a file that is there, and leaves it as it is. Does nothing if there is no such file.
   virtual void Check_Writing(const std::string& path) = 0;
 
-  /// Brings the bytes of a file to the disk, and then puts it into the place of `to` or of nothing, by one step that is on
-  /// the disk on return. Returns false, with nothing changed, on a system that can't do it by one. Throws error 53, 61, 70,
-  /// 75 or 76, with nothing changed.
+  /// Takes from a file what keeps it from being written or deleted; a failure is silent.
+  virtual void Allow_Writing(const std::string& path) = 0;
+
+  /// Brings the bytes of a file to the disk, and then puts it into the place of `to` or of nothing, by one step that is
+  /// on the disk on return. Returns false, with nothing changed, on a system that can't do it by one. Throws error 53,
+  /// 61, 70, 75 or 76, with nothing changed.
   virtual bool Move_Over(const std::string& from, const std::string& to) = 0;
 
   /// Gives a file another name, which no file has yet. Throws error 53, 70, 75 or 76.
@@ -46,12 +49,16 @@ class Files : public basic::Disk {
   static std::string Name_Beside(const std::string& path);
   std::unique_ptr<basic::Output_File> Create_Beside(const std::string& path) final;
 
-  /// Puts a file into the place of another or of none: at any moment the old or the new one is there whole. Takes no room
-  /// on the disk. Throws as Move_Over.
+  /// Puts a file, be it read-only, into the place of another or of none: at any moment the old or the new one is there
+  /// whole. Takes no room on the disk. Throws as Move_Over.
   void Replace(const std::string& from, const std::string& to);
 
   /// The same as Copy, by a new file that takes the place of `to`: at any moment the old or the new one is there whole.
   void Copy_Over(const std::string& from, const std::string& to);
+
+  /// Gives a file back its name that a power cut between two renamings has left without it. Returns false after a
+  /// failure.
+  bool Put_Back(const std::string& path);
 
   /// Ends what a power cut has left half done of a replacement of that file. Called before the first look for it.
   void Recover(const std::string& path);

@@ -48,7 +48,8 @@ class Placement {
   void RePosition();
 
   /// The drag by the title; x and y are twips within the title. Start_Drag and End_Drag throw
-  /// Work_Area_Too_Large for a place of the window beyond 16 bits, in twips, without that consent. End_Drag may show a message box.
+  /// Work_Area_Too_Large for a place of the window beyond 16 bits, in twips, without that consent. End_Drag may show a
+  /// message box.
   void Start_Drag(double x, double y);
   void Drag(double x, double y);
   void End_Drag();

@@ -1,5 +1,5 @@
-// The user's consent to today's desktops: one stored value, without which the calendar is as it always was. With it places
-// have 32 bits.
+// The user's consent to today's desktops: one stored value, without which the calendar is as it always was. With it
+// places have 32 bits.
 #pragma once
 
 #include <array>
@@ -24,8 +24,8 @@ class Desktop_Mode {
 
   enum Edge { left_edge = 0, top_edge = 1 };
 
-  /// The edge of the manual place, in twips, whose nearest 16-bit number is `nearest`: the one that is kept, as long as it
-  /// is near to this number, else the number itself. So a place that was set without the consent counts.
+  /// The edge of the manual place, in twips, whose nearest 16-bit number is `nearest`: the one that is kept, as long as
+  /// it is near to this number, else the number itself. So a place that was set without the consent counts.
   [[nodiscard]] std::int32_t Manual_Edge(Edge edge, basic::Int16 nearest) const;
 
   /// Keeps an edge, if it couldn't be told from its nearest 16-bit number.

@@ -16,7 +16,8 @@ class Stored_Settings {
   /// The consent to today's desktops, which is in no table and in no configuration file.
   Desktop_Mode Desktop;
 
-  /// Reads the consent and all keys. Throws error 6 or 13 if a stored text doesn't fit its variable: the stored texts aren't repaired.
+  /// Reads the consent and all keys. Throws error 6 or 13 if a stored text doesn't fit its variable: the stored texts
+  /// aren't repaired.
   void Load_Settings();
 
   /// Sets the variable and saves its key.

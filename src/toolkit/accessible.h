@@ -1,5 +1,5 @@
-// What a control tells a screen reader: what it is, its name, its value, its marks and its parts. What every control has,
-// such as its place, is read from the control itself; reading.h puts all of it together.
+// What a control tells a screen reader: what it is, its name, its value, its marks and its parts. What every control
+// has, such as its place, is read from the control itself; reading.h puts all of it together.
 #pragma once
 
 #include <functional>

@@ -61,6 +61,7 @@ const char* Action_Of(const Control& control) {
     case Role::Check_Box: return control.Marks().Checked ? "Uncheck" : "Check";
     case Role::Option_Button: return "Select";
     case Role::Push_Button: return "Press";
+    case Role::Drop_Down: return "Open";
     case Role::Text:
     case Role::Picture: break;
     default: return "";

@@ -46,8 +46,8 @@ enum class Way { Next, Previous, Left, Right, Up, Down };
 /// there is none. Next and Previous of nullptr are the first one and the last.
 Control* Neighbour(const Form& form, const Control* control, Way way);
 
-// What a reader does in the user's place. It takes the road of the user's own hand, so **a handler may unload the window:
-// touch nothing of it after calling one of these**. All of them do nothing where the user himself couldn't.
+// What a reader does in the user's place. It takes the road of the user's own hand, so **a handler may unload the
+// window: touch nothing of it after calling one of these**. All of them do nothing where the user himself couldn't.
 
 /// The click, or the double-click, that `Action` names.
 void Act_On(Control& control);

@@ -1,5 +1,5 @@
-// The system's services for screen readers. Nothing of them is loaded until a reader asks for a window; the first systems
-// may lack them, and then no reader asks.
+// The system's services for screen readers. Nothing of them is loaded until a reader asks for a window; the first
+// systems may lack them, and then no reader asks.
 #pragma once
 
 #include <string_view>
@@ -27,8 +27,8 @@ class Accessibility {
   /// The answer to a reader's WM_GETOBJECT with `w`.
   LRESULT Answer(WPARAM w, IUnknown* object) const { return answer_(accessible_id, w, object); }
 
-  /// The object that a window gives for one of the OBJID numbers: its own, or else the system's. The caller releases it;
-  /// nullptr if there is none.
+  /// The object that a window gives for one of the OBJID numbers: its own, or else the system's. The caller releases
+  /// it; nullptr if there is none.
   [[nodiscard]] IDispatch* Object_Of(HWND window, LONG number) const;
 
   /// A text for a reader, who frees it; nullptr for an empty one.

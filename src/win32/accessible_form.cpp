@@ -75,11 +75,14 @@ HWND Accessible_Form::Window_Of(int number) const {
 
 IDispatch* Accessible_Form::Parent() const { return Services().Object_Of(Window(), OBJID_WINDOW); }
 
+int Accessible_Form::Number_In_Form(const toolkit::Control& control) {
+  return Number_Of_Control(control.Window, &control);
+}
+
 void Accessible_Form::Fulfil(toolkit::Control* control, int part, Wish wish) {
   if (control == nullptr) return;
-  const toolkit::Form& form = control->Window;
-  const int number = Number_Of_Control(form, control);
-  PostMessageA(To_Window(form.Handle()), reader_wishes, static_cast<WPARAM>(number), Packed(part, wish));
+  const auto number = static_cast<WPARAM>(Number_In_Form(*control));
+  PostMessageA(To_Window(control->Window.Handle()), reader_wishes, number, Packed(part, wish));
 }
 
 void Accessible_Form::Do(WPARAM w, LPARAM l) const {
@@ -88,7 +91,17 @@ void Accessible_Form::Do(WPARAM w, LPARAM l) const {
   if (control == nullptr) return;
   if (l % 2 == static_cast<LPARAM>(Wish::Focus)) toolkit::Give_Focus(*control);
   else if (part >= 0) toolkit::Select_Part(*control, part);
+  else if (control->Kind() == toolkit::Role::Drop_Down) Open_List(*control);
   else toolkit::Act_On(*control);
+}
+
+/// The list is the system's own, and opens where the focus is.
+void Accessible_Form::Open_List(toolkit::Control& control) const {
+  toolkit::Form& form = form_;
+  toolkit::Input& input = form.System().Input;
+  const HWND box = native_window_(control);
+  toolkit::Give_Focus(control);
+  if (input.Is_There(&form, &control) && form.Focused() == &control) SendMessageA(box, CB_SHOWDROPDOWN, TRUE, 0);
 }
 
 void Accessible_Form::Changed(const toolkit::Control& control, toolkit::Aspect aspect) {

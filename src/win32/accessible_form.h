@@ -1,5 +1,5 @@
-// A form's window as a screen reader asks for it. What it paints itself are numbers alone; each of the system's controls
-// has an object of its own.
+// A form's window as a screen reader asks for it. What it paints itself are numbers alone; each of the system's
+// controls has an object of its own.
 #pragma once
 
 #include <array>
@@ -29,6 +29,9 @@ class Accessible_Form final : public Accessible_Window {
   [[nodiscard]] IDispatch* Parent() const override;
   void Fulfil(int number, Wish wish) const override { Fulfil(Control(number), -1, wish); }
 
+  /// The number that a control has in its form's window.
+  static int Number_In_Form(const toolkit::Control& control);
+
   /// Asks the window of the control's form to do it for the control, or for a part of it; -1: for it as a whole.
   static void Fulfil(toolkit::Control* control, int part, Wish wish);
 
@@ -44,6 +47,7 @@ class Accessible_Form final : public Accessible_Window {
  private:
   [[nodiscard]] toolkit::Control* Control(int number) const;
   [[nodiscard]] int Number_Of(const toolkit::Control* control) const;
+  void Open_List(toolkit::Control& control) const;
   void Tell_Changes();
 
   toolkit::Form& form_;

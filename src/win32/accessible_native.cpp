@@ -50,6 +50,8 @@ int Accessible_Native::Selected() const { return native_.Control().Selected_Part
 
 IDispatch* Accessible_Native::Parent() const { return Services().Object_Of(GetParent(Window()), OBJID_CLIENT); }
 
+int Accessible_Native::Number_In_Parent() const { return Accessible_Form::Number_In_Form(native_.Control()); }
+
 void Accessible_Native::Fulfil(int number, Wish wish) const {
   Accessible_Form::Fulfil(&native_.Control(), number - 1, wish);
 }

@@ -1,5 +1,5 @@
-// One of the system's controls as a screen reader asks for it: by what the toolkit's control tells of itself, the same on
-// every system, with a list's items and a strip's tabs as its parts.
+// One of the system's controls as a screen reader asks for it: by what the toolkit's control tells of itself, the same
+// on every system, with a list's items and a strip's tabs as its parts.
 #pragma once
 
 #include "win32/accessible_window.h"
@@ -22,6 +22,7 @@ class Accessible_Native final : public Accessible_Window {
   [[nodiscard]] int Focused() const override;
   [[nodiscard]] int Selected() const override;
   [[nodiscard]] IDispatch* Parent() const override;
+  [[nodiscard]] int Number_In_Parent() const override;
   void Fulfil(int number, Wish wish) const override;
 
  private:

@@ -219,12 +219,29 @@ STDMETHODIMP Accessible_Object::accLocation(long* left, long* top, long* width, 
   });
 }
 
+/// From the window itself to what lies beside it. That is the parent's to tell, with a number of the parent's.
+HRESULT Accessible_Object::Navigate_From_Itself(long direction, VARIANT* to) const {
+  VARIANT number = itself;
+  number.lVal = window_->Number_In_Parent();
+  IDispatch* const parent = number.lVal != 0 ? window_->Parent() : nullptr;
+  if (parent == nullptr) return S_FALSE;
+  IAccessible* accessible = nullptr;
+  HRESULT result = parent->QueryInterface(Accessibility::accessible_id, reinterpret_cast<void**>(&accessible));
+  if (accessible != nullptr) {
+    result = accessible->accNavigate(direction, number, to);
+    accessible->Release();
+  }
+  parent->Release();
+  return result;
+}
+
 STDMETHODIMP Accessible_Object::accNavigate(long direction, VARIANT from, VARIANT* to) {
   if (to == nullptr) return E_INVALIDARG;
   to->vt = VT_EMPTY;
   return Ask(from, [&](const Accessible_Window& window, int asked) -> HRESULT {
     const bool child = direction == NAVDIR_FIRSTCHILD || direction == NAVDIR_LASTCHILD;
-    if (child != (asked == 0)) return S_FALSE;  // what lies in the window has no children, and the window no neighbours
+    if (child && asked != 0) return S_FALSE;  // what lies in the window has no children
+    if (!child && asked == 0) return Navigate_From_Itself(direction, to);
     int number = 0;
     switch (direction) {
       case NAVDIR_FIRSTCHILD:

@@ -60,6 +60,7 @@ class Accessible_Object final : public IAccessible, public IOleWindow {
   template <class Choose>
   HRESULT Ask_Text(const VARIANT& number, BSTR* text, Choose choose) const;
   [[nodiscard]] HRESULT Give(int number, VARIANT* to) const;
+  [[nodiscard]] HRESULT Navigate_From_Itself(long direction, VARIANT* to) const;
 
   Accessible_Window* window_;
   volatile LONG references_ = 1;

@@ -1,5 +1,5 @@
-// A window as a screen reader asks for it: the window itself, which is number 0, and what is read in it, from number 1 on.
-// Accessible_Object puts the reader's questions to it.
+// A window as a screen reader asks for it: the window itself, which is number 0, and what is read in it, from number 1
+// on. Accessible_Object puts the reader's questions to it.
 #pragma once
 
 #include "toolkit/reading.h"
@@ -9,8 +9,8 @@ namespace win32 {
 
 class Accessible_Object;
 
-/// Posted to a form's window by its own accessible objects: the reader wishes something done. Done only when the question
-/// has been answered, since a handler may show a message box, under which the reader would wait.
+/// Posted to a form's window by its own accessible objects: the reader wishes something done. Done only when the
+/// question has been answered, since a handler may show a message box, under which the reader would wait.
 constexpr UINT reader_wishes = WM_APP + 2;
 
 enum class Wish { Act, Focus };
@@ -48,6 +48,9 @@ class Accessible_Window {
 
   /// What it lies in. The caller releases it.
   [[nodiscard]] virtual IDispatch* Parent() const = 0;
+
+  /// Its own number in that; 0 if it has no neighbours there.
+  [[nodiscard]] virtual int Number_In_Parent() const { return 0; }
 
   virtual void Fulfil(int number, Wish wish) const = 0;
 

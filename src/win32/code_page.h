@@ -7,8 +7,8 @@
 
 namespace win32 {
 
-/// Tells the user, once for all starts, where the system has UTF-8 for its code page: events that were written in another
-/// one don't read as they were.
+/// Tells the user, once for all starts, where the system has UTF-8 for its code page: events that were written in
+/// another one don't read as they were.
 void Warn_Of_Utf8(UINT code_page, platform::Settings_Store& store, platform::Message_Box& box);
 
 }  // namespace win32

@@ -49,17 +49,17 @@ Handle_Owner Open(const std::string& path, DWORD access, DWORD sharing, DWORD ho
   return file;
 }
 
-/// The pauses after which a file is tried again: a virus scanner looks into a file that has just been written, and holds it for
-/// a moment.
+/// The pauses after which a file is tried again: a virus scanner looks into a file that has just been written, and
+/// holds it for a moment.
 constexpr DWORD pauses[] = {15, 30, 60, 100, 100};  // milliseconds
 
 bool Held_By_Another() {
-  constexpr DWORD unable_to_remove_replaced = 1175;
   const DWORD failure = GetLastError();
-  return failure == ERROR_ACCESS_DENIED || failure == ERROR_SHARING_VIOLATION || failure == unable_to_remove_replaced;
+  return failure == ERROR_ACCESS_DENIED || failure == ERROR_SHARING_VIOLATION;
 }
 
-/// Calls `work` until it returns true, or fails for another reason than a file that is held. Returns what it returned last.
+/// Calls `work` until it returns true, or fails for another reason than a file that is held. Returns what it returned
+/// last.
 template <class Work>
 bool Patiently(Work&& work) {
   for (const DWORD pause : pauses) {
@@ -165,9 +165,15 @@ void Disk_Files::Check_Writing(const std::string& path) {
   Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
 }
 
+// A hidden file can be deleted, but not created anew as one that isn't hidden.
+void Disk_Files::Allow_Writing(const std::string& path) {
+  constexpr DWORD in_the_way = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+  const DWORD attributes = Attributes(path);
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & in_the_way) != 0)
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 bool Disk_Files::Move_Over(const std::string& from, const std::string& to) {
-  // A copy of a file that may not be written is one of the same kind, and couldn't be brought to the disk.
-  if ((Attributes(from) & FILE_ATTRIBUTE_READONLY) != 0) SetFileAttributesA(from.c_str(), FILE_ATTRIBUTE_NORMAL);
   Bring_To_Disk(from);
   // Windows 98 has the function, which does nothing there but fail.
   const auto move =

@@ -58,8 +58,8 @@ Face& Fonts::Get(const toolkit::Font& description) {
   return *(last_ = faces_.emplace_back(std::move(face)).get());
 }
 
-/// Whether the text is as wide as its characters together: every text of a simple code page is, and of any other one the
-/// text of plain letters.
+/// Whether the text is as wide as its characters together: every text of a simple code page is, and of any other one
+/// the text of plain letters.
 bool Fonts::Adds_Up(std::string_view text) const {
   return simple_ || std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }

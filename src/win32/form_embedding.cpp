@@ -1,5 +1,5 @@
-// A form's window as a child of the shell's window: how it gets there, its place in it, and how it is made anew when the
-// shell has gone and taken it along.
+// A form's window as a child of the shell's window: how it gets there, its place in it, and how it is made anew when
+// the shell has gone and taken it along.
 #include "toolkit/input.h"
 #include "win32/form_window.h"
 
@@ -23,7 +23,8 @@ bool Move_Under(HWND window, HWND parent) {
   return moved;
 }
 
-/// Comes after the move: a window that is layered while it moves can stay unseen. Not every system lets a child be layered.
+/// Comes after the move: a window that is layered while it moves can stay unseen. Not every system lets a child be
+/// layered.
 bool Become_Layered(HWND window) {
   const auto set_attributes = Find_Function<BOOL WINAPI(HWND, COLORREF, BYTE, DWORD)>(GetModuleHandleA("user32.dll"),
                                                                                       "SetLayeredWindowAttributes");
@@ -72,8 +73,8 @@ RECT Form_Window::Place_In_Parent() const {
   return place;
 }
 
-/// The shell's window has been destroyed, and this one with it: the form gets a new one, an ordinary one behind all others,
-/// as the desktop was.
+/// The shell's window has been destroyed, and this one with it: the form gets a new one, an ordinary one behind all
+/// others, as the desktop was.
 void Form_Window::Make_Anew() {
   toolkit::Input& input = form_.System().Input;
   if (input.Mouse_Window() == &form_) input.Mouse_Lost();

@@ -253,8 +253,8 @@ bool Form_Window::Take_Key(const MSG& message) {
   toolkit::Input& input = form_.System().Input;
   const int code = static_cast<int>(message.wParam);
   const toolkit::Key key{code, GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0, GetKeyState(VK_MENU) < 0};
-  // F10 is used up here like any other key: the system would look for a menu bar. So is Alt where the window has no menu of
-  // its own: inside the shell's window the system would take that one's.
+  // F10 is used up here like any other key: the system would look for a menu bar. So is Alt where the window has no
+  // menu of its own: inside the shell's window the system would take that one's.
   const bool menu_key = code == VK_F10 || (code == VK_MENU && form_.Border == toolkit::Form_Border::None);
   switch (message.message) {
     case WM_KEYDOWN:

@@ -18,8 +18,8 @@ void Native_Button::Stand_On_Ground() {
   Follow_Contrast();
 }
 
-/// A visual style writes a caption in a colour of its own, whatever the form's is. Where that can't be read on the form's
-/// ground, as with colours of high contrast, the form's is taken.
+/// A visual style writes a caption in a colour of its own, whatever the form's is. Where that can't be read on the
+/// form's ground, as with colours of high contrast, the form's is taken.
 void Native_Button::Follow_Contrast() {
   constexpr Themes::Look check_box = {3, 1};
   const toolkit::Form& form = Control().Window;

@@ -1,6 +1,6 @@
-// What the compiler's guard of the stack calls for: the value behind the locals of a function, and the end of the program
-// where something has written over it. With these the run-time library's own ones aren't linked, which would ask the
-// system's cryptography for the value at each start.
+// What the compiler's guard of the stack calls for: the value behind the locals of a function, and the end of the
+// program where something has written over it. With these the run-time library's own ones aren't linked, which would
+// ask the system's cryptography for the value at each start.
 #include <initializer_list>
 
 #include "win32/windows_api.h"

@@ -26,8 +26,8 @@ class Win32_Platform {
   /// Calls `start` and serves messages until the program quits. An exception that ends the program is reported.
   End Run(const std::function<void()>& start);
 
-  /// Reports an exception that ends the program in a message box. Returns Consent if it was a desktop too large, and the
-  /// user would have the calendar work on such desktops.
+  /// Reports an exception that ends the program in a message box. Returns Consent if it was a desktop too large, and
+  /// the user would have the calendar work on such desktops.
   static End Report_Failure(const std::exception_ptr& failure);
 
  private:

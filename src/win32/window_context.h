@@ -87,7 +87,8 @@ struct Window_Context {
   /// and the messages don't report all of its changes.
   bool Embedded = false;
 
-  /// How many calls of a window's Settle are under way. A message may come in the middle of one; a window must not go then.
+  /// How many calls of a window's Settle are under way. A message may come in the middle of one; a window must not go
+  /// then.
   int Settling = 0;
 
   /// Where the pointer was last seen, in pixels of the screen. The system also reports a move when a window changes

@@ -15,14 +15,15 @@ class Fake_Disk : public basic::Disk {
  public:
   std::map<std::string, std::string> Contents;
   std::set<std::string> Blocked;
+  std::set<std::string> Read_Only;
   std::size_t Room = std::numeric_limits<std::size_t>::max();  ///< bytes that can still be written
   int Open_For_Writing = 0;                                    ///< files that are open at this moment
   int Reads = 0, Writes = 0;
   bool Replaces = true;       ///< a file can take another's place by one step
   bool Blocks_Moves = false;  ///< no file can take another's place
 
-  /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes comes
-  /// halfway if it is a write.
+  /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes
+  /// comes halfway if it is a write.
   int Steps_To_Power_Cut = std::numeric_limits<int>::max();
 
   void Read_Whole(const std::string& path, std::string& buffer) override {
@@ -35,6 +36,7 @@ class Fake_Disk : public basic::Disk {
 
   std::unique_ptr<basic::Output_File> Create(const std::string& path) override {
     Refuse_If_Blocked(path);
+    Refuse_If_Read_Only(path);
     if (Step()) Contents[path].clear();
     return std::make_unique<File>(*this, path);
   }
@@ -46,7 +48,10 @@ class Fake_Disk : public basic::Disk {
   std::vector<std::string> Created_Beside;  ///< paths; what is written goes to the file itself
   std::vector<std::string> Finished;
 
-  void Check_Writing(const std::string& path) const { Refuse_If_Blocked(path); }
+  void Check_Writing(const std::string& path) const {
+    Refuse_If_Blocked(path);
+    Refuse_If_Read_Only(path);
+  }
 
   bool Move_Over(const std::string& from, const std::string& to) {
     if (Blocks_Moves) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
@@ -56,11 +61,13 @@ class Fake_Disk : public basic::Disk {
   }
 
   void Rename(const std::string& from, const std::string& to) {
+    Refuse_If_Blocked(from);
     if (Contents.contains(to) && Steps_To_Power_Cut > 0) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
     Put_In_Place(from, to);
   }
 
   void Delete(const std::string& path) {
+    Refuse_If_Read_Only(path);
     if (Step()) Contents.erase(path);
   }
 
@@ -99,9 +106,14 @@ class Fake_Disk : public basic::Disk {
     if (!Step()) return;
     Contents[to] = Contents.at(from);
     Contents.erase(from);
+    if (Read_Only.erase(from) != 0) Read_Only.insert(to);
   }
 
   void Refuse_If_Blocked(const std::string& path) const {
     if (Blocked.contains(path)) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
+  }
+
+  void Refuse_If_Read_Only(const std::string& path) const {
+    if (Read_Only.contains(path)) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   }
 };

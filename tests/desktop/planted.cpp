@@ -1,5 +1,5 @@
-// A library that stands in the program's folder under the name of one of the system's, and writes a file beside itself where
-// it is loaded: NAME.loaded.
+// A library that stands in the program's folder under the name of one of the system's, and writes a file beside itself
+// where it is loaded: NAME.loaded.
 #include <windows.h>
 
 #include <string>

@@ -4,9 +4,9 @@
 //   desktop_probe post WINDOW MESSAGE WPARAM LPARAM
 //   desktop_probe show TITLE   a window of that title, of a program that isn't the calendar; until it is closed or ended
 //   desktop_probe copy FILE    the file's bytes become the text of the clipboard
-//   desktop_probe modules PROGRAM   the paths of the libraries that the running programs of that name have loaded, a line each
-//   desktop_probe watch        the visible windows' places as often as they change, one JSON object a line, with the time in
-//                              milliseconds; until it is ended
+//   desktop_probe modules PROGRAM   the paths of the libraries that the running programs of that name have loaded, a
+// line each   desktop_probe watch        the visible windows' places as often as they change, one JSON object a line,
+// with the time in                              milliseconds; until it is ended
 //
 // Texts are the bytes of the code page, each above 0x7E as \u00XX.
 #include <windows.h>

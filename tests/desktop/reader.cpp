@@ -2,13 +2,13 @@
 //
 //   desktop_reader read WINDOW           the window and all that is read in it, as one JSON object
 //   desktop_reader hit WINDOW X Y        what is at a pixel of the screen
-//   desktop_reader walk WINDOW           the names on the way from the first one to the last, each by the step to the next
-//   desktop_reader act WINDOW NAME       the default action of the visible thing of that name
+//   desktop_reader walk WINDOW           the names on the way from the first one to the last, each by the step to the
+// next   desktop_reader act WINDOW NAME       the default action of the visible thing of that name
 //   desktop_reader focus WINDOW NAME     gives it the focus
-//   desktop_reader hold WINDOW           holds on to it until it is gone, and then asks for its name: prints "held", and in the
-//                                        end the number of the error
-//   desktop_reader listen                each new name and new order that a window tells, one JSON object a line; until it
-//                                        is ended
+//   desktop_reader hold WINDOW           holds on to it until it is gone, and then asks for its name: prints "held",
+// and in the                                        end the number of the error
+//   desktop_reader listen                each new name and new order that a window tells, one JSON object a line; until
+// it                                        is ended
 //
 // WINDOW is a handle. Each byte of a text above 0x7E is \u00XX.
 #include <windows.h>

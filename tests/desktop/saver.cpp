@@ -1,5 +1,5 @@
-// Saves the event of one day again and again, with the user's consent to today's desktops, until it is killed. Each time the text
-// is a number more; it tells the number once it is saved.
+// Saves the event of one day again and again, with the user's consent to today's desktops, until it is killed. Each
+// time the text is a number more; it tells the number once it is saved.
 #include <windows.h>
 
 #include <cstdio>

@@ -23,11 +23,13 @@ class Fake_Files : public platform::Files {
   std::vector<std::string> File_Names(const std::string&) override { return {}; }
   std::vector<std::string> Folder_Names(const std::string&) override { return {}; }
   void Check_Writing(const std::string& path) override { Disk.Check_Writing(path); }
+  void Allow_Writing(const std::string& path) override { Disk.Read_Only.erase(path); }
   bool Move_Over(const std::string& from, const std::string& to) override { return Disk.Move_Over(from, to); }
   void Rename(const std::string& from, const std::string& to) override { Disk.Rename(from, to); }
   void Delete(const std::string& path) override { Disk.Delete(path); }
   void Copy(const std::string& from, const std::string& to) override {
     Disk.Create(to)->Write(std::string(Disk.Contents.at(from)));
+    if (Disk.Read_Only.contains(from)) Disk.Read_Only.insert(to);
   }
   basic::Moment Last_Change(const std::string& /*path*/) override { return {}; }
   bool Same_Path(const std::string& a, const std::string& b) override { return a == b; }

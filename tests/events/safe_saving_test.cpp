@@ -41,6 +41,7 @@ class Safe_Saving_World : public Event_File_World {
     Event_File_World later;
     later.Desktop.Load();
     later.Files.Disk.Contents = All_Files();
+    later.Files.Disk.Read_Only = Files.Disk.Read_Only;
     later.File.Recover();
     return later.Files.Disk.Contents;
   }
@@ -128,6 +129,54 @@ TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_leaves_the_old_or_the_new_
   Cut_At_Every_Step(copy, Old_Content(), "new");
 }
 
+TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_of_a_read_only_file_leaves_nothing_beside_the_file) {
+  const auto copy = [](Safe_Saving_World& world) {
+    world.Files.Disk.Contents["D:\\backup"] = "new";
+    world.Files.Disk.Read_Only.insert("D:\\backup");
+    world.Files.Copy_Over("D:\\backup", path);
+    world.Files.Disk.Contents.erase("D:\\backup");
+  };
+  Cut_At_Every_Step(copy, Old_Content(), "new");
+}
+
+TEST_F(Safe_Saving, What_a_power_cut_has_left_read_only_is_written_over) {
+  for (const char* const left : {".~new", ".~bak"}) {
+    All_Files()[std::string(path) + left] = "left";
+    Files.Disk.Read_Only.insert(std::string(path) + left);
+  }
+  Files.Disk.Replaces = false;
+  Save();
+  EXPECT_EQ(Messages(), Lines{});
+  EXPECT_EQ(Content(), New_Content());
+  EXPECT_EQ(All_Files().size(), 1U);
+}
+
+TEST_F(Safe_Saving, A_copy_is_put_over_what_a_power_cut_has_left_read_only) {
+  All_Files()["D:\\backup"] = "new";
+  All_Files()[std::string(path) + ".~new"] = "left";
+  Files.Disk.Read_Only.insert(std::string(path) + ".~new");
+  Files.Copy_Over("D:\\backup", path);
+  EXPECT_EQ(Content(), "new");
+}
+
+TEST_F(Safe_Saving, A_file_that_cannot_get_its_name_back_at_the_start_is_not_lost_to_a_save) {
+  const std::string old = std::string(path) + ".~bak";
+  All_Files().clear();
+  All_Files()[old] = Old_Content();
+  Files.Disk.Blocked.insert(old);
+  File.Recover();
+  Save();
+  EXPECT_EQ(Messages(), Lines{saving_failed});
+  EXPECT_FALSE(Is_There());
+  Files.Disk.Blocked.clear();
+  Save();
+  EXPECT_EQ(Messages(), Lines{saving_failed}) << "what was to be written had nothing of the old file";
+  Save();
+  EXPECT_EQ(Messages(), Lines{});
+  EXPECT_EQ(Content(), New_Content());
+  EXPECT_EQ(All_Files().size(), 1U);
+}
+
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_an_import_leaves_the_old_file_or_that_of_the_whole_import) {
   const auto import = [](Safe_Saving_World& world) {
     world.Channel.Open_For_Writing(path, world.File.Saving());
@@ -200,7 +249,7 @@ TEST_F(Safe_Saving, What_is_given_up_leaves_the_old_file_and_no_other) {
   EXPECT_EQ(All_Files().size(), 1U);
 }
 
-TEST_F(Safe_Saving, Without_the_consent_the_file_is_written_in_its_place_and_nothing_is_looked_for) {
+TEST_F(Safe_Saving, Without_the_consent_the_file_is_written_in_its_place_and_nothing_is_taken_away) {
   Event_File_World world;
   world.Put({"9/3/2004=Tea"});
   world.Files.Disk.Contents[std::string(path) + ".~bak"] = "older";
@@ -211,4 +260,13 @@ TEST_F(Safe_Saving, Without_the_consent_the_file_is_written_in_its_place_and_not
   world.Files.Disk.Room = 5;
   world.Change("8/3/2004", "Cake");
   EXPECT_EQ(world.Content(), "");
+}
+
+TEST_F(Safe_Saving, Events_that_a_power_cut_has_left_under_another_name_are_there_when_the_consent_is_withdrawn) {
+  Event_File_World world;
+  world.Files.Disk.Contents[std::string(path) + ".~bak"] = Record("9/3/2004=Choir");
+  world.File.Recover();
+  world.Editor.Text = "Tea";
+  world.Change("8/3/2004", "Tea");
+  EXPECT_EQ(world.Content(), Record("9/3/2004=Choir") + Record("8/3/2004=Tea"));
 }

@@ -114,6 +114,7 @@ TEST_F(Reading, A_kind_tells_what_it_is_and_what_it_holds) {
   EXPECT_EQ(Hear(slider).Value, "7");
   EXPECT_EQ(Hear(box).Role, Role::Drop_Down);
   EXPECT_EQ(Hear(box).Value, "Minutes");
+  EXPECT_EQ(Hear(box).Action, "Open");
   EXPECT_EQ(Hear(frame).Role, Role::Group);
   EXPECT_EQ(Hear(label).Value, std::nullopt);
 }

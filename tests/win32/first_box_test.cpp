@@ -1,5 +1,5 @@
-// The library of the system's controls is there before the first message box, and not before it is needed. In a program of
-// its own: nothing else may have loaded the library.
+// The library of the system's controls is there before the first message box, and not before it is needed. In a program
+// of its own: nothing else may have loaded the library.
 #include "tests/win32/window_on_screen.h"
 #include "toolkit/label.h"
 

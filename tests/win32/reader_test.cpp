@@ -30,7 +30,9 @@ class Readers : public Window_On_Screen {
     List.Place({150, 1050, 2000, 1800});
     Strip.Place({2500, 1050, 3000, 1800});
     Text.Place({150, 3000, 3000, 900});
+    Choice.Place({3300, 3000, 2000, 315});
     for (const char* const item : {"one", "two", "three"}) List.Add_Item(item);
+    for (const char* const item : {"early", "late"}) Choice.Add_Item(item);
     Show();
   }
 
@@ -73,6 +75,7 @@ class Readers : public Window_On_Screen {
   toolkit::List_Box List{Window, "List"};                            // 3
   toolkit::Tab_Strip Strip{Window, "Strip", {"Events", "Colours"}};  // 4
   toolkit::Text_Box Text{Window, "Text"};                            // 5
+  toolkit::Combo_Box Choice{Window, "Choice"};                       // 6
   win32::Accessibility Services;
 };
 
@@ -102,7 +105,7 @@ TEST_F(Readers, A_name_comes_in_the_letters_of_the_code_page) {
 TEST_F(Readers, What_isnt_there_is_an_invalid_number) {
   const Object window = Read(Handle());
   BSTR text = nullptr;
-  EXPECT_EQ(window.Get()->get_accName(Numbered(6), &text), E_INVALIDARG);
+  EXPECT_EQ(window.Get()->get_accName(Numbered(7), &text), E_INVALIDARG);
   EXPECT_EQ(window.Get()->get_accName(Numbered(-1), &text), E_INVALIDARG);
   EXPECT_EQ(window.Get()->get_accName(VARIANT{}, &text), E_INVALIDARG);
 }
@@ -187,6 +190,37 @@ TEST_F(Readers, The_steps_through_the_window_lead_from_the_first_to_the_last) {
   const Object box(static_cast<IAccessible*>(to.pdispVal));
   EXPECT_EQ(Name(box), "Every year");
   EXPECT_EQ(window.Get()->accNavigate(NAVDIR_PREVIOUS, Numbered(1), &to), S_FALSE);
+}
+
+TEST_F(Readers, The_steps_from_a_control_lead_to_its_neighbours_in_the_window) {
+  const Object box = Read(Child("Button"));
+  VARIANT to = {};
+  ASSERT_EQ(box.Get()->accNavigate(NAVDIR_PREVIOUS, Numbered(0), &to), S_OK);
+  EXPECT_EQ(to.vt, VT_I4) << "a label is a number of the window's";
+  EXPECT_EQ(to.lVal, 1);
+  ASSERT_EQ(box.Get()->accNavigate(NAVDIR_DOWN, Numbered(0), &to), S_OK);
+  ASSERT_EQ(to.vt, VT_DISPATCH);
+  const Object list(static_cast<IAccessible*>(to.pdispVal));
+  EXPECT_EQ(Name(list, 2), "two");
+  const Object window = Read(Handle());
+  EXPECT_EQ(window.Get()->accNavigate(NAVDIR_NEXT, Numbered(0), &to), S_FALSE) << "a window has no neighbours";
+}
+
+TEST_F(Readers, A_drop_down_list_is_opened) {
+  const HWND window = Child("ComboBox");
+  const auto open = [window] { return SendMessageA(window, CB_GETDROPPEDSTATE, 0, 0) != 0; };
+  const Object choice = Read(window);
+  BSTR action = nullptr;
+  EXPECT_EQ(choice.Get()->get_accDefaultAction(Numbered(0), &action), S_OK);
+  EXPECT_EQ(choice.Get()->accDoDefaultAction(Numbered(0)), S_OK);
+  Wait(50);
+  EXPECT_TRUE(open());
+  EXPECT_EQ(Window.Focused(), &Choice);
+  SendMessageA(window, CB_SHOWDROPDOWN, FALSE, 0);
+  Choice.Enabled = false;
+  choice.Get()->accDoDefaultAction(Numbered(0));
+  Wait(50);
+  EXPECT_FALSE(open());
 }
 
 TEST_F(Readers, What_was_held_of_a_window_that_has_gone_answers_that_it_isnt_connected) {

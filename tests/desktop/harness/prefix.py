@@ -79,6 +79,13 @@ class Prefix:
         with open(self.folder / "user.reg", "a", encoding="ascii", newline="\n") as file:
             file.write(f'\n[{registry_text(key)}] 1\n"{name}"=dword:{value:08x}\n')
 
+    def preset_refusal(self, key):
+        """A key below HKEY_CURRENT_USER that can be neither read nor made: a link to one that isn't there."""
+        assert not self.booted
+        target = ",".join(f"{byte:02x}" for byte in "\\Registry\\Nowhere\\None".encode("utf-16-le"))
+        with open(self.folder / "user.reg", "a", encoding="ascii", newline="\n") as file:
+            file.write(f'\n[{registry_text(key)}] 1\n#link\n"SymbolicLinkValue"=hex(6):{target}\n')
+
     def boot(self, stands):
         """On the real clock, so that only the program sees the false one; `stands` tells whether Wine's desktop has come
         up. It would go a second after the last program on it, so an idle command line stays there until the end."""
