@@ -3,7 +3,6 @@
 namespace win32 {
 
 bool Broadcasts::Message(UINT message, WPARAM) {
-  constexpr UINT style_changed = 0x031A;  // WM_THEMECHANGED, of the newer systems
   if (message != WM_SYSCOLORCHANGE && message != style_changed) return false;
   context_.Themes.Forget();
   context_.Pictures.Forget_Bitmaps();

@@ -58,15 +58,16 @@ Face& Fonts::Get(const toolkit::Font& description) {
   return *(last_ = faces_.emplace_back(std::move(face)).get());
 }
 
-/// Whether the text is as wide as its characters together: every text of a simple code page is, and of any other one
-/// the text of plain letters.
-bool Fonts::Adds_Up(std::string_view text) const {
-  return simple_ || std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+/// Whether the text is as wide as its characters together: every text of a simple code page is, and of any other one the
+/// text of plain letters.
+bool Fonts::Adds_Up(Face& face, std::string_view text) {
+  const bool plain =
+      simple_ || std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  return plain && Measure(face);
 }
 
 int Fonts::Width(Face& face, std::string_view text) {
-  if (!Adds_Up(text)) return Whole_Width(face, text);
-  Measure(face);
+  if (!Adds_Up(face, text)) return Whole_Width(face, text);
   int width = 0;
   for (const char c : text) width += face.Widths[static_cast<unsigned char>(c)];
   return width == 0 ? 0 : width + face.Overhang;
@@ -88,16 +89,21 @@ int Fonts::Height(const Face& face, std::string_view text, int width) {
   return place.bottom;
 }
 
-std::string Fonts::Name_Of(const Face& face) {
-  char name[LF_FACESIZE] = "";
-  GetTextFaceA(Select(face), LF_FACESIZE, name);
-  return name;
+/// Asked without a character set: for letters that a font doesn't have the system gives another font.
+std::string Fonts::Given_For(const std::string& name) {
+  toolkit::Font font;
+  font.Name = name;
+  const Face face{font, Font_Owner(Make_Font(font, scale_.Dpi, DEFAULT_CHARSET))};
+  char given[LF_FACESIZE] = "";
+  const HDC context = Select(face);
+  GetTextFaceA(context, LF_FACESIZE, given);
+  SelectObject(context, GetStockObject(SYSTEM_FONT));
+  return given;
 }
 
 std::size_t Fonts::Longest_Beginning(Face& face, std::string_view text, int limit) {
   if (limit < 0) return 0;
-  if (!Adds_Up(text)) return Longest_Whole(face, text, limit);
-  Measure(face);
+  if (!Adds_Up(face, text)) return Longest_Whole(face, text, limit);
   int width = face.Overhang;
   std::size_t count = 0;
   for (; count < text.size(); ++count) {
@@ -133,20 +139,24 @@ HDC Fonts::Select(const Face& face) {
   return context_.Get();
 }
 
-void Fonts::Measure(Face& face) {
-  if (face.Measured) return;
+/// Returns false where the system doesn't tell the widths of the characters. Those bytes alone are asked for that are letters
+/// by themselves: where two or more are one, the system needn't answer for the others.
+bool Fonts::Measure(Face& face) {
+  if (face.Measured) return face.Has_Widths;
   face.Measured = true;
   const HDC context = Select(face);
-  GetCharWidthA(context, 0, 255, face.Widths.data());
+  const std::size_t letters = simple_ ? 256 : 128;
+  if (GetCharWidthA(context, 0, static_cast<UINT>(letters - 1), face.Widths.data()) == 0) return false;
   // A font that the system has made bold or italic itself is wider than its characters, by an overhang that some
   // systems count once for a text and others for each character too.
   SIZE one = {}, two = {};
-  GetTextExtentPoint32A(context, "x", 1, &one);
-  GetTextExtentPoint32A(context, "xx", 2, &two);
+  if (GetTextExtentPoint32A(context, "x", 1, &one) == 0 || GetTextExtentPoint32A(context, "xx", 2, &two) == 0)
+    return false;
   const int advance = two.cx - one.cx, surplus = face.Widths['x'] - advance;
-  for (int& width : face.Widths) width -= surplus;
+  for (std::size_t letter = 0; letter < letters; ++letter) face.Widths.at(letter) -= surplus;
   for (const char c : {'\r', '\n'}) face.Widths[static_cast<unsigned char>(c)] = 0;
   face.Overhang = one.cx - advance;
+  return face.Has_Widths = true;
 }
 
 }  // namespace win32

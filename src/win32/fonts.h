@@ -20,7 +20,8 @@ struct Face {
   toolkit::Font Description;
   Font_Owner Handle;
   bool Measured = false;
-  std::array<int, 256> Widths{};  ///< pixels
+  bool Has_Widths = false;        ///< else the system measures every text
+  std::array<int, 256> Widths{};  ///< pixels; of bytes that are a letter by themselves
   int Overhang = 0;               ///< pixels that a text is wider than its characters together
 };
 
@@ -39,16 +40,16 @@ class Fonts {
   /// one line.
   int Height(const Face& face, std::string_view text, int width);
 
-  /// The name of the font that the system really uses for it.
-  std::string Name_Of(const Face& face);
+  /// The name of the font that the system has for that name, whatever letters it has.
+  std::string Given_For(const std::string& name);
 
   /// The number of bytes of the longest beginning that is at most `limit` pixels wide; it never splits a character.
   std::size_t Longest_Beginning(Face& face, std::string_view text, int limit);
 
  private:
   HDC Select(const Face& face);
-  void Measure(Face& face);
-  [[nodiscard]] bool Adds_Up(std::string_view text) const;
+  bool Measure(Face& face);
+  bool Adds_Up(Face& face, std::string_view text);
   int Whole_Width(const Face& face, std::string_view text);
   std::size_t Longest_Whole(const Face& face, std::string_view text, int limit);
   [[nodiscard]] std::size_t Character_After(std::string_view text, std::size_t at) const;

@@ -169,7 +169,6 @@ bool Form_Window::Erase(HDC context) {
 // The newer kinds of controls hear of colours by their parents alone.
 void Form_Window::Look_Changed(UINT message) {
   surface_.Repaint_All();
-  if (message != WM_SYSCOLORCHANGE) return;
   for (const auto& native : natives_) SendMessageA(native->Window(), message, 0, 0);
 }
 

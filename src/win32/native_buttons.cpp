@@ -6,7 +6,8 @@
 namespace win32 {
 
 bool Native_Button::Intercept(UINT message, WPARAM w, LPARAM l) {
-  if (message == WM_SYSCOLORCHANGE && on_ground_) Follow_Contrast();
+  // Colours and style change one after the other, in either order.
+  if (on_ground_ && (message == WM_SYSCOLORCHANGE || message == style_changed)) Follow_Contrast();
   if (message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return false;
   // **The form may unload by this: touch no member after it.**
   Forward_To_Form(message, w, l);

@@ -124,7 +124,7 @@ void Stock_Pictures::Draw(HDC context, platform::Stock_Picture picture, const RE
     DrawIconEx(context, place.left, place.top, Icon(picture, width, height), width, height, 0, nullptr, DI_NORMAL);
     return;
   }
-  const HBITMAP bitmap = Menu_Bitmap(picture);
+  const HBITMAP bitmap = Bitmap(picture);
   BITMAP size = {};
   if (bitmap == nullptr || GetObjectA(bitmap, sizeof size, &size) == 0) return;
   const Context_Owner source(CreateCompatibleDC(context));
@@ -135,7 +135,7 @@ void Stock_Pictures::Draw(HDC context, platform::Stock_Picture picture, const RE
 
 SIZE Stock_Pictures::Size(platform::Stock_Picture picture) {
   if (Is_Icon(picture)) return {GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)};
-  const HBITMAP bitmap = Menu_Bitmap(picture);
+  const HBITMAP bitmap = Bitmap(picture);
   BITMAP size = {};
   if (bitmap == nullptr || GetObjectA(bitmap, sizeof size, &size) == 0) return {};
   return {size.bmWidth, size.bmHeight};
@@ -147,22 +147,25 @@ void Stock_Pictures::Draw_Plain(HDC context, platform::Stock_Picture picture, PO
   const auto draw = [&](HDC to, POINT at) {
     if (Is_Icon(picture))
       DrawIconEx(to, at.x, at.y, Icon(picture, size.cx, size.cy), size.cx, size.cy, 0, nullptr, DI_NORMAL);
-    else Draw_Without_Ground(to, Menu_Bitmap(picture), at, size);
+    else Draw_Without_Ground(to, Bitmap(picture), at, size);
   };
   if (enabled) draw(context, corner);
   else Draw_Faded(context, corner, size, draw);
 }
 
-HBITMAP Stock_Pictures::Menu_Bitmap(platform::Stock_Picture picture) {
-  if (picture == platform::Stock_Picture::None || Is_Icon(picture)) return nullptr;
+HBITMAP Stock_Pictures::Bitmap(platform::Stock_Picture picture) {
   Bitmap_Owner& bitmap = bitmaps_.at(static_cast<std::size_t>(picture));
-  if (!bitmap) {
-    const HANDLE loaded =
-        LoadImageA(instance_, MAKEINTRESOURCEA(Resource_Number(picture)), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
-    bitmap.Reset(static_cast<HBITMAP>(loaded));
-    Put_On_Menu_Ground(bitmap.Get());
-  }
+  if (!bitmap) bitmap = Menu_Bitmap(picture);
   return bitmap.Get();
+}
+
+Bitmap_Owner Stock_Pictures::Menu_Bitmap(platform::Stock_Picture picture) const {
+  if (picture == platform::Stock_Picture::None || Is_Icon(picture)) return {};
+  const HANDLE loaded =
+      LoadImageA(instance_, MAKEINTRESOURCEA(Resource_Number(picture)), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+  Bitmap_Owner bitmap(static_cast<HBITMAP>(loaded));
+  Put_On_Menu_Ground(bitmap.Get());
+  return bitmap;
 }
 
 void Stock_Pictures::Forget_Bitmaps() {

@@ -25,10 +25,11 @@ class Stock_Pictures {
   /// Draws the picture in its own size, without the ground that a bitmap was drawn on; faded for what is disabled.
   void Draw_Plain(HDC context, platform::Stock_Picture picture, POINT corner, bool enabled);
 
-  /// A bitmap for a menu, on the menus' ground; nullptr for what is no bitmap.
-  HBITMAP Menu_Bitmap(platform::Stock_Picture picture);
+  /// A bitmap on the menus' ground, which the menu that shows it must own: colours may change while it is open. None for
+  /// what is no bitmap.
+  [[nodiscard]] Bitmap_Owner Menu_Bitmap(platform::Stock_Picture picture) const;
 
-  /// The menus' ground has another colour: the bitmaps are made anew when they are next asked for.
+  /// The menus' ground has another colour: the bitmaps are made anew when they are next drawn.
   void Forget_Bitmaps();
 
  private:
@@ -39,6 +40,7 @@ class Stock_Pictures {
   };
 
   HICON Icon(platform::Stock_Picture picture, int width, int height);
+  HBITMAP Bitmap(platform::Stock_Picture picture);
 
   HINSTANCE instance_;
   std::vector<Sized_Icon> icons_;

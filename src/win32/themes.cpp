@@ -6,12 +6,13 @@
 
 namespace win32 {
 
+// A library that isn't there is looked for once.
 HMODULE Themes::Library() {
-  if (!library_) library_ = System_Library("uxtheme.dll");
+  if (!std::exchange(looked_for_, true)) library_ = System_Library("uxtheme.dll");
   return library_.Get();
 }
 
-// The style's handle is kept; nullptr is an answer too. A library that isn't there is asked for once.
+// The style's handle is kept; nullptr is an answer too.
 HANDLE Themes::Buttons() {
   if (std::exchange(asked_, true)) return buttons_;
   const auto in_use = Find_Function<BOOL WINAPI()>(Library(), "IsAppThemed");

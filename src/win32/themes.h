@@ -5,6 +5,8 @@
 
 namespace win32 {
 
+constexpr UINT style_changed = 0x031A;  // WM_THEMECHANGED, of the newer systems
+
 class Themes {
  public:
   Themes() = default;
@@ -34,6 +36,7 @@ class Themes {
   HANDLE Buttons();
 
   Library_Owner library_;
+  bool looked_for_ = false;
   HANDLE buttons_ = nullptr;
   bool asked_ = false;
 };

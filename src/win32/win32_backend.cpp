@@ -38,11 +38,7 @@ double Win32_Backend::Screen_Size(toolkit::Axis axis) {
   return GetSystemMetrics(axis == toolkit::Axis::Across ? SM_CXSCREEN : SM_CYSCREEN) * Twips_Per_Pixel(axis);
 }
 
-std::string Win32_Backend::Font_Given_For(const std::string& name) {
-  toolkit::Font font;
-  font.Name = name;
-  return context_.Fonts.Name_Of(context_.Fonts.Get(font));
-}
+std::string Win32_Backend::Font_Given_For(const std::string& name) { return context_.Fonts.Given_For(name); }
 
 double Win32_Backend::Text_Width(const toolkit::Font& font, std::string_view text) {
   return context_.Fonts.Width(context_.Fonts.Get(font), text) * context_.Scale.X;

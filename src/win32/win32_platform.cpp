@@ -24,7 +24,7 @@
 namespace win32 {
 
 struct Win32_Platform::Parts {
-  explicit Parts(HINSTANCE instance) : Context(instance) {}
+  Parts(HINSTANCE instance, UINT code_page) : Context(instance, code_page) {}
 
   Window_Context Context;
   Instance_Window Instances{Context.Instance, Context.Guard};
@@ -100,9 +100,11 @@ Win32_Platform::End Win32_Platform::Report_Failure(const std::exception_ptr& fai
   return Last_Box(large_desktop, MB_YESNO | MB_ICONQUESTION) == IDYES ? End::Consent : End::Failure;
 }
 
-Win32_Platform::Win32_Platform(void* instance) {
+Win32_Platform::Win32_Platform(void* instance) : Win32_Platform(instance, GetACP()) {}
+
+Win32_Platform::Win32_Platform(void* instance, unsigned code_page) {
   Keep_To_System_Libraries();
-  parts_ = std::make_unique<Parts>(static_cast<HINSTANCE>(instance));
+  parts_ = std::make_unique<Parts>(static_cast<HINSTANCE>(instance), code_page);
 }
 
 Win32_Platform::~Win32_Platform() = default;
@@ -114,7 +116,7 @@ platform::System& Win32_Platform::System() { return parts_->System; }
 Win32_Platform::End Win32_Platform::Run(const std::function<void()>& start) {
   Guard& guard = parts_->Context.Guard;
   guard.Run([&] {
-    Warn_Of_Utf8(GetACP(), parts_->Store, parts_->Message_Box);
+    Warn_Of_Utf8(parts_->Context.Code_Page, parts_->Store, parts_->Message_Box);
     start();
   });
   parts_->Loop.Run();

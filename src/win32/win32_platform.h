@@ -14,6 +14,8 @@ class Win32_Platform {
  public:
   /// `instance` is the HINSTANCE that the process was started with.
   explicit Win32_Platform(void* instance);
+  /// On a system with that code page.
+  Win32_Platform(void* instance, unsigned code_page);
   Win32_Platform(const Win32_Platform&) = delete;
   Win32_Platform& operator=(const Win32_Platform&) = delete;
   ~Win32_Platform();

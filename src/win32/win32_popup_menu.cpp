@@ -1,6 +1,7 @@
 #include "win32/win32_popup_menu.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace win32 {
 
@@ -24,12 +25,15 @@ void Insert(HMENU menu, UINT position, const platform::Menu_Item& item) {
 int Win32_Popup_Menu::Track(platform::Window_Handle owner, const std::vector<platform::Menu_Item>& items) {
   context_.Guard.Throw_If_Ending();
   context_.Windows.Settle();
+  std::vector<Bitmap_Owner> pictures;  // they outlive the menu
   const Menu_Owner menu(CreatePopupMenu());
   UINT position = 0;
   for (const platform::Menu_Item& item : items) {
     Insert(menu.Get(), position++, item);
-    if (const HBITMAP picture = context_.Pictures.Menu_Bitmap(item.Picture))
-      SetMenuItemBitmaps(menu.Get(), static_cast<UINT>(item.Number), MF_BYCOMMAND, picture, picture);
+    Bitmap_Owner picture = context_.Pictures.Menu_Bitmap(item.Picture);
+    if (!picture) continue;
+    SetMenuItemBitmaps(menu.Get(), static_cast<UINT>(item.Number), MF_BYCOMMAND, picture.Get(), picture.Get());
+    pictures.push_back(std::move(picture));
   }
   // The release of the button that opened the menu belongs to the menu.
   input_.Take_Mouse();

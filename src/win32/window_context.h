@@ -63,14 +63,16 @@ class Window_List {
 };
 
 struct Window_Context {
-  explicit Window_Context(HINSTANCE instance) : Instance(instance), Pictures(instance), Pointers(instance) {
+  Window_Context(HINSTANCE instance, UINT code_page)
+      : Instance(instance), Code_Page(code_page), Pictures(instance), Pointers(instance) {
     Guard.Afterwards = [this] { Windows.Settle(); };
   }
 
   HINSTANCE Instance;
+  const UINT Code_Page;  ///< of all texts
   win32::Guard Guard;
   const win32::Scale Scale = Scale::Of_Screen();
-  win32::Fonts Fonts{Scale};
+  win32::Fonts Fonts{Scale, Code_Page};
   Stock_Pictures Pictures;
   win32::Themes Themes;
   win32::Painter Painter{{Fonts, Pictures, Themes}};

@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 #include "win32/win32_backend.h"
+#include "win32/win32_popup_menu.h"
 
 namespace {
 
@@ -38,22 +39,61 @@ class Broadcasts_Test : public ::testing::Test {
 
   void Set_Menu_Colour(COLORREF colour) { SetSysColors(1, &menu, &colour); }
 
-  /// A pixel of the ground that a menu's bitmap was drawn on.
+  /// A pixel of the ground that a picture of the menus is drawn on.
   COLORREF Ground() {
+    const win32::Context_Owner screen(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
+    const win32::Bitmap_Owner drawn(CreateCompatibleBitmap(screen.Get(), 16, 16));
     const win32::Context_Owner context(CreateCompatibleDC(nullptr));
-    SelectObject(context.Get(), Context.Pictures.Menu_Bitmap(platform::Stock_Picture::Clear));
-    return GetPixel(context.Get(), 0, 0);
+    const HGDIOBJ before = SelectObject(context.Get(), drawn.Get());
+    Context.Pictures.Draw(context.Get(), platform::Stock_Picture::Clear, {0, 0, 16, 16});
+    const COLORREF ground = GetPixel(context.Get(), 0, 0);
+    SelectObject(context.Get(), before);
+    return ground;
   }
 
   static constexpr int menu = COLOR_MENU;
   const COLORREF Before = GetSysColor(menu);
-  win32::Window_Context Context{GetModuleHandleA(nullptr)};
+  win32::Window_Context Context{GetModuleHandleA(nullptr), GetACP()};
   win32::Win32_Backend Backend{Context};
   win32::Window_Owner Shell{CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr)};
   Child_Window Calendar{Shell.Get()};
 };
 
+DWORD kind_of_picture = 0;
+
+/// Changes the menus' colour while a menu is open, and looks at the picture of its only item.
+void CALLBACK Change_Colour(HWND, UINT, UINT_PTR timer, DWORD) {
+  constexpr UINT menu_of_window = 0x01E1;  // MN_GETHMENU
+  constexpr int menu = COLOR_MENU;
+  const HWND open = FindWindowA("#32768", nullptr);
+  if (open == nullptr || IsWindowVisible(open) == 0) return;
+  KillTimer(nullptr, timer);
+  const COLORREF colour = RGB(20, 40, 60);
+  SetSysColors(1, &menu, &colour);
+  MENUITEMINFOA item = {};
+  item.cbSize = sizeof item;
+  item.fMask = MIIM_CHECKMARKS;
+  GetMenuItemInfoA(reinterpret_cast<HMENU>(SendMessageA(open, menu_of_window, 0, 0)), 0, TRUE, &item);
+  kind_of_picture = GetObjectType(item.hbmpUnchecked);
+  EndMenu();
+}
+
 }  // namespace
+
+TEST_F(Broadcasts_Test, An_open_menu_keeps_its_pictures_when_the_colours_change) {
+  const win32::Window_Owner owner(
+      CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+  win32::Win32_Popup_Menu menus(Context, Backend.Input);
+  platform::Menu_Item item;
+  item.Number = 1;
+  item.Text = "Clear";
+  item.Picture = platform::Stock_Picture::Clear;
+  kind_of_picture = 0;
+  ASSERT_NE(Ground(), CLR_INVALID);
+  SetTimer(nullptr, 0, 50, Change_Colour);
+  menus.Track(win32::To_Handle(owner.Get()), {item});
+  EXPECT_EQ(kind_of_picture, static_cast<DWORD>(OBJ_BITMAP));
+}
 
 TEST_F(Broadcasts_Test, An_embedded_window_hears_of_new_colours) {
   Set_Menu_Colour(RGB(20, 40, 60));

@@ -79,3 +79,37 @@ TEST(Fonts, The_longest_beginning_splits_no_character) {
     EXPECT_TRUE(length == 0 || length == 2 || length == 5) << length;
   }
 }
+
+TEST(Fonts, Plain_letters_are_as_wide_as_the_system_writes_them_where_others_have_more_bytes) {
+  const win32::Scale scale;
+  const win32::Context_Owner context(CreateCompatibleDC(nullptr));
+  for (const UINT code_page : {932U, 936U, 949U, 950U, static_cast<UINT>(CP_UTF8)}) {
+    Fonts fonts(scale, code_page);
+    win32::Face& face = fonts.Get({"Arial", 12});
+    SelectObject(context.Get(), face.Handle.Get());
+    SIZE size = {};
+    GetTextExtentPoint32A(context.Get(), "Dentist 14:30", 13, &size);
+    EXPECT_EQ(fonts.Width(face, "Dentist 14:30"), size.cx) << code_page;
+    EXPECT_GT(size.cx, 0) << code_page;
+    SelectObject(context.Get(), GetStockObject(SYSTEM_FONT));
+  }
+}
+
+TEST(Fonts, Only_bytes_that_are_letters_by_themselves_are_asked_for) {
+  const win32::Scale scale;
+  for (const UINT code_page : {932U, 936U, 949U, 950U, static_cast<UINT>(CP_UTF8)}) {
+    Fonts fonts(scale, code_page);
+    win32::Face& face = fonts.Get(italic);
+    ASSERT_GT(fonts.Width(face, "x"), 0) << code_page;
+    for (std::size_t byte = 128; byte < 256; ++byte) EXPECT_EQ(face.Widths.at(byte), 0) << code_page << ", " << byte;
+  }
+}
+
+TEST(Fonts, A_font_is_there_whatever_the_letters_of_the_code_page_are) {
+  const win32::Scale scale;
+  for (const UINT code_page : {1252U, 932U, 936U, 949U, 950U}) {
+    Fonts fonts(scale, code_page);
+    EXPECT_EQ(fonts.Given_For("Tahoma"), "Tahoma") << code_page;
+    EXPECT_NE(fonts.Given_For("No such font"), "No such font") << code_page;
+  }
+}
