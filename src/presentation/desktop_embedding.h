@@ -27,7 +27,7 @@ class Desktop_Embedding {
 
   /// If it isn't: finds the shell's windows anew and makes the calendar a part of what is there, without the splash.
   /// Returns true if that was done. May be called again and again: it costs a few questions to the system. A desktop that
-  /// couldn't show the calendar isn't asked twice.
+  /// can't show the calendar isn't asked twice; one that failed to take it, as while the shell starts, is.
   bool Embed_Again();
 
   /// Does nothing; the tick does the work.

@@ -27,7 +27,7 @@ struct Win32_Platform::Parts {
   explicit Parts(HINSTANCE instance) : Context(instance) {}
 
   Window_Context Context;
-  Instance_Window Instances{Context.Instance, Context.Guard};
+  Instance_Window Instances{Context};
   Win32_Backend Backend{Context};
   Local_Clock Clock;
   User_Locale Locale;

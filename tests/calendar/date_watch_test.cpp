@@ -48,6 +48,16 @@ TEST_F(Date_Watch_Test, A_desktop_that_cannot_show_it_is_asked_once) {
   EXPECT_FALSE(On_Desktop());
 }
 
+TEST_F(Date_Watch_Test, A_desktop_that_failed_to_take_it_is_asked_again) {
+  Consent();
+  Platform.Shell.Fail_Once();
+  Start();
+  EXPECT_FALSE(On_Desktop());
+  Pass(1.1);
+  EXPECT_TRUE(On_Desktop());
+  EXPECT_EQ(Platform.Shell.Moves(), 2);
+}
+
 TEST_F(Date_Watch_Test, The_return_waits_for_the_end_of_an_open_box) {
   Consent();
   Start();
