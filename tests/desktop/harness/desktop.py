@@ -191,7 +191,7 @@ class Desktop:
     def lone_calendar(self):
         """The calendar as an ordinary window, as the probe sees it; None if it isn't one or doesn't show."""
         return next((window for window in self.probe() if window["class"] == CALENDAR_CLASS and window["visible"] and
-                     window["rect"][2] - window["rect"][0] in geometry.WINDOW_WIDTHS), None)
+                     window["rect"][2] - window["rect"][0] in geometry.window_widths()), None)
 
     def post(self, window, message, first=0, second=0):
         """Posts a message to a window of the prefix, named by its handle."""
