@@ -92,9 +92,11 @@ void Form_Window::Make_Anew() {
   parent_ = nullptr;
   context_.Embedded = false;
   tip_.Forget();
-  tip_check_posted_ = false;  // what was posted went with the window
   natives_.clear();
   Make_Window();
+  // What was posted to the old window went with it.
+  tip_check_posted_ = false;
+  Tell_Of_Activity_Later();
   natives_changed_ = true;
   if (!std::holds_alternative<std::monostate>(shape_)) Settle_Region();
   if (!form_.Visible()) return;

@@ -175,11 +175,12 @@ void Form_Window::Look_Changed(UINT message) {
   for (const auto& native : natives_) SendMessageA(native->Window(), message, 0, 0);
 }
 
+/// Posted, since the form's handler may unload it, which must not happen while the system is changing the active window.
+void Form_Window::Tell_Of_Activity_Later() { PostMessageA(Window(), tell_of_activity, 0, 0); }
+
 bool Form_Window::Active_Changed(bool active) {
   toolkit::Input& input = form_.System().Input;
-  // Posted, since the form's handler may unload it, which must not happen while the system is changing the active
-  // window.
-  PostMessageA(Window(), tell_of_activity, 0, 0);
+  Tell_Of_Activity_Later();
   if (active) {
     context_.Active = this;
     input.Activity_Came(form_);

@@ -78,6 +78,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   bool Erase(HDC context);
   [[nodiscard]] std::optional<toolkit::Control*> Under(POINT on_screen, toolkit::Control* control) const;
   void Capture_Changed(HWND to);
+  void Tell_Of_Activity_Later();
   bool Active_Changed(bool active);
   void Place_Changed(const WINDOWPOS& place);
   [[nodiscard]] toolkit::Pointer Pointer_Over(const toolkit::Control* control) const;

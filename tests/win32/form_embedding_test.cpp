@@ -227,6 +227,25 @@ TEST_F(Form_Embedding, So_does_another_instances_request_that_the_program_shall_
   instances.On_Close_Request = nullptr;
 }
 
+TEST_F(Form_Embedding, A_move_that_fails_leaves_the_order_and_what_it_owns) {
+  toolkit::Form owned(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog, &Window);
+  owned.Load();
+  const win32::Window_Owner above(
+      CreateWindowExA(0, "Static", "", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+  SetWindowPos(above.Get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(Handle(), above.Get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+  const auto lies_below = [&] {
+    HWND next = GetWindow(Handle(), GW_HWNDPREV);
+    while (next != nullptr && next != above.Get()) next = GetWindow(next, GW_HWNDPREV);
+    return next != nullptr;
+  };
+  ASSERT_TRUE(lies_below());
+  EXPECT_EQ(Move_To(1), Adoption::Failed);
+  EXPECT_TRUE(lies_below());
+  EXPECT_EQ(GetWindow(win32::To_Window(owned.Handle()), GW_OWNER), Handle());
+  owned.Unload();
+}
+
 TEST_F(Form_Embedding, A_press_is_dropped_when_the_parent_goes) {
   toolkit::Label label(Window, "Day");
   label.Place({3000, 150, 1500, 600});
@@ -240,6 +259,19 @@ TEST_F(Form_Embedding, A_press_is_dropped_when_the_parent_goes) {
   EXPECT_EQ(Backend.Input.Mouse_Window(), nullptr);
   SendMessageA(Handle(), WM_LBUTTONUP, 0, at);
   EXPECT_EQ(released, 0);
+}
+
+TEST_F(Form_Embedding, An_active_window_hears_once_that_it_isnt_when_the_parent_goes) {
+  int went = 0;
+  Window.On_Deactivate = [&] { ++went; };
+  ASSERT_TRUE(Embed());
+  Window.Activate();
+  Wait(50);
+  ASSERT_EQ(GetActiveWindow(), Handle());
+  went = 0;
+  End_Parent();
+  EXPECT_EQ(went, 1);
+  Window.On_Deactivate = nullptr;
 }
 
 TEST_F(Form_Embedding, A_window_that_opened_over_it_stays_when_the_parent_goes) {
