@@ -1,5 +1,7 @@
 #include "calendar/date_watch.h"
 
+#include "toolkit/input.h"
+
 namespace calendar {
 
 namespace {
@@ -11,8 +13,8 @@ constexpr int ticks_between_looks = 10;
 
 Date_Watch::Date_Watch(toolkit::Backend& backend, Desk& desk, presentation::Desktop_Embedding& embedding, Dates& dates,
                        const settings::Desktop_Mode& desktop_mode)
-    : Dectect_Date_Timer(backend, "Dectect_Date_Timer", tick_interval), desk_(desk), embedding_(embedding),
-      dates_(dates), desktop_mode_(desktop_mode) {
+    : Dectect_Date_Timer(backend, "Dectect_Date_Timer", tick_interval), input_(backend.Input), desk_(desk),
+      embedding_(embedding), dates_(dates), desktop_mode_(desktop_mode) {
   Dectect_Date_Timer.On_Tick = [this] { Tick(); };
 }
 
@@ -32,9 +34,10 @@ void Date_Watch::Tick() {
   desk_.Begin_New_Day();
 }
 
-/// Asks the system once a second at most: the shell's end and start are rare.
+/// Asks the system once a second at most: the shell's end and start are rare. A box or a menu that is open belongs to the
+/// calendar's window, and a drag goes by its place; the move waits for their end.
 void Date_Watch::Keep_On_Desktop() {
-  if (!desktop_mode_.Modern() || ++ticks_since_look_ < ticks_between_looks) return;
+  if (!desktop_mode_.Modern() || input_.User_Is_Busy() || ++ticks_since_look_ < ticks_between_looks) return;
   ticks_since_look_ = 0;
   embedding_.Embed_Again();
 }

@@ -24,6 +24,7 @@ class Date_Watch {
   void Tick();
   void Keep_On_Desktop();
 
+  const toolkit::Input& input_;
   Desk& desk_;
   presentation::Desktop_Embedding& embedding_;
   Dates& dates_;

@@ -1,6 +1,7 @@
 #include "calendar/popup_menus.h"
 
 #include "presentation/menus.h"
+#include "toolkit/input.h"
 
 namespace calendar {
 
@@ -18,6 +19,7 @@ Popup_Menus::Popup_Menus(platform::Popup_Menu& menu, presentation::Main_Frm& mai
     : menu_(menu), main_frm_(main_frm), desk_(desk), dates_(dates), stored_(stored), calendar_(calendar) {}
 
 int Popup_Menus::Track(const std::vector<platform::Menu_Item>& items) {
+  const toolkit::Input::Menu open(main_frm_.Window.System().Input);
   return menu_.Track(main_frm_.Window.Handle(), items);
 }
 

@@ -46,11 +46,12 @@ Window_Handle Memory_Shell::Find_Child(Window_Handle parent, const std::string& 
   return 0;
 }
 
-bool Memory_Shell::Set_Parent(Window_Handle window, Window_Handle parent) {
+platform::Adoption Memory_Shell::Set_Parent(Window_Handle window, Window_Handle parent) {
   ++moves_;
-  if (refuse_) return false;
+  if (std::exchange(fail_once_, false)) return platform::Adoption::Failed;
+  if (refuse_) return platform::Adoption::Unseen;
   parents_[window] = parent;
-  return true;
+  return platform::Adoption::Done;
 }
 
 int Memory_Shell::Send(Window_Handle window, unsigned message, int parameter) {

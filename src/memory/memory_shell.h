@@ -22,7 +22,7 @@ class Memory_Shell : public platform::Desktop_Shell {
   /// The list of icons answers the three messages for its colours. Any other message, or one to another window of the
   /// desktop, throws std::logic_error; a window that doesn't exist answers 0.
   int Send(platform::Window_Handle window, unsigned message, int parameter) override;
-  bool Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
+  platform::Adoption Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
   void Update(platform::Window_Handle window) override;
 
@@ -36,6 +36,9 @@ class Memory_Shell : public platform::Desktop_Shell {
 
   /// The desktop's windows can't show a child: none becomes one.
   void Refuse_Children(bool refuse) { refuse_ = refuse; }
+
+  /// The next attempt to make a window a child fails, as in a shell that is just starting.
+  void Fail_Once() { fail_once_ = true; }
 
   /// The shell ends and comes again, with windows of other handles. What was a child of the old ones is one no longer.
   void Restart() { ++life_; }
@@ -62,7 +65,7 @@ class Memory_Shell : public platform::Desktop_Shell {
 
   Shell_Chain chain_ = Shell_Chain::None;
   bool worker_ = false;
-  bool refuse_ = false;
+  bool refuse_ = false, fail_once_ = false;
   int life_ = 0;
   int icon_back_ = platform::no_colour, icon_text_ = 16777215;
   bool invalid_ = false;

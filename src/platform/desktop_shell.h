@@ -15,6 +15,13 @@ constexpr unsigned set_text_back_colour = 4134;
 /// The background of a text that has none.
 constexpr int no_colour = -1;
 
+/// What has become of a window that was to be a child of another one.
+enum class Adoption {
+  Done,
+  Failed,  ///< it couldn't be moved at this moment
+  Unseen,  ///< it couldn't be seen there, which will stay so
+};
+
 class Desktop_Shell {
  public:
   virtual ~Desktop_Shell() = default;
@@ -35,9 +42,9 @@ class Desktop_Shell {
   /// window is gone or doesn't answer within a second.
   virtual int Send(Window_Handle window, unsigned message, int parameter) = 0;
 
-  /// Makes the window a child of `parent`, above its other children. Returns false where it couldn't be seen there: it
-  /// is a top-level window then, at the same place of the screen.
-  virtual bool Set_Parent(Window_Handle window, Window_Handle parent) = 0;
+  /// Makes the window a child of `parent`, above its other children. Where that isn't done it is a top-level window, at
+  /// the same place of the screen; one that was a top-level window before stays where it was among the others.
+  virtual Adoption Set_Parent(Window_Handle window, Window_Handle parent) = 0;
 
   /// Marks the whole window for erasing and painting.
   virtual void Invalidate(Window_Handle window) = 0;

@@ -47,9 +47,10 @@ bool Desktop_Embedding::Enter_Desktop() {
   if (iconlist_hwnd_ == 0 || icons_top_hwnd_ == refused_) return false;
   calendar_.Desktop_Back_Colour = shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0);
   calendar_.Desktop_Text_Colour = shell_.Send(iconlist_hwnd_, platform::get_text_colour, 0);
-  const bool done = shell_.Set_Parent(main_frm_.Window.Handle(), icons_top_hwnd_);
+  const platform::Adoption adoption = shell_.Set_Parent(main_frm_.Window.Handle(), icons_top_hwnd_);
+  const bool done = adoption == platform::Adoption::Done;
   embedded_ = done ? main_frm_.Window.Handle() : 0;
-  refused_ = done ? 0 : icons_top_hwnd_;
+  refused_ = adoption == platform::Adoption::Unseen ? icons_top_hwnd_ : 0;
   return done;
 }
 

@@ -26,8 +26,8 @@ class Desktop_Embedding {
   [[nodiscard]] bool Embedded() const;
 
   /// If it isn't: finds the shell's windows anew and makes the calendar a part of what is there, without the splash.
-  /// Returns true if that was done. May be called again and again: it costs a few questions to the system. A desktop
-  /// that couldn't show the calendar isn't asked twice.
+  /// Returns true if that was done. May be called again and again: it costs a few questions to the system. A desktop that
+  /// can't show the calendar isn't asked twice; one that failed to take it, as while the shell starts, is.
   bool Embed_Again();
 
   /// Does nothing; the tick does the work.

@@ -106,6 +106,21 @@ class Input {
 
   [[nodiscard]] bool Modal_Open() const { return modals_ > 0; }
 
+  /// While one lives, a popup menu is open.
+  class Menu {
+   public:
+    explicit Menu(Input& input) : input_(input) { ++input_.menus_; }
+    Menu(const Menu&) = delete;
+    Menu& operator=(const Menu&) = delete;
+    ~Menu() { --input_.menus_; }
+
+   private:
+    Input& input_;
+  };
+
+  /// Whether the user is in the middle of something: a box or a menu is open, or a button is held. What can wait should.
+  [[nodiscard]] bool User_Is_Busy() const { return modals_ > 0 || menus_ > 0 || held_ != 0; }
+
   // From the forms.
 
   void Add(Form& form) { forms_.push_back(&form); }
@@ -144,7 +159,7 @@ class Input {
   int held_ = 0;
   bool may_click_ = false;
 
-  int modals_ = 0;
+  int modals_ = 0, menus_ = 0;
 };
 
 }  // namespace toolkit

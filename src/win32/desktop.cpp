@@ -46,9 +46,9 @@ int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int pa
   return answered ? static_cast<int>(result) : platform::no_colour;
 }
 
-bool Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
+platform::Adoption Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
   Program_Window* const moved = context_.Windows.Around(To_Window(window));
-  return moved != nullptr && moved->Embed(To_Window(parent));
+  return moved != nullptr ? moved->Embed(To_Window(parent)) : platform::Adoption::Failed;
 }
 
 void Shell_Windows::Invalidate(platform::Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }

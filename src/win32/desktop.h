@@ -35,7 +35,7 @@ class Shell_Windows final : public platform::Desktop_Shell {
   bool Exists(platform::Window_Handle window) override;
   platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
   int Send(platform::Window_Handle window, unsigned message, int parameter) override;
-  bool Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
+  platform::Adoption Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
   void Update(platform::Window_Handle window) override;
 

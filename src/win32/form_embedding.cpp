@@ -38,6 +38,11 @@ void Become_Plain(HWND window) {
   if ((style & layered) != 0) SetWindowLongA(window, GWL_EXSTYLE, style & ~layered);
 }
 
+void Become_Ordinary(HWND window) {
+  Become_Plain(window);
+  Move_Under(window, nullptr);
+}
+
 }  // namespace
 
 /// A child can't own windows: they would be the shell's, and go with it.
@@ -47,24 +52,27 @@ void Form_Window::Give_Up_Owned() {
     if (GetWindow(other->Window(), GW_OWNER) == Window()) SetWindowLongPtrA(other->Window(), GWLP_HWNDPARENT, 0);
 }
 
-bool Form_Window::Embed(HWND parent) {
+platform::Adoption Form_Window::Embed(HWND parent) {
+  const Work_On_Windows::Step step(context_.Work);
   context_.Note_Pointer(form_.System().Input);
   changing_parent_ = true;
-  Give_Up_Owned();
+  const HWND before = Embedded() ? HWND_BOTTOM : GetWindow(Window(), GW_HWNDPREV);
   Become_Plain(Window());
   const bool keeps_bitmap = (GetWindowLongA(parent, GWL_EXSTYLE) & no_redirection_bitmap) == 0;
-  const bool seen = Move_Under(Window(), parent) && (keeps_bitmap || Become_Layered(Window()));
-  if (!seen) {
-    Become_Plain(Window());
-    Move_Under(Window(), nullptr);
+  const bool moved = Move_Under(Window(), parent);
+  const bool seen = moved && (keeps_bitmap || Become_Layered(Window()));
+  if (seen) Give_Up_Owned();
+  if (moved || Embedded()) {
+    if (!seen) Become_Ordinary(Window());
+    parent_ = seen ? parent : nullptr;
+    context_.Embedded = seen;
+    const RECT place = Place_In_Parent();
+    SetWindowPos(Window(), seen ? HWND_TOP : before, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+    surface_.Repaint_All();
   }
-  parent_ = seen ? parent : nullptr;
-  context_.Embedded = seen;
-  const RECT place = Place_In_Parent();
-  SetWindowPos(Window(), HWND_TOP, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
   changing_parent_ = false;
-  surface_.Repaint_All();
-  return seen;
+  using enum platform::Adoption;
+  return seen ? Done : moved ? Unseen : Failed;
 }
 
 RECT Form_Window::Place_In_Parent() const {
@@ -87,6 +95,9 @@ void Form_Window::Make_Anew() {
   tip_.Forget();
   natives_.clear();
   Make_Window();
+  // What was posted to the old window went with it.
+  tip_check_posted_ = false;
+  Tell_Of_Activity_Later();
   natives_changed_ = true;
   if (!std::holds_alternative<std::monostate>(shape_)) Settle_Region();
   if (!form_.Visible()) return;

@@ -57,7 +57,9 @@ bool Form_Window::Message(UINT message, WPARAM w, LPARAM l, LRESULT& result) {
     case WM_WINDOWPOSCHANGED: Place_Changed(*reinterpret_cast<const WINDOWPOS*>(l)); return false;
     case WM_GETOBJECT: return accessible_.Answer(w, l, result);
     case reader_wishes: accessible_.Do(w, l); return true;
-    case WM_CLOSE: Close_Requested(); return true;
+    case WM_CLOSE:
+      if (!context_.Work.Put_Off_Close(Window())) form_.Close_Requested();
+      return true;
     case check_tip: {
       tip_check_posted_ = false;
       POINT at;
@@ -172,11 +174,12 @@ void Form_Window::Look_Changed(UINT message) {
   for (const auto& native : natives_) SendMessageA(native->Window(), message, 0, 0);
 }
 
+/// Posted, since the form's handler may unload it, which must not happen while the system is changing the active window.
+void Form_Window::Tell_Of_Activity_Later() { PostMessageA(Window(), tell_of_activity, 0, 0); }
+
 bool Form_Window::Active_Changed(bool active) {
   toolkit::Input& input = form_.System().Input;
-  // Posted, since the form's handler may unload it, which must not happen while the system is changing the active
-  // window.
-  PostMessageA(Window(), tell_of_activity, 0, 0);
+  Tell_Of_Activity_Later();
   if (active) {
     context_.Active = this;
     input.Activity_Came(form_);
@@ -187,22 +190,17 @@ bool Form_Window::Active_Changed(bool active) {
   return false;
 }
 
-/// A request that comes while a window settles waits its turn: its handler may destroy that window.
-void Form_Window::Close_Requested() {
-  if (context_.Settling != 0) PostMessageA(Window(), WM_CLOSE, 0, 0);
-  else form_.Close_Requested();
-}
-
 /// A place that the user chose is written to the form. A place that the form set stays there, with its fraction of a
 /// pixel.
 void Form_Window::Place_Changed(const WINDOWPOS& place) {
   if ((place.flags & SWP_NOMOVE) != 0 || changing_parent_ || IsIconic(Window()) != 0) return;
-  POINT now = {place.x, place.y};
-  if (parent_ != nullptr) MapWindowPoints(parent_, nullptr, &now, 1);
-  if (now.x == place_.left && now.y == place_.top) return;
-  OffsetRect(&place_, now.x - place_.left, now.y - place_.top);
-  form_.Left.Keep(now.x * context_.Scale.X);
-  form_.Top.Keep(now.y * context_.Scale.Y);
+  // Asked for, since the message counts in a parent's pixels, of one written from right to left from the other side.
+  RECT now = {};
+  GetWindowRect(Window(), &now);
+  if (now.left == place_.left && now.top == place_.top) return;
+  OffsetRect(&place_, now.left - place_.left, now.top - place_.top);
+  form_.Left.Keep(now.left * context_.Scale.X);
+  form_.Top.Keep(now.top * context_.Scale.Y);
 }
 
 /// That of a control, or of the window where the control has none or there is no control.

@@ -40,18 +40,6 @@ HWND Owner_Of(const toolkit::Form& form, const Window_List& windows) {
   return owner == nullptr || owner->Embedded() ? nullptr : owner->Window();
 }
 
-/// Counts one more for as long as it lives.
-class Counted {
- public:
-  explicit Counted(int& count) : count_(count) { ++count_; }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-  ~Counted() { --count_; }
-
- private:
-  int& count_;
-};
-
 }  // namespace
 
 Frame_Style Style_Of(toolkit::Form_Border border) {
@@ -211,7 +199,7 @@ void Form_Window::Set_Round_Region(int width, int height, int corner) {
 }
 
 void Form_Window::Settle() {
-  const Counted settling(context_.Settling);
+  const Work_On_Windows::Step step(context_.Work);
   if (Embedded() && IsWindow(Window()) == 0) Make_Anew();
   if (std::exchange(moved_, false)) Settle_Place();
   if (std::exchange(cut_, false)) Settle_Region();

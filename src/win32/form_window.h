@@ -55,7 +55,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Look_Changed(UINT message) override;
   bool Take_Key(const MSG& message) override;
 
-  bool Embed(HWND parent) override;
+  platform::Adoption Embed(HWND parent) override;
   [[nodiscard]] bool Embedded() const override { return parent_ != nullptr; }
 
  private:
@@ -78,8 +78,8 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   bool Erase(HDC context);
   [[nodiscard]] std::optional<toolkit::Control*> Under(POINT on_screen, toolkit::Control* control) const;
   void Capture_Changed(HWND to);
+  void Tell_Of_Activity_Later();
   bool Active_Changed(bool active);
-  void Close_Requested();
   void Place_Changed(const WINDOWPOS& place);
   [[nodiscard]] toolkit::Pointer Pointer_Over(const toolkit::Control* control) const;
   bool Set_Pointer(HWND over, WORD part) const;

@@ -18,8 +18,8 @@ std::string Mutex_Name() {
 
 }  // namespace
 
-Instance_Window::Instance_Window(HINSTANCE instance, Guard& guard)
-    : Hidden_Window(instance, guard, window_class, "Meridex Loading") {
+Instance_Window::Instance_Window(Window_Context& context)
+    : Hidden_Window(context.Instance, context.Guard, window_class, "Meridex Loading"), work_(context.Work) {
   mutex_.Reset(CreateMutexA(nullptr, FALSE, Mutex_Name().c_str()));
   other_is_running_ = GetLastError() == ERROR_ALREADY_EXISTS;
 }
@@ -37,7 +37,7 @@ void Instance_Window::Set_Title(const std::string& title) { SetWindowTextA(Windo
 
 bool Instance_Window::Message(UINT message, WPARAM) {
   if (message != platform::close_request) return false;
-  if (On_Close_Request) On_Close_Request();
+  if (!work_.Put_Off_Close(Window()) && On_Close_Request) On_Close_Request();
   return true;
 }
 

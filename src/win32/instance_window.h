@@ -3,12 +3,13 @@
 
 #include "platform/instances.h"
 #include "win32/hidden_window.h"
+#include "win32/window_context.h"
 
 namespace win32 {
 
 class Instance_Window final : public platform::Instances, private Hidden_Window {
  public:
-  Instance_Window(HINSTANCE instance, Guard& guard);
+  explicit Instance_Window(Window_Context& context);
   ~Instance_Window() override = default;
 
   bool Other_Is_Running() override { return other_is_running_; }
@@ -19,6 +20,7 @@ class Instance_Window final : public platform::Instances, private Hidden_Window 
  private:
   bool Message(UINT message, WPARAM w) override;
 
+  const Work_On_Windows& work_;
   Handle_Owner mutex_;  // held for as long as the process runs; its name is the executable's
   bool other_is_running_ = false;
 };

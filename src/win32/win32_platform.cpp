@@ -27,7 +27,7 @@ struct Win32_Platform::Parts {
   Parts(HINSTANCE instance, UINT code_page) : Context(instance, code_page) {}
 
   Window_Context Context;
-  Instance_Window Instances{Context.Instance, Context.Guard};
+  Instance_Window Instances{Context};
   Win32_Backend Backend{Context};
   Local_Clock Clock;
   User_Locale Locale;

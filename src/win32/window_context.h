@@ -3,12 +3,14 @@
 
 #include <vector>
 
+#include "platform/desktop_shell.h"
 #include "win32/accessibility.h"
 #include "win32/common_controls.h"
 #include "win32/guard.h"
 #include "win32/painter.h"
 #include "win32/pointers.h"
 #include "win32/scale.h"
+#include "win32/work_on_windows.h"
 
 namespace toolkit {
 class Form;
@@ -29,9 +31,8 @@ class Program_Window {
   /// Paints anew after a change of the system's colours (WM_SYSCOLORCHANGE) or of the style of all that is drawn.
   virtual void Look_Changed(UINT message) = 0;
 
-  /// Makes this window a child of one of the shell's. Returns false where it couldn't be seen there; it is an ordinary
-  /// window then.
-  virtual bool Embed(HWND parent) = 0;
+  /// Makes this window a child of one of the shell's, as platform::Desktop_Shell::Set_Parent tells.
+  virtual platform::Adoption Embed(HWND parent) = 0;
 
   /// Whether it is such a child. A box must not be owned by it: the shell's window would be the owner, and disabled.
   [[nodiscard]] virtual bool Embedded() const = 0;
@@ -89,9 +90,7 @@ struct Window_Context {
   /// and the messages don't report all of its changes.
   bool Embedded = false;
 
-  /// How many calls of a window's Settle are under way. A message may come in the middle of one; a window must not go
-  /// then.
-  int Settling = 0;
+  Work_On_Windows Work;
 
   /// Where the pointer was last seen, in pixels of the screen. The system also reports a move when a window changes
   /// under a pointer at rest: a report from the same place isn't a move.

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/calendar/program_world.h"
+#include "toolkit/input.h"
 
 namespace {
 
@@ -45,6 +46,56 @@ TEST_F(Date_Watch_Test, A_desktop_that_cannot_show_it_is_asked_once) {
   Pass(60);
   EXPECT_LE(Platform.Shell.Moves(), 1);
   EXPECT_FALSE(On_Desktop());
+}
+
+TEST_F(Date_Watch_Test, A_desktop_that_failed_to_take_it_is_asked_again) {
+  Consent();
+  Platform.Shell.Fail_Once();
+  Start();
+  EXPECT_FALSE(On_Desktop());
+  Pass(1.1);
+  EXPECT_TRUE(On_Desktop());
+  EXPECT_EQ(Platform.Shell.Moves(), 2);
+}
+
+TEST_F(Date_Watch_Test, The_return_waits_for_the_end_of_an_open_box) {
+  Consent();
+  Start();
+  Platform.Shell.Restart();
+  Platform.Message_Box.Prepare(platform::Box_Answer::OK, 5'000'000);
+  bool under_box = true;
+  Platform.Loop.Dispatch([&] {
+    Platform.System().Message_Box.Show("Meridex", "Dentist", platform::Box_Icon::None, platform::Box_Buttons::OK);
+    under_box = On_Desktop();
+  });
+  EXPECT_FALSE(under_box);
+  Pass(1.1);
+  EXPECT_TRUE(On_Desktop());
+}
+
+TEST_F(Date_Watch_Test, And_of_a_held_button) {
+  Consent();
+  Start();
+  Platform.Shell.Restart();
+  Platform.User.Press(*Window("Main_Frm"), nullptr, {toolkit::Mouse_Button::Left});
+  Pass(5);
+  EXPECT_FALSE(On_Desktop());
+  Platform.User.Release(*Window("Main_Frm"), nullptr, {toolkit::Mouse_Button::Left});
+  Pass(1.1);
+  EXPECT_TRUE(On_Desktop());
+}
+
+TEST_F(Date_Watch_Test, And_of_an_open_menu) {
+  Consent();
+  Start();
+  Platform.Shell.Restart();
+  {
+    const toolkit::Input::Menu menu(Platform.Backend().Input);
+    Pass(5);
+    EXPECT_FALSE(On_Desktop());
+  }
+  Pass(1.1);
+  EXPECT_TRUE(On_Desktop());
 }
 
 TEST_F(Date_Watch_Test, Without_the_consent_the_calendar_stays_off_the_new_desktop) {

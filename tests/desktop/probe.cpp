@@ -41,8 +41,9 @@ void Print_Window(HWND window) {
   SendMessageTimeoutA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG, 2000, &length);
   GetWindowThreadProcessId(window, &process);
   GetWindowRect(window, &place);
-  std::printf("\"handle\":%lld,\"process\":%lu,\"id\":%d,", static_cast<long long>(reinterpret_cast<LONG_PTR>(window)),
-              process, static_cast<int>(GetDlgCtrlID(window)));
+  const auto number = [](HWND of) { return static_cast<long long>(reinterpret_cast<LONG_PTR>(of)); };
+  std::printf("\"handle\":%lld,\"owner\":%lld,\"process\":%lu,\"id\":%d,", number(window),
+              number(GetWindow(window, GW_OWNER)), process, static_cast<int>(GetDlgCtrlID(window)));
   std::printf("\"rect\":[%ld,%ld,%ld,%ld],", place.left, place.top, place.right, place.bottom);
   std::printf("\"visible\":%s,\"enabled\":%s,", IsWindowVisible(window) ? "true" : "false",
               IsWindowEnabled(window) ? "true" : "false");

@@ -1,28 +1,23 @@
 """A balloon takes the activity, and gives it back to the calendar when it is clicked away."""
 from harness.desktop import WHITE, Desktop_Test
-from harness.hands import TITLE_COLOURS, wait_for_title
+from harness.hands import TITLE_COLOURS, balloon, wait_for_title
 from harness.waiting import wait_for
 
-BALLOON_WIDTH = 137  # pixels, with this text
 EVENTS = ["10/3/2004=Dentist at nine"]
 
 
 class Balloon_Activity(Desktop_Test):
-    @staticmethod
-    def balloon(desktop):
-        return next((window.rect for window in desktop.windows() if window.rect.width == BALLOON_WIDTH), None)
-
     def a_click_closes_it(self, **world):
         desktop = self.desktop(events=EVENTS, settings={"Tooltips": 2, "Alignment": 4}, colours=TITLE_COLOURS, **world)
         desktop.started()
         desktop.screen.click(*desktop.box_rect(4).centre)
         wait_for_title(desktop, "Fore")
         desktop.screen.press(*desktop.caption_rect(10).centre)
-        balloon = wait_for(lambda: self.balloon(desktop), "the balloon")
+        shown = wait_for(lambda: balloon(desktop), "the balloon")
         desktop.screen.release()
         wait_for_title(desktop, "Inactive")
-        desktop.screen.click(*balloon.centre)
-        wait_for(lambda: self.balloon(desktop) is None, "its end")
+        desktop.screen.click(*shown.centre)
+        wait_for(lambda: balloon(desktop) is None, "its end")
         wait_for_title(desktop, "Fore")
 
         april = desktop.layout(2004, 4)

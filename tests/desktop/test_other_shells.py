@@ -1,7 +1,7 @@
 """The calendar in the windows of newer shells, on screens beyond the first, under its own boxes, and when the shell ends."""
 from harness.desktop import SHELL_COLOUR, WHITE, Desktop_Test
 from harness.geometry import Rect
-from harness.hands import Editor
+from harness.hands import Editor, balloon
 from harness.waiting import wait_for
 
 LAYERED = 0x80000
@@ -104,6 +104,80 @@ class Boxes_And_The_Shell(Shell_Test):
         self.assertTrue(editor.there())
 
 
+class Owners_Of_Boxes(Shell_Test):
+    def owner(self, desktop, text):
+        """The owner of the open box, which has that text; 0 if it has none."""
+        self.assertIn(text, desktop.message_box().text)
+        return next(window["owner"] for window in desktop.probe()
+                    if window["class"] == "#32770" and window["text"] == "Meridex")
+
+    def world(self, **world):
+        return self.desktop(events=["5/3/2004=Dentist at nine", "6/3/2004=Choir", "10/3/2004=Dentist at nine"], **world)
+
+    def test_the_calendar_owns_the_box_over_it(self):
+        desktop = self.world(settings={"Alignment": 6, "Show Alerts": 0})
+        desktop.started()
+        desktop.activate()
+        desktop.screen.key("F1")
+        self.assertEqual(self.owner(desktop, "Dentist"), desktop.lone_calendar()["handle"])
+        desktop.answer("Return")
+
+    def test_the_editor_owns_the_box_over_it(self):
+        for shell in (False, True):
+            desktop = self.world(settings={"Alignment": 6}, shell=shell, now="2004-03-04 09:00:00")
+            desktop.started()
+            Editor(desktop).open(10)
+            desktop.set_clock("2004-03-05 00:00:01")
+            owner = self.owner(desktop, "Dentist")
+            title = next(window["text"] for window in desktop.probe() if window["handle"] == owner)
+            self.assertTrue(title.startswith(Editor.TITLE), title)
+            desktop.answer("Return")
+            desktop.close()
+
+    def test_a_box_over_a_balloon_belongs_to_the_calendar(self):
+        desktop = self.world(settings={"Tooltips": 2, "Alignment": 4, "Show Alerts": 1}, now="2004-03-04 09:00:00")
+        desktop.started()
+        desktop.screen.press(*desktop.caption_rect(10).centre)
+        wait_for(lambda: balloon(desktop), "the balloon")
+        desktop.screen.release()
+        desktop.set_clock("2004-03-05 00:00:01")
+        self.assertEqual(self.owner(desktop, "Dentist"), desktop.lone_calendar()["handle"])
+        desktop.answer("Return")
+
+    def test_as_a_part_of_the_desktop_the_calendar_owns_none_and_the_splash_neither(self):
+        for splash in (0, 1):
+            desktop = self.world(settings={"Show Splash": splash, "Show Alerts": 1}, shell=True)
+            desktop.start()
+            self.assertEqual(self.owner(desktop, "Dentist"), 0, f"splash {splash}")
+            desktop.answer("Return")
+            desktop.close()
+
+
+class Shell_Begins_Again(Shell_Test):
+    def begun_again(self, **world):
+        desktop = self.shell(settings={"Alignment": 4}, events=["6/3/2004=Choir"], **world)
+        desktop.started()
+        before = desktop.shell_window()["handle"]
+        desktop.post(before, END_OF_SHELL, 1)
+        wait_for(lambda: (desktop.shell_window() or {"handle": before})["handle"] != before, "the new shell")
+        return desktop
+
+    def test_with_the_consent_the_calendar_becomes_a_part_of_it(self):
+        desktop = self.begun_again(modern=True)
+        wait_for(lambda: desktop.calendar_window() and not desktop.lone_calendar(), "the calendar on the new desktop")
+        self.assert_near(desktop.calendar_window().rect, desktop.place(), what="place")
+        self.turns_the_month(desktop)
+
+    def test_without_it_the_calendar_stays_an_ordinary_window(self):
+        desktop = self.begun_again()
+        wait_for(desktop.lone_calendar, "the calendar beside the new desktop")
+        desktop.set_clock("2004-03-05 23:59:57")  # the box comes after more than one look for a desktop
+        self.assertIn("Choir", desktop.message_box().text)
+        self.assertIsNotNone(desktop.lone_calendar())
+        self.assertIsNone(desktop.calendar_window())
+        desktop.answer("Return")
+
+
 class End_Of_The_Shell(Shell_Test):
     GROUND = (58, 110, 165)
 
@@ -134,6 +208,19 @@ class End_Of_The_Shell(Shell_Test):
         desktop, program = self.without_shell()
         desktop.post(desktop.lone_calendar()["handle"], CLOSE)
         self.assertEqual(desktop.exit_status(program), 0)
+
+    def test_an_open_balloon_survives_it(self):
+        desktop = self.shell(events=["10/3/2004=Dentist at nine"], settings={"Tooltips": 2, "Alignment": 4})
+        desktop.started()
+        desktop.screen.click(*desktop.box_rect(4).centre)
+        desktop.screen.press(*desktop.caption_rect(10).centre)
+        place = wait_for(lambda: balloon(desktop), "the balloon")
+        desktop.screen.release()
+        desktop.post(desktop.shell_window()["handle"], END_OF_SHELL)
+        wait_for(desktop.lone_calendar, "the calendar without the shell")
+        self.assertEqual(balloon(desktop), place)
+        desktop.screen.click(*place.centre)
+        wait_for(lambda: balloon(desktop) is None, "its end")
 
     def test_an_open_box_survives_it(self):
         desktop = self.shell(events=["5/3/2004=Dentist"], settings={"Alignment": 6, "Show Alerts": 0})

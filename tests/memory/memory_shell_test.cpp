@@ -88,7 +88,7 @@ TEST(Memory_Shell_Test, Knows_what_was_moved_under_the_desktop) {
   Memory_Shell shell;
   shell.Set_Chain(Shell_Chain::Icon_List);
   EXPECT_FALSE(shell.Part_Of_Desktop(7));
-  EXPECT_TRUE(shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager")));
+  EXPECT_EQ(shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager")), platform::Adoption::Done);
   EXPECT_TRUE(shell.Part_Of_Desktop(7));
 }
 
@@ -96,7 +96,7 @@ TEST(Memory_Shell_Test, A_desktop_that_shows_no_children_takes_none) {
   Memory_Shell shell;
   shell.Set_Chain(Shell_Chain::Icon_List);
   shell.Refuse_Children(true);
-  EXPECT_FALSE(shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager")));
+  EXPECT_EQ(shell.Set_Parent(7, shell.Find_Top_Window("Progman", "Program Manager")), platform::Adoption::Unseen);
   EXPECT_FALSE(shell.Part_Of_Desktop(7));
   EXPECT_EQ(shell.Moves(), 1);
 }

@@ -123,6 +123,16 @@ TEST_F(Desktop_Embedding_Test, A_desktop_that_refuses_the_calendar_is_asked_once
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(Embedding.Embed_Again());
   EXPECT_EQ(Shell.Moves(), 1);
   Shell.Refuse_Children(false);
+  EXPECT_FALSE(Embedding.Embed_Again()) << "it stays so";
   Shell.Restart();
   EXPECT_TRUE(Embedding.Embed_Again()) << "another shell";
+}
+
+TEST_F(Desktop_Embedding_Test, A_move_that_failed_is_tried_again) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Fail_Once();
+  Embedding.No_ShowDesktop_and_IconColours();
+  EXPECT_FALSE(Embedding.Embedded());
+  EXPECT_TRUE(Embedding.Embed_Again());
+  EXPECT_TRUE(Embedding.Embedded());
 }

@@ -19,7 +19,7 @@ class Child_Window final : public win32::Program_Window {
   void Settle() override {}
   void Look_Changed(UINT message) override { Told.push_back(message); }
   bool Take_Key(const MSG&) override { return false; }
-  bool Embed(HWND) override { return true; }
+  platform::Adoption Embed(HWND) override { return platform::Adoption::Done; }
   [[nodiscard]] bool Embedded() const override { return true; }
 
   [[nodiscard]] bool Told_Of(UINT message) const { return std::find(Told.begin(), Told.end(), message) != Told.end(); }

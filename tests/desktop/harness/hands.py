@@ -5,6 +5,7 @@ from .waiting import wait_for
 
 MENU_CLASS = "#32768"
 MENU_FRAME = 3  # pixels around the items of a popup menu
+BALLOON_WIDTH = 137  # pixels, with the text of `balloon`
 
 # Colours that no smoothing of a font gives by chance.
 TITLE_COLOURS = {"Fore": 65535, "Inactive": 65280, "Back": 0}
@@ -35,6 +36,11 @@ def item_rect(menu, number, count):
 
 def menu_gone(desktop):
     wait_for(lambda: menu_rect(desktop) is None, "the end of the menu")
+
+
+def balloon(desktop):
+    """Where the balloon with the text "Dentist at nine" stands, None if it isn't there."""
+    return next((window.rect for window in desktop.windows() if window.rect.width == BALLOON_WIDTH), None)
 
 
 class Editor:
