@@ -126,6 +126,10 @@ class Prefix:
                     found.append(int(process.name))
         return found
 
+    def windows_path(self, path):
+        """A path on the prefix's drive as Windows programs name it."""
+        return "C:\\" + str(path.relative_to(self.drive)).replace("/", "\\")
+
     def run(self, *command, seconds=60):
         """Runs a program to its end; returns its exit status and what it printed."""
         result = subprocess.run([WINE, *command], env=self.environment, timeout=seconds, stdin=subprocess.DEVNULL,
