@@ -41,6 +41,7 @@ VIAddVersionKey "LegalCopyright" ""
 
 !define MUI_ICON "resources/meridex.ico"
 !define MUI_UNICON "resources/meridex.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "resources/setup.bmp"
 !define MUI_COMPONENTSPAGE_SMALLDESC
 !define MUI_FINISHPAGE_RUN "$INSTDIR\meridex.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Start the calendar"
