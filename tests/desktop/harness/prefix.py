@@ -11,7 +11,10 @@ import tempfile
 from .waiting import wait_for
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
-WINE, SERVER = "/usr/lib/wine/wine64", "/usr/lib/wine/wineserver64"
+# scripts/test-32-bit.sh plays the tests with another Wine.
+WINE = os.environ.get("WINE64", "/usr/lib/wine/wine64")
+SERVER = os.environ.get("WINESERVER", "/usr/lib/wine/wineserver64")
+ARCHITECTURE = os.environ.get("MERIDEX_ARCHITECTURE", "x64")
 FAKE_CLOCK = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
 SHARED_MEMORY = pathlib.Path("/dev/shm")
 
