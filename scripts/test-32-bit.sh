@@ -29,7 +29,7 @@ if [ ! -e "$debian/meridex-ready" ]; then
   echo "Making a 32-bit Debian in $debian (once)"
   rm -rf "$debian"
   mkdir -p "$debian"
-  quietly debootstrap --arch=i386 --variant=minbase --include=wine32,libfaketime,locales bookworm "$debian" "$mirror" ||
+  quietly debootstrap --arch=i386 --variant=minbase --include=wine32,locales bookworm "$debian" "$mirror" ||
     cant "a 32-bit Debian can't be had from $mirror"
   for name in "${tried_locales[@]}"; do
     chroot "$debian" localedef -i "$name" -f UTF-8 "$name.UTF-8"
@@ -47,12 +47,13 @@ mkdir -p "$wine32"
 put_command() { # NAME PROGRAM
   cat >"$wine32/$1" <<END
 #!/bin/sh
-clock=\${LD_PRELOAD:+/usr/lib/i386-linux-gnu/faketime/libfaketime.so.1}
+clock=\${LD_PRELOAD:+$wine32/clock.so}
 unset LD_PRELOAD
 exec chroot "$debian" /usr/bin/env \${clock:+LD_PRELOAD="\$clock"} WINEARCH=win32 "$2" "\$@"
 END
   chmod +x "$wine32/$1"
 }
+gcc -m32 -O2 -fPIC -shared -nostdlib -o "$wine32/clock.so" tools/clock/clock.c
 put_command wine /usr/lib/wine/wine
 put_command wineserver /usr/lib/wine/wineserver32
 

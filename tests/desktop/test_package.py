@@ -6,7 +6,7 @@ import tempfile
 import zipfile
 
 from harness.desktop import BUILD, PROGRAM, Desktop_Test, record
-from harness.prefix import ROOT
+from harness.prefix import ARCHITECTURE, ROOT
 from harness.waiting import wait_for
 
 UNINSTALL = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Meridex"
@@ -28,7 +28,7 @@ class Package(Desktop_Test):
         return to
 
     def installer(self, release):
-        return f"Z:{self.package(release)}/meridex-{release}-x64-setup.exe".replace("/", "\\")
+        return f"Z:{self.package(release)}/meridex-{release}-{ARCHITECTURE}-setup.exe".replace("/", "\\")
 
     def installed(self, desktop):
         """The folder that the installer chooses."""
