@@ -1,8 +1,9 @@
-"""check_conformance.py: the tables of docs/conformance/ name tests that are there, and every scenario stands in a row.
+"""check_conformance.py: the tables of docs/conformance/ name tests that are there, every scenario stands in a row, and
+every heading of the choices has rows that link to it.
 
 It is run in the project's root. A row is "| what the calendar does | tests |"; the tests are names between backticks:
-`NAME.scn` a scenario, `Suite.Test` a unit test, `desktop.Class.test` one on the desktop, and any other word a test that a
-CMakeLists.txt adds by that name.
+`NAME.scn` a scenario, `Suite.Test` a unit test, `desktop.Class.test` one on the desktop, and any other word a test that
+a CMakeLists.txt adds by that name.
 """
 import pathlib
 import re
@@ -10,6 +11,7 @@ import sys
 
 ROOT = pathlib.Path(".")
 INDEX = ROOT / "docs/conformance.md"
+CHOICES = ROOT / "docs/choices.md"
 TABLES = sorted((ROOT / "docs/conformance").glob("*.md"))
 MOST_ROWS = 120
 
@@ -58,13 +60,15 @@ def added_tests():
             text = path.read_text(encoding="utf-8")
             loops = LOOP.findall(text)
             for name in ADDED_TEST.findall(text):
-                names |= {name} | {name.replace(f"${{{loop}}}", value) for loop, values in loops for value in values.split()}
+                names.add(name)
+                for loop, values in loops:
+                    names |= {name.replace(f"${{{loop}}}", value) for value in values.split()}
             names |= {f"corpus_{name}" for name in FUZZ_TARGET.findall(text)}
     return names
 
 
 def rows_of(text):
-    """The rows of all tables of a page, without the heads and the rules below them, each with the number of its line."""
+    """The rows of a page's tables, without the heads and the rules below them, each with the number of its line."""
     lines = text.split("\n")
     for number, line in enumerate(lines, 1):
         is_head = number < len(lines) and lines[number].startswith("|--")
@@ -84,6 +88,14 @@ def check_links(path, text, complain):
             complain(f"{path}: no page {target}")
         elif anchor and anchor not in map(anchor_of, HEADING.findall(page.read_text(encoding="utf-8"))):
             complain(f"{path}: {target} has no heading #{anchor}")
+
+
+def check_choices(texts, complain):
+    """Rows that rest on a choice link to its heading, so each heading has one."""
+    for heading in re.findall(r"^## (.+)$", CHOICES.read_text(encoding="utf-8"), re.MULTILINE):
+        link = f"(../{CHOICES.name}#{anchor_of(heading)})"
+        if not any(link in text for text in texts):
+            complain(f'{CHOICES}: no row rests on what stands under "{heading}"')
 
 
 def check_table(path, known, complain):
@@ -118,6 +130,7 @@ def main():
         names, count = check_table(path, known, complain)
         named |= names
         rows += count
+    check_choices([path.read_text(encoding="utf-8") for path in TABLES], complain)
     for name in sorted(scenarios() - named):
         complain(f"no row names {name}")
     if not TABLES or not scenarios():
