@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Sourced: the Debian packages that building, testing and measuring need, installed when something is missing.
 #
-#   need_packages build wine      # groups: build, wine, office, lint, bench
+#   need_packages build wine      # groups: build, wine, office, lint, package, debian32, coverage, bench
 #
 # Where everything is there, nothing is installed and the network isn't touched.
 
@@ -16,6 +16,12 @@ packages_wine=(wine64 wine fonts-wine fonts-liberation xvfb xdotool imagemagick 
 packages_office=(libreoffice-calc-nogui)
 # shellcheck disable=SC2034
 packages_lint=(clang-format clang-tidy clang libclang-rt-14-dev)
+# shellcheck disable=SC2034
+packages_package=(nsis zip git)
+# shellcheck disable=SC2034
+packages_debian32=(debootstrap)
+# shellcheck disable=SC2034
+packages_coverage=(gcovr)
 # shellcheck disable=SC2034
 packages_bench=(libbenchmark-dev gcal libx11-dev libxdamage-dev libxtst-dev libjpeg-turbo-progs)
 

@@ -1,6 +1,7 @@
 #include "settings_window/colours_tab.h"
 
 #include "basic/convert.h"
+#include "settings_window/box_example.h"
 
 namespace settings_window {
 
@@ -43,11 +44,7 @@ void Make_Frame(toolkit::Frame& frame, const Bounds& place, const char* caption)
 
 /// A box of the miniature and the event on it, as the calendar draws them.
 void Make_Box(toolkit::Label& box, toolkit::Label& caption) {
-  box.FontName = "Arial";
-  box.FontSize = 9;
-  box.FontBold = true;
-  box.BackColor = toolkit::white;
-  box.Fixed_Border = true;
+  Look_Like_A_Day_Box(box);
   caption.Transparent = true;
 }
 

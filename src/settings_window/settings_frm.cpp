@@ -133,6 +133,7 @@ void Settings_Frm::Apply_Btn_Click() {
 
 void Settings_Frm::Unload() {
   calendar_.Settings_Visible = false;
+  months_.Put_Picture_Back();
   stored_.Set(&settings::Settings::Settings_Tab, Which_Tab());
   desk_.Idle_Restart();
 }

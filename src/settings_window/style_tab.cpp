@@ -1,5 +1,6 @@
 #include "settings_window/style_tab.h"
 
+#include "settings_window/box_example.h"
 #include "settings_window/positions.h"
 
 namespace settings_window {
@@ -91,12 +92,8 @@ void Style_Tab::Make_Examples() {
   Example4_Lbl.Place({405, 3150, 1275, 330});
   Example4_Lbl.Caption = " 1";
   for (toolkit::Label* const box : {&Example5_Lbl, &Example1_Lbl, &Example4_Lbl}) {
-    box->BackColor = toolkit::white;
+    Look_Like_A_Day_Box(*box);
     box->ForeColor = toolkit::black;  // on white in every scheme of colours
-    box->Fixed_Border = true;
-    box->FontName = "Arial";
-    box->FontSize = 9;
-    box->FontBold = true;
   }
   Example2_Lbl.Place({675, 2070, 735, 600});
   Example2_Lbl.Caption = "This is an example.";

@@ -1,5 +1,7 @@
 #include "settings_window/tooltips_tab.h"
 
+#include "settings_window/box_example.h"
+
 namespace settings_window {
 
 namespace {
@@ -74,9 +76,8 @@ void Tooltips_Tab::Place_Controls() {
   TipsTrigger_Lbl.Alignment = toolkit::Alignment::Centre;
   TipBoxExample_Lbl.Place({540, 810, 825, 915});
   TipBoxExample_Lbl.Caption = " 1";
-  TipBoxExample_Lbl.BackColor = toolkit::white;
+  Look_Like_A_Day_Box(TipBoxExample_Lbl);
   TipBoxExample_Lbl.ForeColor = toolkit::black;  // on white in every scheme of colours
-  TipBoxExample_Lbl.Fixed_Border = true;
   TipExample_Lbl.Place({585, 1080, 735, 600});
   TipExample_Lbl.Caption = example;
   TipExample_Lbl.Alignment = toolkit::Alignment::Centre;

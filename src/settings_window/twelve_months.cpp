@@ -40,16 +40,21 @@ void Twelve_Months::Play() {
   Set_Aside();
   const Borrowed kept(settings_);
   const basic::Int16 mode = basic::To_Int16(tab_.Browser.Desktop_Value("WallpaperStyle", "UNKNOWN"));
-  const std::string picture = tab_.Browser.Desktop_Value("Wallpaper", "UNKNOWN");
+  picture_before_ = {tab_.Browser.Desktop_Value("Wallpaper", "UNKNOWN"), mode};
   Take_From_Tabs();
   Show_Months();
   kept.Put_Back(settings_);
-  desk_.Set_Wallpaper(picture, mode);
+  Put_Picture_Back();
   if (Windows_Are_There()) {
     Put_Calendar_Back();
     Take_Up_Again();
   }
   playing_ = false;
+}
+
+void Twelve_Months::Put_Picture_Back() {
+  if (picture_before_) desk_.Set_Wallpaper(picture_before_->Path, picture_before_->Display_Mode);
+  picture_before_.reset();
 }
 
 /// Nothing but the preview itself may work on the calendar meanwhile.

@@ -2,6 +2,9 @@
 // it. It saves nothing and puts everything back.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "calendar/date_watch.h"
 #include "platform/event_loop.h"
 #include "settings_window/wallpaper_tab.h"
@@ -16,6 +19,9 @@ class Twelve_Months {
   /// The click of Preview_Btn. Throws error 13 where the desktop's display mode is no number, and where a month of the pack
   /// can't be read.
   void Play();
+
+  /// Gives the desktop its own picture back if a preview has taken it, as when the program ends in the midst of one.
+  void Put_Picture_Back();
 
   /// While it plays, what it works on must stay.
   [[nodiscard]] bool Playing() const { return playing_; }
@@ -36,6 +42,13 @@ class Twelve_Months {
   platform::Waits& waits_;
   settings::Settings& settings_;
   bool playing_ = false;
+
+  /// What was on the desktop before a preview, and how.
+  struct Desktop_Picture {
+    std::string Path;
+    basic::Int16 Display_Mode;
+  };
+  std::optional<Desktop_Picture> picture_before_;
 };
 
 }  // namespace settings_window

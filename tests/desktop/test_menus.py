@@ -60,6 +60,19 @@ class Months_Menu(Desktop_Test):
         unused = desktop.on_screen(april.box_rect(0), april).shrunk(1)
         wait_for(lambda: desktop.screen.picture().is_all(unused, DESKTOP_COLOUR), "April")
 
+    def test_a_menu_opens_in_the_middle_below_the_pointer(self):
+        desktop = self.desktop(settings={"Alignment": 3})
+        desktop.started()
+        desktop.activate()
+        layout = desktop.layout()
+        for place in (layout.title_rect, layout.header_rect(2), layout.box_rect(9)):
+            x, y = desktop.on_screen(place).centre
+            menu = open_menu(desktop, (x, y))
+            self.assertAlmostEqual(menu.centre[0], x, delta=1)
+            self.assertAlmostEqual(menu.top, y, delta=1)
+            desktop.screen.key("Escape")
+            menu_gone(desktop)
+
 
 class Title_Menu(Desktop_Test):
     def shrunk(self):

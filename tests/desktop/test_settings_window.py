@@ -165,7 +165,7 @@ class Settings_Visit(Desktop_Test):
         red, green, blue = (int(desktop.stored("Colours", "Today")) >> shift & 255 for shift in (0, 8, 16))
         self.assertLess(max(red, green, blue), 40)
 
-    def test_the_strip_shows_the_colour_under_the_pointer_and_with_shift_a_ramp(self):
+    def test_the_strip_shows_the_colour_under_the_pointer_and_with_shift_ctrl_or_alt_a_ramp(self):
         desktop, window = self.opened(tab=2)
         palette = window.place(135, 315, 1545, 810, (3375, 2250))
         strip = window.place(135, 1170, 1500, 285, (3375, 2250))
@@ -183,6 +183,14 @@ class Settings_Visit(Desktop_Test):
         desktop.screen.hands("keyup", "shift")
         desktop.screen.move(palette.left + 50, palette.top)
         wait_for(lambda: brightness_at(10) == 255 and brightness_at(90) == 255, "the plain colour again")
+        # Alt comes last: let go by itself it opens the window's menu.
+        for key in ("ctrl", "alt"):
+            desktop.screen.move(palette.left + 50, palette.top)
+            wait_for(lambda: brightness_at(10) == 255, f"the plain colour before {key}")
+            desktop.screen.hands("keydown", key)
+            desktop.screen.move(palette.left + 60, palette.top)
+            wait_for(lambda: brightness_at(10) < 20, f"a ramp with {key}")
+            desktop.screen.hands("keyup", key)
 
     def test_f8_again_brings_the_one_window_back(self):
         desktop, window = self.opened(tab=4)

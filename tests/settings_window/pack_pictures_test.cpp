@@ -138,3 +138,16 @@ TEST_F(Pack_Pictures_Test, The_window_is_an_icon_while_the_months_are_shown) {
   EXPECT_FALSE(button);
   EXPECT_FALSE(Window("Settings_Frm")->Minimised());
 }
+
+TEST_F(Pack_Pictures_Test, A_program_that_ends_in_the_preview_puts_the_desktops_picture_back) {
+  Put("Use Themes", "1");
+  Open();
+  Platform.Registry.Put(platform::Hive::Current_User, desktop, "Wallpaper", "C:\\old.bmp");
+  Platform.Time.Schedule(Platform.Time.Elapsed() + 4 * memory::micros_of_a_second,
+                         [this] { Platform.Loop.Dispatch([this] { Platform.Instances.On_Close_Request(); }); });
+  EXPECT_THROW(Click("Preview_Btn"), platform::Program_Quit);
+  EXPECT_EQ(Window("Main_Frm"), nullptr);
+  EXPECT_EQ(Window("Settings_Frm"), nullptr);
+  EXPECT_EQ(Platform.Wallpaper.Take_Settings().back().Path, "C:\\old.bmp");
+  EXPECT_EQ(Platform.Loop.Failure(), std::nullopt);
+}

@@ -67,6 +67,13 @@ TEST_F(Tooltips_Tab_Test, Begins_with_the_standard_tips_and_a_text_of_its_own) {
   EXPECT_TRUE(Tab.TipsNotes_Lbl.Caption().ends_with("then it may get cut off."));
 }
 
+TEST_F(Tooltips_Tab_Test, The_example_has_the_boxes_border_and_font) {
+  EXPECT_TRUE(Tab.TipBoxExample_Lbl.Fixed_Border);
+  EXPECT_EQ(Tab.TipBoxExample_Lbl.FontName(), "Arial");
+  EXPECT_EQ(Tab.TipBoxExample_Lbl.FontSize(), 9);
+  EXPECT_TRUE(Tab.TipBoxExample_Lbl.FontBold);
+}
+
 TEST_F(Tooltips_Tab_Test, To_show_the_choice_that_is_on_changes_nothing) {
   Tab.Show_Choice(1);
   EXPECT_TRUE(Tab.TipsNotes_Lbl.Caption().ends_with("then it may get cut off."));

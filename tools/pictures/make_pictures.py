@@ -6,6 +6,7 @@
 The result depends on this folder alone: run it again after a change and commit what it wrote.
 """
 import image_files
+import setup_pictures
 import small_pictures
 import window_pictures
 from image_files import entry, write_bitmap, write_icon, write_pointer
@@ -47,6 +48,7 @@ def main():
     write_icon("monitor.ico", [entry(window_pictures.monitor_picture(*size), 4) for size in window_pictures.MONITORS])
     write_icon("small_calendar.ico",
                [entry(window_pictures.small_calendar_picture(*size), 4) for size in window_pictures.CALENDARS])
+    write_bitmap("setup.bmp", setup_pictures.setup_picture())
     for name, (draw, outwards) in BUTTONS.items():
         write_button_icon(name, draw, outwards)
     write_pointer("cross_hair.cur", window_pictures.cross_hair_picture(), (16, 16))

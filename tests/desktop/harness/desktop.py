@@ -10,11 +10,11 @@ import unittest
 from typing import NamedTuple
 
 from . import geometry
-from .prefix import ROOT, Prefix
+from .prefix import ARCHITECTURE, ROOT, Prefix
 from .screen import SIZE, Screen, Window
 from .waiting import wait_for
 
-BUILD = ROOT / "build/windows-x64"
+BUILD = ROOT / f"build/windows-{ARCHITECTURE}"
 PICTURES = ROOT / "build/desktop-pictures"  # where a failed test leaves what it saw last
 PROGRAM = "meridex.exe"
 PROBE = f"Z:{BUILD}/tests/desktop/desktop_probe.exe".replace("/", "\\")

@@ -11,7 +11,10 @@ import tempfile
 from .waiting import wait_for
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
-WINE, SERVER = "/usr/lib/wine/wine64", "/usr/lib/wine/wineserver64"
+# scripts/test-32-bit.sh plays the tests with another Wine.
+WINE = os.environ.get("WINE64", "/usr/lib/wine/wine64")
+SERVER = os.environ.get("WINESERVER", "/usr/lib/wine/wineserver64")
+ARCHITECTURE = os.environ.get("MERIDEX_ARCHITECTURE", "x64")
 FAKE_CLOCK = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
 SHARED_MEMORY = pathlib.Path("/dev/shm")
 
@@ -137,6 +140,10 @@ class Prefix:
                 if mark in (process / "environ").read_bytes().split(b"\0"):
                     found.append(int(process.name))
         return found
+
+    def windows_path(self, path):
+        """A path on the prefix's drive as Windows programs name it."""
+        return "C:\\" + str(path.relative_to(self.drive)).replace("/", "\\")
 
     def run(self, *command, seconds=60):
         """Runs a program to its end; returns its exit status and what it printed."""

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Plants single faults at random in the portable code, one at a time, and tells which the tests notice:
+# scripts/faults.sh [COUNT [SEED]], 100 of a new seed unless told.
+#
+# A fault is an operator or a constant changed, or a call dropped; one that the compiler refuses doesn't count. Played are the
+# unit tests, the scenarios and a short monkey, in copies of the tree in build/. The exit status is 1 if more than 5% survive.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/lib/packages.sh"
+cd "$root"
+need_packages build
+exec python3 -B tools/faults/run.py "$@" </dev/null
