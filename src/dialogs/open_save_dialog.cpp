@@ -20,7 +20,9 @@ constexpr std::string_view end_of_list("\0\0", 2);
 /// A text of NULs alone. Throws error 5 for a negative length.
 std::string Buffer(int length) {
   if (length < 0) throw Run_Error(Error_Number::Invalid_Procedure_Call);
-  return std::string(static_cast<std::size_t>(length), '\0');
+  std::string buffer;
+  buffer.resize(static_cast<std::size_t>(length));
+  return buffer;
 }
 
 void Add_File(std::vector<std::string>& files, std::int32_t& count, std::string_view file) {
@@ -41,8 +43,7 @@ std::string TranslateFilter(std::string_view filter) {
 }
 
 OpenSaveDialog::OpenSaveDialog(toolkit::Form& window, std::string name, platform::File_Dialog& dialogs)
-    : Control(window, std::move(name)), dialogs_(dialogs) {
-  Visible = false;
+    : Dialog_Owner(window, std::move(name)), dialogs_(dialogs) {
   Place({0, 0, size_in_twips, size_in_twips});
 }
 
@@ -57,20 +58,21 @@ void OpenSaveDialog::ShowOpen() { Show(Kind::Open); }
 void OpenSaveDialog::ShowSave() { Show(Kind::Save); }
 
 void OpenSaveDialog::Show(Kind kind) {
-  if (!Filter.empty() && FilterIndex == 0) FilterIndex = 1;
   platform::File_Dialog_Record record = Make_Record(kind);
+  if (!Filter.empty() && FilterIndex == 0) FilterIndex = 1;
+  record.Filter_Index = static_cast<std::uint32_t>(FilterIndex.Value());
   const bool chosen = kind == Kind::Open ? dialogs_.Show_Open(record) : dialogs_.Show_Save(record);
   if (chosen) Take_Result(record, kind);
   else if (CancelError) throw Cancel_Error();
 }
 
+/// All but the number of the file type.
 platform::File_Dialog_Record OpenSaveDialog::Make_Record(Kind kind) const {
   platform::File_Dialog_Record record;
-  record.Owner = Window.Handle();
+  record.Owner = Handle();
   record.Title = DialogTitle;
   record.Initial_Folder = InitDir;
   if (!Filter.empty()) record.Filter = TranslateFilter(Filter);
-  record.Filter_Index = static_cast<std::uint32_t>(FilterIndex.Value());
   record.Flags = static_cast<std::uint32_t>(Flags);
   const bool several = kind == Kind::Open && (record.Flags & flag_of_several_files) != 0;
   record.File.resize(several ? room_for_several : room_for_a_path);
@@ -90,6 +92,7 @@ void OpenSaveDialog::Take_Result(const platform::File_Dialog_Record& record, Kin
   FilterIndex = static_cast<std::int32_t>(record.Filter_Index);
 }
 
+// NOLINTNEXTLINE(readability-identifier-naming)
 void OpenSaveDialog::ParseMultiFileName(std::string& Dir, std::vector<std::string>& Files, std::int32_t& Count) {
   const std::size_t end = FileName.find(end_of_list);
   if (end != std::string::npos) {

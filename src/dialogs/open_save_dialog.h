@@ -9,7 +9,7 @@
 #include "basic/run_error.h"
 #include "dialogs/property_bag.h"
 #include "platform/file_dialog.h"
-#include "toolkit/form.h"
+#include "toolkit/dialog_owner.h"
 
 namespace dialogs {
 
@@ -28,7 +28,7 @@ std::string TrimNull(const std::string& text);
 /// The "|" of a filter become NULs, and two more end it.
 std::string TranslateFilter(std::string_view filter);
 
-class OpenSaveDialog : public toolkit::Control {
+class OpenSaveDialog : public toolkit::Dialog_Owner {
  public:
   OpenSaveDialog(toolkit::Form& window, std::string name, platform::File_Dialog& dialogs);
 
@@ -52,6 +52,7 @@ class OpenSaveDialog : public toolkit::Control {
   /// Splits FileName after a choice of several files: the folder, unless `Dir` holds one, and behind the `Count` files that
   /// there are already the names. `Files` counts from 1: its first element is number 1. Throws error 5 where FileName is a
   /// bare name without a NUL, error 9 for a `Count` below 0 and error 6 beyond 32 bits.
+  // NOLINTNEXTLINE(readability-identifier-naming): part of the control's face
   void ParseMultiFileName(std::string& Dir, std::vector<std::string>& Files, std::int32_t& Count);
 
   /// The defaults.

@@ -88,9 +88,7 @@ std::string Event_Text(std::string_view subject, std::string_view description) {
   return text;
 }
 
-std::string_view Heading_Row() {
-  return "\"Subject\",\"Start Date\",\"Description\",\"Start Time\",\"End Date\",\"End Time\"";
-}
+std::string_view Heading_Row() { return R"("Subject","Start Date","Description","Start Time","End Date","End Time")"; }
 
 void Append_Row(std::string& to, std::string_view start, std::string_view text, std::string_view end) {
   constexpr std::string_view between = "\",\"";
