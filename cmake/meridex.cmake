@@ -36,6 +36,10 @@ if(WIN32)
   target_compile_definitions(meridex_options INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX __USE_MINGW_ANSI_STDIO=0)
   target_compile_options(meridex_options INTERFACE -ffunction-sections -fdata-sections)
   target_link_options(meridex_options INTERFACE -static -Wl,--gc-sections)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    # That compiler links no library of threads, on which the standard library of this variant stands.
+    target_link_libraries(meridex_options INTERFACE stdc++ winpthread)
+  endif()
   if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # Structures as those systems know them; what is newer is looked up at run time.
     target_compile_definitions(meridex_options INTERFACE _WIN32_WINNT=0x0400 _WIN32_IE=0x0400)
