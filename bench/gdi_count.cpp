@@ -2,6 +2,7 @@
 // X and Y are the middle of its arrow, in pixels of its window. Prints the two numbers.
 // The same before and after two hundred openings of the settings window, with all handles of the process:
 // bench_gdi_count.exe settings
+// A month change a second: bench_gdi_count.exe soak SECONDS X Y. Prints seconds, GDI objects and handles twenty times on the way.
 #include <windows.h>
 #include <winternl.h>
 
@@ -126,11 +127,31 @@ int Count_Openings(HWND calendar, HANDLE process) {
   return 0;
 }
 
+int Soak(HWND calendar, HANDLE process, int seconds, LPARAM arrow) {
+  constexpr int reports = 20;
+  const DWORD start = GetTickCount();
+  for (int second = 1; second <= seconds; ++second) {
+    if (SendMessageA(calendar, WM_LBUTTONDOWN, MK_LBUTTON, arrow) != 0 || IsWindow(calendar) == 0) return 1;
+    SendMessageA(calendar, WM_LBUTTONUP, 0, arrow);
+    RedrawWindow(calendar, nullptr, nullptr, RDW_UPDATENOW);
+    const DWORD next = start + static_cast<DWORD>(second) * 1000;
+    const DWORD now = GetTickCount();
+    if (now < next) Sleep(next - now);
+    if (second * reports / seconds == (second - 1) * reports / seconds) continue;
+    DWORD handles = 0;
+    GetProcessHandleCount(process, &handles);
+    std::printf("%d %d %lu\n", second, Count_Objects(process), handles);
+    std::fflush(stdout);
+  }
+  return 0;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   const bool of_settings = count == 2 && std::strcmp(arguments[1], "settings") == 0;
-  if (count != 3 && !of_settings) return 2;
+  const bool of_soak = count == 5 && std::strcmp(arguments[1], "soak") == 0;
+  if (count != 3 && !of_settings && !of_soak) return 2;
   if (!Count_Is_Sound()) {
     std::puts("GDI objects can't be counted here");
     return 1;
@@ -144,7 +165,8 @@ int main(int count, char** arguments) {
   }
   const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, id);
   if (of_settings) return Count_Openings(window, process);
-  const LPARAM arrow = MAKELPARAM(std::atoi(arguments[1]), std::atoi(arguments[2]));
+  const LPARAM arrow = MAKELPARAM(std::atoi(arguments[count - 2]), std::atoi(arguments[count - 1]));
+  if (of_soak) return Soak(window, process, std::atoi(arguments[2]), arrow);
   Change_Months(window, arrow, warm_up);
   const int before = Count_Objects(process);
   Change_Months(window, arrow, changes);

@@ -37,6 +37,10 @@ if(WIN32)
   target_compile_options(meridex_options INTERFACE -ffunction-sections -fdata-sections -fstack-protector-strong)
   target_link_options(meridex_options INTERFACE -static -Wl,--gc-sections -fstack-protector-strong
     -Wl,--dynamicbase,--nxcompat,--enable-reloc-section)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    # That compiler links no library of threads, on which the standard library of this variant stands.
+    target_link_libraries(meridex_options INTERFACE stdc++ winpthread)
+  endif()
   if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_options(meridex_options INTERFACE -Wl,--high-entropy-va)
   else()

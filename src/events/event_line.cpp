@@ -29,7 +29,7 @@ Word Load(const char* at) {
 /// be mispredicted half the time.
 std::uint64_t Take_Two_Digits(const char*& at, bool& plain) {
   const unsigned one = at[1] == '/' ? 1 : 0;
-  const unsigned digits = Load<std::uint16_t>(at) << 8U * one | '0' * one;
+  const unsigned digits = static_cast<unsigned>(Load<std::uint16_t>(at)) << 8U * one | '0' * one;
   plain &= at[2 - one] == '/';
   at += 3 - one;
   return digits & 0xFFFFU;

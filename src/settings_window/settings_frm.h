@@ -34,7 +34,7 @@ struct Program_Parts {
   exchange::Csv_Columns& Csv_Columns;
 };
 
-class Settings_Frm : private exchange::Window_Values {
+class Settings_Frm final : private exchange::Window_Values {
  public:
   Settings_Frm(toolkit::Backend& backend, const platform::System& system, const Program_Parts& parts);
 

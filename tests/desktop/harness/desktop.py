@@ -43,11 +43,12 @@ def record(line):
 class Desktop:
     def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
                  keyboard="us", shell=False, permissions=False, size=SIZE,
-                 density=96, modern=False, refused=None):
+                 density=96, modern=False, refused=None, program=BUILD / "src/main" / PROGRAM):
         """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values;
         shell: with the stand-in for the desktop's own windows, under which the calendar then lives; permissions: what is
         read-only is so for root too; size: the screen's, in pixels; density: its dots per inch; modern: with
-        the user's consent to today's desktops; refused: a section of the settings in which nothing can be stored."""
+        the user's consent to today's desktops; refused: a section of the settings in which nothing can be stored; program:
+        the executable."""
         geometry.set_density(density)
         self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, "Show Splash": 0, **(settings or {})}
         self.shell = shell
@@ -61,7 +62,7 @@ class Desktop:
                                  permissions)
             self.folder = self.prefix.drive / "Meridex"
             self.folder.mkdir()
-            shutil.copy2(BUILD / "src/main" / PROGRAM, self.folder)
+            shutil.copy2(program, self.folder)
             if shell:
                 for file in [*BUILD.glob("tools/desktop/*.exe"), *BUILD.glob("tools/desktop/*.dll")]:
                     shutil.copy2(file, self.folder)
