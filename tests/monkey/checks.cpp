@@ -2,6 +2,7 @@
 
 #include "basic/convert.h"
 #include "editor/edit_frm.h"
+#include "event_records.h"
 #include "events/event_line.h"
 #include "failed.h"
 #include "presentation/box_style.h"
@@ -15,61 +16,6 @@ namespace {
 using memory::Memory_Files;
 
 constexpr toolkit::Colour mark = 0x123456;
-
-bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
-
-/// Takes digits off the front; says whether there were as many as wanted.
-bool Take_Number(std::string_view& text, std::size_t least, std::size_t most) {
-  std::size_t count = 0;
-  while (count < text.size() && Is_Digit(text[count])) ++count;
-  if (count < least || count > most) return false;
-  text.remove_prefix(count);
-  return true;
-}
-
-bool Take(std::string_view& text, std::string_view what) {
-  if (!text.starts_with(what)) return false;
-  text.remove_prefix(what.size());
-  return true;
-}
-
-/// Whether each "&" stands twice.
-bool Doubled(std::string_view text) {
-  for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 2))
-    if (text.substr(at, 2) != "&&") return false;
-  return true;
-}
-
-/// A double quote, the date, "=", a text without double quotes, a double quote and CR LF. Each "&" of the text is doubled,
-/// but in a file with texts that were imported, which come in as they stand.
-bool Take_Record(std::string_view& bytes, bool imported) {
-  if (!Take(bytes, "\"")) return false;
-  Take(bytes, "-");
-  if (!Take_Number(bytes, 1, 2) || !Take(bytes, "/") || !Take_Number(bytes, 1, 2) || !Take(bytes, "/")) return false;
-  if (!Take_Number(bytes, 4, 4) || !Take(bytes, "=")) return false;
-  const std::string_view text = bytes.substr(0, bytes.find('"'));
-  bytes.remove_prefix(text.size());
-  return (imported || Doubled(text)) && Take(bytes, "\"\r\n");
-}
-
-bool Well_Formed(std::string_view bytes, bool imported = false) {
-  while (!bytes.empty())
-    if (!Take_Record(bytes, imported)) return false;
-  return true;
-}
-
-/// Whether each record's day is one of the calendar.
-bool Days_Exist(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const std::size_t end = bytes.find("\r\n", bytes.find('"', 1));
-    const auto event = events::Read_Event_Line(bytes.substr(1, end - 2));
-    const auto serial = basic::Date_Serial(event.Year.Value(), event.Month.Value(), event.Day.Value());
-    const basic::Civil_Date civil = basic::Civil_From_Serial(serial);
-    if (event.Day != civil.Day || event.Month != civil.Month) return false;
-    bytes.remove_prefix(end + 2);
-  }
-  return true;
-}
 
 /// Whether a failure that this box tells of may have left the file number taken.
 bool Leaves_File_Open(const memory::Memory_Message_Box::Shown& box) {

@@ -121,7 +121,7 @@ std::string Random_Actions::Window() {
 }
 
 std::string Random_Actions::Wait() {
-  if (random_.Once_In(60)) return "wait " + Number(random_.Below(600));
+  if (random_.Once_In(80)) return "wait " + Number(random_.Below(600));
   return "wait " + Tenths(random_.Below(random_.Once_In(10) ? 500 : 20));
 }
 

@@ -9,6 +9,7 @@
 #include "basic/run_error.h"
 #include "basic/text.h"
 #include "control_values.h"
+#include "event_records.h"
 #include "events/event_line.h"
 #include "exchange/overview_lists.h"
 #include "failed.h"
@@ -57,17 +58,6 @@ const Kind& Control_Of(const toolkit::Form& window, const std::string& name) {
 
 std::string Caption_Of(const toolkit::Form& window, const std::string& name) {
   return Control_Of<toolkit::Label>(window, name).Caption();
-}
-
-/// The lines of a file whose records are all well-formed.
-std::vector<std::string_view> Records(std::string_view bytes) {
-  std::vector<std::string_view> records;
-  while (!bytes.empty()) {
-    const std::size_t end = bytes.find("\"\r\n", 1);
-    records.push_back(bytes.substr(1, end - 1));
-    bytes.remove_prefix(end + 3);
-  }
-  return records;
 }
 
 /// The text of an entry, as the list shows it.
@@ -133,7 +123,7 @@ void Settings_Checks::After(const std::string& lines, const Brought_Up& brought,
   if (window == nullptr || !sound || brought.micros != 0) return;
   const bool overview =
       last.starts_with("click Settings_Frm.Overview_Opt") || last.starts_with("select Settings_Frm.Sort_Cbo");
-  if (overview && active_ && !mouse_held_ && Is_One_Line(lines) && shown_.at("TabStrip1") == "1" &&
+  if (overview && active_ && !mouse_held_ && !brought.refused &&
       Control_Of<toolkit::Control>(*window, "Events_Lst").On_View()) {
     ++listed_;
     Check_Lists();

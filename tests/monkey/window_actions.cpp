@@ -62,10 +62,20 @@ std::string Window_Actions::Next() {
   if (settings && kind < 8) return Exchange();
   if (settings && kind < 18)
     return "click Settings_Frm.TabStrip1(" + std::to_string(random_.Below(tab_count) + 1) + ")";
+  if (settings && kind < 21) return "click Settings_Frm.Apply_Btn";
+  if (settings && kind < 24) return Overview();
   if (kind < 32) return random_.Once_In(3) ? "activate " + window.Name + "\n" + Key() : Key();
   if (kind < 36) return "activate " + std::string(random_.Once_In(3) ? "none" : window.Name);
   if (kind < 37) return "close " + window.Name;
   return On_Control(window);
+}
+
+/// The list of all events, in some order.
+std::string Window_Actions::Overview() {
+  static constexpr const char* orders[] = {"Ascending Date", "Descending Date", "Date Added"};
+  const std::string list = "click Settings_Frm.TabStrip1(1)\nclick Settings_Frm.Overview_Opt";
+  if (random_.Once_In(2)) return list;
+  return list + "\nselect Settings_Frm.Sort_Cbo " + play::Quoted(random_.One_Of(orders));
 }
 
 std::string Window_Actions::Key() {

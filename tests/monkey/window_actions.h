@@ -34,6 +34,7 @@ class Window_Actions {
   std::string On_List(const toolkit::Item_List& list, const std::string& name);
   std::string On_Picture(const std::string& name);
   std::string On_Palette();
+  std::string Overview();
   std::string Exchange();
   std::string Input_File(int button);
   std::string Mouse_Button();
