@@ -114,6 +114,12 @@ bool Idle_Time_Overflows(play::World& world) {
          std::abs(basic::To_Int16(Stored(world, "Timeout Value")).Value()) > longest_idle_minutes;
 }
 
+/// A week that starts on no weekday.
+bool First_Weekday_Is_None(play::World& world) {
+  const std::string day = Stored(world, "Start Day");
+  return day.size() != 1 || day < "0" || day > "7";
+}
+
 bool Work_Area_Overflows(play::World& world) {
   const auto area = world.Platform.Screen.Work_Area();
   return area.Width > largest_work_area || area.Height > largest_work_area;
@@ -134,6 +140,7 @@ std::string Cause_Of_End(play::World& world, const Last_Seen& seen, const Brough
   const bool pack_unread = brought.Box_Said("Error loading in Settings file") || brought.Box_Said("Missing Pack");
   if (error == invalid_call && pack_unread) return "a pack that can't be read";
   if (Stored_Value_Fails(world, error)) return "a stored value";
+  if (error == invalid_call && First_Weekday_Is_None(world)) return "the first weekday";
   if (error == overflow && Idle_Time_Overflows(world)) return "the idle time";
   if (error == overflow && Work_Area_Overflows(world)) return "the work area";
   if (error == overflow && (std::abs(seen.left) > farthest_drag || std::abs(seen.top) > farthest_drag)) return "a drag";
