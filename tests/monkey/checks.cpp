@@ -1,10 +1,11 @@
 #include "checks.h"
 
-#include <algorithm>
-
 #include "basic/convert.h"
 #include "editor/edit_frm.h"
+#include "event_records.h"
 #include "events/event_line.h"
+#include "failed.h"
+#include "presentation/box_style.h"
 #include "text_form.h"
 #include "toolkit/text_box.h"
 
@@ -15,47 +16,11 @@ namespace {
 using memory::Memory_Files;
 
 constexpr toolkit::Colour mark = 0x123456;
-constexpr toolkit::Colour normal = 16777215;
 
-bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
-
-/// Takes digits off the front; says whether there were as many as wanted.
-bool Take_Number(std::string_view& text, std::size_t least, std::size_t most) {
-  std::size_t count = 0;
-  while (count < text.size() && Is_Digit(text[count])) ++count;
-  if (count < least || count > most) return false;
-  text.remove_prefix(count);
-  return true;
-}
-
-bool Take(std::string_view& text, std::string_view what) {
-  if (!text.starts_with(what)) return false;
-  text.remove_prefix(what.size());
-  return true;
-}
-
-/// Whether each "&" stands twice.
-bool Doubled(std::string_view text) {
-  for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 2))
-    if (text.substr(at, 2) != "&&") return false;
-  return true;
-}
-
-/// A double quote, the date, "=", a text without double quotes and with each "&" doubled, a double quote and CR LF.
-bool Take_Record(std::string_view& bytes) {
-  if (!Take(bytes, "\"")) return false;
-  Take(bytes, "-");
-  if (!Take_Number(bytes, 1, 2) || !Take(bytes, "/") || !Take_Number(bytes, 1, 2) || !Take(bytes, "/")) return false;
-  if (!Take_Number(bytes, 4, 4) || !Take(bytes, "=")) return false;
-  const std::string_view text = bytes.substr(0, bytes.find('"'));
-  bytes.remove_prefix(text.size());
-  return Doubled(text) && Take(bytes, "\"\r\n");
-}
-
-bool Well_Formed(std::string_view bytes) {
-  while (!bytes.empty())
-    if (!Take_Record(bytes)) return false;
-  return true;
+/// Whether a failure that this box tells of may have left the file number taken.
+bool Leaves_File_Open(const memory::Memory_Message_Box::Shown& box) {
+  if (box.Text.starts_with("Error when importing from CSV")) return false;
+  return box.Icon == platform::Box_Icon::Critical || box.Text.starts_with("Error when");
 }
 
 std::string Told(const Box& box) {
@@ -102,36 +67,64 @@ void Checks::Before() {
   before_.current_box = state.Current_Box.Value();
   before_.editor_open = world_.Find_Window("Edit_Frm") != nullptr;
   before_.editor_text = Editor_Text();
+  before_.settings_open = world_.Find_Window("Settings_Frm") != nullptr;
+  before_.trouble = file_trouble_;
+  before_.stored = Stored();
+  before_.mark_covers = Marked_Box().BackColor;
   Marked_Box().BackColor = mark;
 }
 
-void Checks::After(const std::string& lines, bool nested) {
-  Note_File(lines);
+std::string Checks::Stored() const {
+  std::string stored;
+  for (const auto& value : world_.Platform.Store.Values("Meridex"))
+    if (value.Key != "Settings Tab") stored += value.Key + "=" + value.Text + "\n";
+  return stored;
+}
+
+bool Checks::File_Is_Sound() const {
+  if (malformed_ || faulty_ || file_trouble_ || !File_There() || !Well_Formed(File(), imported_)) return false;
+  return Days_Exist(File());
+}
+
+void Checks::After(const std::string& lines, const Brought_Up& brought) {
+  Note_File(lines, brought);
   Check_File();
-  const bool complaint = File_Complaint();
   if (!Running()) return;
-  Note_What_May_Differ(lines, nested);
-  if (complaint) file_trouble_ = true;
+  Note_What_May_Differ(lines, brought);
+  Note_Settings(lines, brought);
+  Check_Complaints(brought);
   Check_Window();
   Check_Editor();
   if (!file_trouble_ && !all_odd_ && !world_.State()->Compact_On) Check_Boxes();
 }
 
-/// Whether the program has complained of a file since the last look.
-bool Checks::File_Complaint() {
-  bool complaint = false;
-  for (const auto& message : world_.Platform.Message_Box.Take_Shown())
-    complaint |= message.Icon == platform::Box_Icon::Critical;
-  return complaint;
+/// A file that can be read and written is complained of only where something has left the file number taken.
+void Checks::Check_Complaints(const Brought_Up& brought) {
+  if (brought.started) file_trouble_ = false;
+  const bool sound = File_Is_Sound() && before_.file == File();
+  for (const auto& box : brought.boxes) {
+    if (box.Title == "ERROR" && sound && !before_.trouble && !brought.nested && brought.boxes.size() == 1)
+      throw Failed("the program complains of a sound file: " + box.Text);
+    if (Leaves_File_Open(box)) file_trouble_ = true;
+  }
 }
 
-void Checks::Note_File(const std::string& lines) {
+void Checks::Note_File(const std::string& lines, const Brought_Up& brought) {
   const bool put = lines.find("put calendar.dat") != std::string::npos;
-  if (put) malformed_ = !Well_Formed(File());
+  if (put || lines.find("remove calendar.dat") != std::string::npos) faulty_ = false;
+  if (lines.find("block calendar.dat") != std::string::npos || lines.find("full calendar.dat") != std::string::npos)
+    faulty_ = true;
+  const bool replaced = put || brought.Dialog_Got_File("Import Data File") || brought.Box_Said("Error when importing");
+  if (replaced) malformed_ = !Well_Formed(File(), imported_ && !put);
+  // Behind a removal the lines come back that the program has last read.
+  const bool came_back = !before_.file_there && File_There() && !put;
+  if (came_back) malformed_ = !Well_Formed(File(), true);
+  if (put) imported_ = false;
+  if (came_back || brought.Dialog_Got_File("Import Events from CSV File")) imported_ = true;
   if (File().empty()) malformed_ = false;
   const std::string text = before_.editor_text + Editor_Text();
   const bool quotes_of_the_editor = text.find('"') != std::string::npos && File() != before_.file;
-  if (quotes_of_the_editor && !Well_Formed(File())) malformed_ = true;
+  if (quotes_of_the_editor && !Well_Formed(File(), imported_)) malformed_ = true;
 }
 
 void Checks::Note_Day(const std::string& selected_date) {
@@ -143,16 +136,18 @@ void Checks::Note_Day(const std::string& selected_date) {
   }
 }
 
-void Checks::Note_What_May_Differ(const std::string& lines, bool nested) {
+void Checks::Note_What_May_Differ(const std::string& lines, const Brought_Up& brought) {
+  const bool nested = brought.nested;
   const auto& state = *world_.State();
-  const bool started = lines.find("start") != std::string::npos || !before_.running;
+  const bool started = brought.started || !before_.running;
   const bool drawn = started || Marked_Box().BackColor != mark;
   const bool changed_outside = lines.find("calendar.dat") != std::string::npos && !started;
   const bool editor_closed = before_.editor_open && world_.Find_Window("Edit_Frm") == nullptr;
   const bool saved = File() != before_.file || editor_closed || lines.find("answer") != std::string::npos ||
                      lines.find("choose") != std::string::npos || lines.find("dblclick") != std::string::npos;
   if (started) {
-    file_trouble_ = false;
+    pack_odd_ = false;
+    applied_ = false;
     fresh_key_.clear();  // the pack, the locale and the screen may be others
   }
   if (drawn) {
@@ -167,16 +162,32 @@ void Checks::Note_What_May_Differ(const std::string& lines, bool nested) {
     Note_Day(state.Selected_Date);
   }
   if (before_.compact && !state.Compact_On && !drawn) {
-    if (!nested && lines.find("F9") == std::string::npos) throw Failed("the window opened without a drawing");
+    if (!nested && !before_.settings_open && lines.find("F9") == std::string::npos)
+      throw Failed("the window opened without a drawing");
     all_odd_ = true;
   }
   const bool came_back = !before_.file_there && File_There();
   if (((changed_outside || came_back) && !drawn) || nested) all_odd_ = true;
-  if (!drawn) Marked_Box().BackColor = normal;
+  if (!drawn) Marked_Box().BackColor = before_.mark_covers;
+}
+
+/// What the settings window applies is drawn in pieces: the next drawing brings it all.
+void Checks::Note_Settings(const std::string& lines, const Brought_Up& brought) {
+  const bool pack_changed = lines.find("Default") != std::string::npos ||
+                            lines.find("settings.ini") != std::string::npos || lines.find(".jpg") != std::string::npos;
+  if (pack_changed) fresh_key_.clear();
+  if (brought.started) return;
+  if (pack_changed) pack_odd_ = true;
+  if (!before_.settings_open) return;
+  if (Stored() != before_.stored || !brought.boxes.empty() || !brought.dialogs.empty() || brought.micros > 30'000'000) {
+    all_odd_ = true;
+    applied_ = true;
+  }
 }
 
 void Checks::Check_File() const {
-  if (!malformed_ && !Well_Formed(File())) throw Failed("malformed records in calendar.dat: " + play::Quoted(File()));
+  if (!malformed_ && !Well_Formed(File(), imported_))
+    throw Failed("malformed records in calendar.dat: " + play::Quoted(File()));
 }
 
 void Checks::Check_Window() const {
@@ -211,11 +222,24 @@ const std::optional<Snapshot>& Checks::Fresh() {
   return fresh_;
 }
 
+bool Checks::Packs_Are_On() const { return world_.Platform.Store.Get("Meridex", "Settings", "Use Themes", "0") != "0"; }
+
+bool Checks::Style_Is_Known() const {
+  const bool by_pack =
+      Packs_Are_On() && world_.Platform.Store.Get("Meridex", "Settings", "Use Theme Style", "1") == "1";
+  const int style = by_pack ? world_.State()->Pack_Box_Style.Value()
+                            : basic::To_Int32(world_.Platform.Store.Get("Meridex", "Settings", "Style", "1"));
+  return style >= presentation::thin_box && style <= presentation::small_box;
+}
+
 void Checks::Check_Boxes() {
+  if (applied_ && !Style_Is_Known()) return;
+  if (Packs_Are_On() && (pack_odd_ || drawn_on_ != world_.Platform.Time.Now().Day)) return;
   const auto& fresh = Fresh();
   if (!fresh) return;
   ++compared_;
   const Snapshot seen = Snapshot_Of(world_);
+  const int normal = basic::To_Int32(world_.Platform.Store.Get("Meridex", "Colours", "Normal", "16777215"));
   const basic::Moment now = world_.Platform.Time.Now();
   const basic::Civil_Date today = basic::Civil_From_Serial(now.Day);
   const bool present_month = world_.State()->View_Month == today.Month && world_.State()->View_Year == today.Year;

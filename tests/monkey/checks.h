@@ -11,6 +11,10 @@
 // - After a message about the file, reading and writing may fail until the program is started again.
 // - In compact mode nothing is drawn; F9 brings the window back over a grid that may be that of another month.
 // - Today's mark follows the clock at the tick, not before.
+// - What the settings window applies is drawn in pieces, and may differ until the next drawing; a number that is no style
+//   leaves the boxes as they were before.
+// - A pack is read at the start, at a new day and when it is applied: one that was changed since may differ until the
+//   next start.
 // - Events within events (a box that stays open, a held press) can change the boxes and draw them in any order.
 //
 // The records of calendar.dat must be well-formed, except that the clearing of a day while the editor is open writes the
@@ -21,25 +25,23 @@
 #include <set>
 
 #include "snapshot.h"
+#include "watcher.h"
 
 namespace monkey {
-
-/// Says what is wrong.
-struct Failed : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
 
 class Checks {
  public:
   explicit Checks(play::World& world) : world_(world) {}
 
-  /// Around one action. `After` throws Failed. `lines` are the action's; `nested` says that prepared actions may have run
-  /// within it.
+  /// Around one action. `After` throws Failed. `lines` are the action's.
   void Before();
-  void After(const std::string& lines, bool nested);
+  void After(const std::string& lines, const Brought_Up& brought);
 
   /// Something may keep the boxes from being compared until the next start.
   [[nodiscard]] bool In_Trouble() const { return file_trouble_; }
+
+  /// The file is well-formed and can be read.
+  [[nodiscard]] bool File_Is_Sound() const;
 
   /// How often the boxes were held against those of a fresh start, and how many starts that took.
   [[nodiscard]] int Compared() const { return compared_; }
@@ -49,8 +51,10 @@ class Checks {
   /// What the program is up to before an action.
   struct Earlier {
     bool running = false, compact = false, editor_open = false, file_there = false;
-    std::string file, selected_date, editor_text;
+    bool settings_open = false, trouble = false;
+    std::string file, selected_date, editor_text, stored;
     int current_box = 0;
+    toolkit::Colour mark_covers = 0;
   };
 
   [[nodiscard]] bool Running() const;
@@ -58,13 +62,17 @@ class Checks {
   [[nodiscard]] bool File_There() const;
   [[nodiscard]] std::string Editor_Text() const;
   [[nodiscard]] toolkit::Label& Marked_Box() const;
-  [[nodiscard]] bool File_Complaint();
-  void Note_What_May_Differ(const std::string& lines, bool nested);
+  [[nodiscard]] std::string Stored() const;
+  void Check_Complaints(const Brought_Up& brought);
+  void Note_What_May_Differ(const std::string& lines, const Brought_Up& brought);
+  void Note_Settings(const std::string& lines, const Brought_Up& brought);
   void Note_Day(const std::string& selected_date);
-  void Note_File(const std::string& lines);
+  void Note_File(const std::string& lines, const Brought_Up& brought);
   void Check_File() const;
   void Check_Window() const;
   void Check_Editor() const;
+  [[nodiscard]] bool Packs_Are_On() const;
+  [[nodiscard]] bool Style_Is_Known() const;
   void Check_Boxes();
   const std::optional<Snapshot>& Fresh();
 
@@ -74,6 +82,10 @@ class Checks {
   bool all_odd_ = false;       // so may all of them
   bool file_trouble_ = false;  // until the next start
   bool malformed_ = false;     // the file, by no fault of the program
+  bool imported_ = false;      // from a CSV file, whose texts come in as they stand
+  bool faulty_ = false;        // the file, as a disk or a folder in its place makes it
+  bool applied_ = false;       // something in the settings window, since the start
+  bool pack_odd_ = false;      // the pack isn't as it was when the calendar looked; until the next start
   basic::Serial_Day drawn_on_ = 0;
   std::string fresh_key_;
   std::optional<Snapshot> fresh_;

@@ -34,9 +34,11 @@ std::string Put_Together(Random& random, int most) {
   return text;
 }
 
-std::string Date(Random& random) {
+/// Up to a day that not every month has.
+std::string Date(Random& random, int last_day) {
   static constexpr const char* years[] = {"9999", "2003", "2004", "2004", "2005", "9998"};
-  return std::to_string(random.Below(31) + 1) + "/" + std::to_string(random.Below(12) + 1) + "/" + random.One_Of(years);
+  return std::to_string(random.Below(last_day) + 1) + "/" + std::to_string(random.Below(12) + 1) + "/" +
+         random.One_Of(years);
 }
 
 }  // namespace
@@ -50,9 +52,10 @@ std::string Typed_Text(Random& random) {
 
 std::string Good_File(Random& random) {
   std::string bytes;
-  for (int count = random.Below(100); count > 0; --count) {
+  const int last_day = random.Once_In(6) ? 31 : 28;
+  for (int count = random.Below(random.Once_In(4) ? 100 : 20); count > 0; --count) {
     const std::string text = basic::Replace_All(Put_Together(random, 5), "\"", "'");
-    bytes += "\"" + Date(random) + "=" + basic::Double_Ampersands(text) + "\"\r\n";
+    bytes += "\"" + Date(random, last_day) + "=" + basic::Double_Ampersands(text) + "\"\r\n";
   }
   return bytes;
 }

@@ -1,6 +1,7 @@
 #include "random_actions.h"
 
 #include "nasty.h"
+#include "nasty_files.h"
 #include "text_form.h"
 
 namespace monkey {
@@ -17,35 +18,27 @@ std::string Indexed(const std::string& name, int index) { return name + "(" + Nu
 /// Tenths of a second as seconds with one digit behind the point.
 std::string Tenths(int tenths) { return Number(tenths / 10) + "." + Number(tenths % 10); }
 
-/// A pack that says the same of every month, so that the month of a start makes no difference to the boxes.
-std::string Make_Pack(const std::string& value) {
-  std::string ini, lines;
-  for (int month = 1; month <= 12; ++month) {
-    ini += Number(month) + "=" + value + "\r\n";
-    lines += "picture Default/" + Number(month) + ".jpg 2 2 102030\n";
-  }
-  return lines + "put Default/settings.ini " + play::Quoted(ini) + "\n";
-}
-
 }  // namespace
 
 std::string Random_Actions::First() {
-  return Make_Pack("0-4-0") + "put calendar.dat " + play::Quoted(Good_File(random_)) + "\nstart\n";
+  return Make_Pack("Default", "0-4-0") + "put calendar.dat " + play::Quoted(Good_File(random_)) + "\nstart\n";
 }
 
 std::string Random_Actions::Next(const Situation& situation) {
-  if (!situation.running || (situation.trouble && random_.Once_In(10))) return Restart();
+  if (!situation.running || (situation.trouble && random_.Once_In(10))) return Restart(situation.failed);
+  if (windows_.Any_Window() && random_.Once_In(2)) return windows_.Next();
   // A held press in the last moments of a day is waited for until the next one; better not begin it.
   const bool may_press = !situation.balloons || situation.second_of_the_day < seconds_of_a_day - 60;
   const int kind = random_.Below(1000);
   if (kind < 620) return Of_The_User(may_press);
-  if (kind < 720) return Wait();
-  if (kind < 760) return Prepared_Answer();
-  if (kind < 800) return "later " + Tenths(random_.Below(20) + 1) + " " + (random_.Once_In(2) ? Key() : Control());
-  if (kind < 850) return Clock();
-  if (kind < 890) return Disk();
-  if (kind < 920) return Screen();
-  return Restart();
+  if (kind < 680) return Wait();
+  if (kind < 720) return Prepared_Answer();
+  if (kind < 760) return "later " + Tenths(random_.Below(20) + 1) + " " + (random_.Once_In(2) ? Key() : Control());
+  if (kind < 820) return windows_.Open_Settings();
+  if (kind < 860) return Clock();
+  if (kind < 900) return Disk();
+  if (kind < 930) return Screen();
+  return Restart(false);
 }
 
 std::string Random_Actions::Of_The_User(bool press) {
@@ -128,8 +121,8 @@ std::string Random_Actions::Window() {
 }
 
 std::string Random_Actions::Wait() {
-  if (random_.Once_In(40)) return "wait " + Number(random_.Below(600));
-  return "wait " + Tenths(random_.Below(random_.Once_In(4) ? 500 : 20));
+  if (random_.Once_In(80)) return "wait " + Number(random_.Below(600));
+  return "wait " + Tenths(random_.Below(random_.Once_In(10) ? 500 : 20));
 }
 
 std::string Random_Actions::Clock() {
@@ -144,7 +137,11 @@ std::string Random_Actions::Clock() {
 }
 
 std::string Random_Actions::Disk() {
-  switch (random_.Below(20)) {
+  switch (random_.Below(25)) {
+    case 5:
+    case 6:
+    case 7:
+    case 8: return Change_Packs(random_);
     case 0: return "remove calendar.dat";
     case 1: return "block calendar.dat";
     case 2: return "full calendar.dat";
@@ -155,53 +152,35 @@ std::string Random_Actions::Disk() {
 }
 
 std::string Random_Actions::Screen() {
+  static constexpr const char* screens[] = {"1280 1024", "1280 1024", "640 480", "1024 768", "2184 1200", "800 1280"};
   if (random_.Once_In(60)) return "workarea 0 0 1280 2185";
+  if (random_.Once_In(5)) return std::string("screen ") + random_.One_Of(screens);
   return "workarea " + Number(random_.Below(100)) + " " + Number(random_.Below(100)) + " " +
          Number(random_.Below(1200)) + " " + Number(random_.Below(1000));
 }
 
 std::string Random_Actions::Prepared_Answer() {
   static constexpr const char* answers[] = {"OK", "Yes", "No", "Cancel"};
+  if (random_.Once_In(20)) return "pick " + std::string(random_.Once_In(2) ? "cancel" : "io/a.csv") + " after 1";
   const std::string answer = std::string("answer ") + random_.One_Of(answers);
   return random_.Once_In(3) ? answer + " after " + Tenths(random_.Below(40)) : answer;
 }
 
-std::string Random_Actions::Setting() {
-  struct Choice {
-    const char* key;
-    const char* values[6];
-  };
-  static constexpr Choice choices[] = {{"Style", {"0", "1", "2", "1", "2", "7"}},
-                                       {"Alignment", {"0", "3", "7", "8", "9", "10"}},
-                                       {"Tooltips", {"0", "1", "2", "1", "2", "3"}},
-                                       {"\"Use Themes\"", {"0", "1", "0", "1", "0", "2"}},
-                                       {"\"Use Theme Style\"", {"0", "1", "0", "1", "0", "2"}},
-                                       {"\"Use Theme Pos\"", {"0", "1", "0", "1", "0", "2"}},
-                                       {"\"Auto Compact\"", {"0", "1", "0", "1", "0", "2"}},
-                                       {"\"Timeout Value\"", {"0", "1", "5", "45", "546", "2"}},
-                                       {"\"Timeout Format\"", {"0", "0", "0", "0", "1", "7"}},
-                                       {"Carriage_Return", {"0", "1", "0", "1", "0", "2"}},
-                                       {"\"Show Alerts\"", {"0", "1", "1", "1", "1", "2"}},
-                                       {"\"Allow Dragging\"", {"0", "1", "0", "1", "1", "2"}},
-                                       {"\"Bar Time\"", {"True", "False", "True", "0", "1", "False"}},
-                                       {"\"Bar Date Format\"",
-                                        {"\"Use System Format\"", "mm/yyyy", "\"Month - yyyy\"", "\"d Month - yyyy\"",
-                                         "\"Weekday - d month - yyyy\"", "none"}},
-                                       {"\"Start Day\"", {"0", "1", "2", "4", "6", "7"}},
-                                       {"\"Trans Icons\"", {"0", "1", "0", "1", "0", "2"}}};
-  const Choice& choice = random_.One_Of(choices);
-  return std::string("setting Settings ") + choice.key + " " + random_.One_Of(choice.values) + "\n";
-}
-
-std::string Random_Actions::Restart() {
+std::string Random_Actions::Restart(bool healed) {
   static constexpr const char* locales[] = {"en-GB", "en-US", "de-DE"};
   static constexpr const char* shells[] = {"on", "off", "progman", "defview"};
+  static constexpr const char* modes[] = {"0", "2", "10", "stretched"};
   std::string lines;
-  for (int count = random_.Below(4); count > 0; --count) lines += Setting();
+  if (healed) lines += Healed_Settings() + "workarea 0 0 1280 1024\n" + Make_Pack("Default", "0-4-0");
+  for (int count = random_.Below(5); count > 0; --count) lines += Stored_Setting(random_);
+  lines += std::string("setting Desktop Modern ") + (random_.Once_In(4) ? "1" : "0") + "\n";
   if (random_.Once_In(5)) lines += std::string("locale ") + random_.One_Of(locales) + "\n";
   if (random_.Once_In(5)) lines += std::string("shell ") + random_.One_Of(shells) + "\n";
-  if (random_.Once_In(20)) lines += "remove Default\n";
-  if (random_.Once_In(8)) lines += Make_Pack(random_.Once_In(2) ? "2-6-1" : "1-0-2");
+  if (random_.Once_In(20))
+    lines += std::string("reg HKCU \"Control Panel\\\\Desktop\" WallpaperStyle ") + random_.One_Of(modes) + "\n";
+  if (random_.Once_In(20)) lines += random_.Once_In(2) ? "deny HKCU on\n" : "deny HKCU off\n";
+  if (random_.Once_In(20)) lines += "instance Meridex\n";
+  if (random_.Once_In(5)) lines += Change_Packs(random_);
   if (random_.Once_In(2)) lines += "workarea 0 0 1280 1024\n";
   if (random_.Once_In(2)) lines += "put calendar.dat " + play::Quoted(Good_File(random_)) + "\n";
   return lines + "start";

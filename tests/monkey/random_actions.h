@@ -4,13 +4,14 @@
 
 #include <string>
 
-#include "random.h"
+#include "window_actions.h"
 
 namespace monkey {
 
 /// What the next action depends on.
 struct Situation {
   bool running = false;   ///< the program runs
+  bool failed = false;    ///< an error has ended it
   bool trouble = false;   ///< little can be checked before the next start
   bool balloons = false;  ///< a press on a box may be waited for
   int second_of_the_day = 0;
@@ -18,7 +19,7 @@ struct Situation {
 
 class Random_Actions {
  public:
-  explicit Random_Actions(std::uint32_t seed) : random_(seed) {}
+  Random_Actions(std::uint32_t seed, const play::World& world) : random_(seed), windows_(random_, world) {}
 
   /// Sets the scene and starts the program.
   std::string First();
@@ -37,13 +38,13 @@ class Random_Actions {
   std::string Clock();
   std::string Disk();
   std::string Screen();
-  std::string Restart();
+  std::string Restart(bool healed);
   std::string Prepared_Answer();
-  std::string Setting();
   std::string Label();
   std::string Control();
 
   Random random_;
+  Window_Actions windows_;
 };
 
 }  // namespace monkey

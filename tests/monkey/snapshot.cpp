@@ -1,7 +1,8 @@
 #include "snapshot.h"
 
-#include <algorithm>
 #include <stdexcept>
+
+#include "packs/pack_values.h"
 
 namespace monkey {
 
@@ -9,28 +10,44 @@ namespace {
 
 using memory::Memory_Files;
 
-void Copy_File(Memory_Files& from, Memory_Files& to, const std::string& path) {
-  if (const auto bytes = from.Bytes(path)) to.Put(path, *bytes);
-  else if (from.Folder_Exists(path)) to.Block(path);
-}
+constexpr double parked = 9999;  // twips
 
-void Copy_Folder(Memory_Files& from, Memory_Files& to, const std::string& folder) {
-  if (!from.Folder_Exists(folder)) return;
+void Copy_Folder(const Memory_Files& from, Memory_Files& to, const std::string& folder) {
   to.Make_Folder(folder);
-  for (const std::string& name : from.File_Names(folder)) {
-    std::string path = folder;
-    Copy_File(from, to, path.append("\\").append(name));
+  for (const auto& listed : from.List(folder)) {
+    const std::string path = folder + "\\" + listed.Name;
+    if (listed.Is_Folder) Copy_Folder(from, to, path);
+    else to.Put(path, from.Bytes(path).value());
   }
 }
 
+/// The pack of the settings says of every month what it says of the present one: what a calendar that shows another month
+/// still looks like.
+void Keep_Present_Month_Of_Pack(const play::World& from, play::World& to) {
+  const std::string name = to.Platform.Store.Get("Meridex", "Settings", "Pack Name", "Default");
+  const std::string path = Memory_Files::Full_Path(name + "\\settings.ini");
+  const auto bytes = to.Platform.Files.Bytes(path);
+  if (!bytes) return;
+  const int month = basic::Civil_From_Serial(from.Platform.Time.Now().Day).Month;
+  std::string value;
+  try {
+    value = packs::Find_Month_Value(*bytes, month);
+  } catch (const basic::Run_Error&) {
+    return;  // as broken for every month
+  }
+  std::string lines;
+  for (int i = 1; i <= 12; ++i) lines += std::to_string(i) + "=" + value + "\r\n";
+  to.Platform.Files.Put(path, lines);
+}
+
 void Copy_World(play::World& from, play::World& to) {
-  Copy_File(from.Platform.Files, to.Platform.Files, Memory_Files::Full_Path("calendar.dat"));
-  Copy_Folder(from.Platform.Files, to.Platform.Files, Memory_Files::Full_Path("Default"));
+  Copy_Folder(from.Platform.Files, to.Platform.Files, from.Platform.Files.Program_Folder());
   for (const auto& value : from.Platform.Store.Values("Meridex"))
     to.Platform.Store.Save("Meridex", value.Section, value.Key, value.Text);
   const auto screen = from.Platform.Screen.Bounds();
   to.Platform.Screen.Set_Size(screen.Width, screen.Height);
   to.Platform.Screen.Set_Work_Area(from.Platform.Screen.Work_Area());
+  Keep_Present_Month_Of_Pack(from, to);
 }
 
 /// The present moment where the present month is on view, else noon of the first of the month on view.
@@ -74,6 +91,8 @@ Snapshot Snapshot_Of(const play::World& world) {
       box.caption = label->Caption;
       box.caption_tip = label->ToolTipText;
       box.caption_place = label->In_Twips();
+      // Out of the window's sight a caption keeps whatever size it had.
+      if (box.caption_place.Left >= parked) box.caption_place.Width = box.caption_place.Height = 0;
     }
   }
   return snapshot;

@@ -1,0 +1,90 @@
+#include "monkey.h"
+
+#include <cstdio>
+#include <exception>
+
+#include "failed.h"
+#include "text_form.h"
+
+namespace monkey {
+
+bool Monkey::Play(const Limit& limit) {
+  try {
+    Act(actions_.First());
+    while (!At_End(limit)) Act(actions_.Next(Present_Situation()));
+    Tell();
+    return true;
+  } catch (const std::exception& failure) {
+    Keep(failure.what());
+    return false;
+  }
+}
+
+bool Monkey::At_End(const Limit& limit) const {
+  return limit.micros > 0 ? Elapsed() >= limit.micros : acted_ >= limit.actions;
+}
+
+Situation Monkey::Present_Situation() {
+  const bool running = world_.State() != nullptr && world_.Find_Window("Main_Frm") != nullptr;
+  const auto tooltips = world_.Platform.Store.Get("Meridex", "Settings", "Tooltips", "1");
+  return {running, failed_, checks_.In_Trouble(), tooltips == "2", world_.Platform.Time.Now().Seconds()};
+}
+
+void Monkey::Act(const std::string& lines) {
+  log_ += lines + "\n";
+  ++acted_;
+  const auto commands = play::Read_Scenario(lines);
+  for (const auto& command : commands)
+    if (command.Name == "later") prepared_.insert(Elapsed() + play::To_Micros(command.Words.front()));
+  checks_.Before();
+  window_checks_.Before();
+  settings_checks_.Before();
+  watcher_.Before();
+  last_seen_ = See_Last(world_);
+  player_.Play(commands);
+  const Brought_Up brought = watcher_.After(Prepared_Has_Run());
+  Check_End(brought);
+  Check(lines, brought);
+}
+
+bool Monkey::Prepared_Has_Run() {
+  const auto still_to_come = prepared_.upper_bound(Elapsed());
+  const bool any = still_to_come != prepared_.begin();
+  prepared_.erase(prepared_.begin(), still_to_come);
+  return any;
+}
+
+void Monkey::Check_End(const Brought_Up& brought) {
+  if (brought.started) failed_ = false;
+  if (!brought.error) return;
+  failed_ = world_.Has_Ended();
+  const std::string cause = Cause_Of_End(world_, last_seen_, brought);
+  const std::string error = "error " + std::to_string(*brought.error);
+  if (cause.empty()) throw Failed("the program has ended by " + error + " without a cause");
+  ++ends_[error + ", " + cause];
+}
+
+void Monkey::Check(const std::string& lines, const Brought_Up& brought) {
+  checks_.After(lines, brought);
+  window_checks_.After(brought, lines);
+  settings_checks_.After(lines, brought, checks_.File_Is_Sound());
+}
+
+void Monkey::Tell() const {
+  std::printf("%d actions in %.2f hours of virtual time\n%s", acted_, static_cast<double>(Elapsed()) / 3.6e9,
+              watcher_.Told().c_str());
+  for (const auto& [cause, count] : ends_) std::printf("ended %d times by %s\n", count, cause.c_str());
+  std::printf("compared the boxes %d times with %d fresh starts, the stored values %d times, the overview %d times\n",
+              checks_.Compared(), checks_.Fresh_Starts(), settings_checks_.Applied(), settings_checks_.Listed());
+}
+
+void Monkey::Keep(const char* why) const {
+  const std::string name = "monkey_" + std::to_string(seed_) + ".scn";
+  std::fprintf(stderr, "seed %u, action %d: %s\nthe way there is in %s\n", seed_, acted_, why, name.c_str());
+  if (std::FILE* const file = std::fopen(name.c_str(), "wb")) {
+    std::fwrite(log_.data(), 1, log_.size(), file);
+    std::fclose(file);
+  }
+}
+
+}  // namespace monkey
