@@ -2,6 +2,7 @@
 // program's paths are Windows paths; the files of its folder lie in one folder of the disk.
 #pragma once
 
+#include "basic/text.h"
 #include "platform/files.h"
 
 namespace bench {
@@ -20,6 +21,7 @@ class Posix_Files final : public platform::Files {
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
   basic::Moment Last_Change(const std::string& path) override;
+  bool Same_Path(const std::string& a, const std::string& b) override { return basic::Same_Letters(a, b); }
   std::string Program_Folder() override { return "C:\\Meridex"; }
   std::string Program_Path() override { return "C:\\Meridex\\meridex.exe"; }
 

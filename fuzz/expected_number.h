@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "basic/text.h"
 #include "tests/basic/error_of.h"
 
 /// What a conversion comes to: an error, or a value where the error is 0.
@@ -43,3 +44,21 @@ inline Outcome Expected_Number(const std::string& text, long long lowest, long l
 
 inline Outcome Expected_Int16(const std::string& text) { return Expected_Number(text, -32768, 32767); }
 inline Outcome Expected_Int32(const std::string& text) { return Expected_Number(text, -2147483648LL, 2147483647LL); }
+
+/// Whether it is a decimal number, with a sign and a fraction or without.
+inline bool Is_Number(std::string text) {
+  text = Without_Outer_Blanks(text);
+  if (!text.empty() && (text[0] == '+' || text[0] == '-')) text.erase(0, 1);
+  const std::size_t point = text.find('.');
+  if (point != std::string::npos) text.erase(point, 1);
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+/// The texts "True" and "False", and numbers.
+inline Outcome Expected_Flag(const std::string& text) {
+  const std::string word = basic::Upper_Case(Without_Outer_Blanks(text));
+  if (word == "TRUE") return {0, 1};
+  if (word == "FALSE") return {0, 0};
+  if (!Is_Number(text)) return {13};
+  return {0, text.find_first_of("123456789") != std::string::npos ? 1 : 0};
+}

@@ -7,13 +7,14 @@
 #include <utility>
 #include <vector>
 
+#include "basic/convert.h"
 #include "basic/record_reader.h"
-#include "basic/text.h"
 #include "exchange/config.h"
 #include "fuzz/expect.h"
 #include "fuzz/expected_number.h"
 #include "memory/memory_store.h"
 #include "tests/basic/read_by_the_letter.h"
+#include "tests/exchange/config_lines.h"
 
 namespace {
 
@@ -61,11 +62,10 @@ const std::map<std::string, Row> rows = {
 };
 
 int Error_Of_Value(const std::string& value, Type kind) {
-  const std::string word = basic::Upper_Case(Without_Outer_Blanks(value));
   switch (kind) {
     case Type::Int16: return Expected_Int16(value).Error;
     case Type::Int32: return Expected_Int32(value).Error;
-    case Type::Truth: return word == "TRUE" || word == "FALSE" ? 0 : Expected_Int32(value).Error;
+    case Type::Truth: return Expected_Flag(value).Error;
     case Type::Text: break;
   }
   return 0;
@@ -102,7 +102,9 @@ int Import(const std::string& bytes, settings::Stored_Settings& stored) {
 }
 
 exchange::Shown_Values As_Shown(const settings::Settings& values) {
-  return {values, values.Style, values.Alignment, values.Menu_Colour_Source, values.Tooltips};
+  return {
+      values,         basic::To_Text(values.Timeout_Value), values.Style, values.Alignment, values.Menu_Colour_Source,
+      values.Tooltips};
 }
 
 void Expect_Store(const memory::Memory_Store& store, const Expected_Import& expected) {
@@ -121,17 +123,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   stored.Load_Settings();
   Expect(Import(bytes, stored) == expected.Error, "the import fails at the line where it must, and how");
   Expect_Store(store, expected);
-  const std::vector<std::string> lines = exchange::Config_Lines(As_Shown(stored.Values));
+  const std::vector<std::string> lines = Config_Lines(As_Shown(stored.Values));
   memory::Memory_Store other_store;
   settings::Stored_Settings other(other_store);
   other.Load_Settings();
   for (const std::string& line : lines)
     Expect(Error_Of([&] { exchange::Apply_Config_Line(line, other); }) == 0, "what goes out comes in");
-  Expect(exchange::Config_Lines(As_Shown(other.Values)) == lines, "what came in goes out the same");
+  Expect(Config_Lines(As_Shown(other.Values)) == lines, "what came in goes out the same");
   if (expected.Error == 0) {
     settings::Stored_Settings loaded(store);
     Expect(Error_Of([&] { loaded.Load_Settings(); }) == 0, "the store can be loaded");
-    Expect(exchange::Config_Lines(As_Shown(loaded.Values)) == lines, "and holds the same settings");
+    Expect(Config_Lines(As_Shown(loaded.Values)) == lines, "and holds the same settings");
   }
   return 0;
 }

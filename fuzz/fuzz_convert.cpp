@@ -7,20 +7,6 @@
 #include "fuzz/expect.h"
 #include "fuzz/expected_number.h"
 
-namespace {
-
-Outcome Expected_Flag(const std::string& text) {
-  std::string word = Without_Outer_Blanks(text);
-  for (char& letter : word)
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter | 0x20);
-  if (word == "true") return {0, 1};
-  if (word == "false") return {0, 0};
-  const Outcome number = Expected_Int32(text);
-  return {number.Error, number.Value != 0 ? 1 : 0};
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);
   const Outcome narrow = Outcome_Of([&] { return basic::To_Int16(text).Value(); });

@@ -14,16 +14,6 @@
 
 namespace {
 
-constexpr const char* digits = "0123456789";
-
-bool Is_Number(std::string text) {
-  text = Without_Outer_Blanks(text);
-  if (!text.empty() && (text[0] == '+' || text[0] == '-')) text.erase(0, 1);
-  const std::size_t point = text.find('.');
-  if (point != std::string::npos) text.erase(point, 1);
-  return !text.empty() && text.find_first_not_of(digits) == std::string::npos;
-}
-
 /// Of a number: its digits without a sign, the zeros before it, and a fraction of zeros.
 std::string Plain(std::string number) {
   number = Without_Outer_Blanks(number);

@@ -3,7 +3,7 @@
 # measured and how stands in docs/performance.md. The exit status is 1 if a goal isn't reached. The figures are worth
 # something on a machine that does nothing else.
 #
-# The groups: native, size, months, start, idle, screen, settings, jpeg. --quick measures fewer rounds and a shorter idling.
+# The groups: native, size, months, start, idle, screen, settings, import, jpeg. --quick measures fewer rounds and a shorter idling.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/lib/packages.sh"
@@ -13,6 +13,6 @@ cd "$root"
 need_packages build wine bench
 configure native-release
 configure windows-x64
-build native-release bench_month_change bench_tick bench_overview bench_month_print bench_first_map bench_click_time
+build native-release bench_month_change bench_tick bench_overview bench_exchange bench_month_print bench_first_map bench_click_time
 build windows-x64 meridex bench_month_change bench_gdi_count bench_jpeg floor_window
 exec python3 -B bench/run.py "$@" </dev/null

@@ -22,7 +22,7 @@ if [ -n "$quick" ]; then
   exec ctest --test-dir build/native --output-on-failure --no-tests=error -j "$(nproc)" -L 'unit|scenarios' "$@" </dev/null
 fi
 
-need_packages build wine lint
+need_packages build wine office lint
 configure native -DMERIDEX_WINE_TESTS=ON
 configure windows-x64 -DMERIDEX_WINE_TESTS=ON
 configure windows-x86

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Sourced: the Debian packages that building, testing and measuring need, installed when something is missing.
 #
-#   need_packages build wine      # groups: build, wine, lint, package, debian32, coverage, bench
+#   need_packages build wine      # groups: build, wine, office, lint, package, debian32, coverage, bench
 #
 # Where everything is there, nothing is installed and the network isn't touched.
 
@@ -11,6 +11,9 @@ packages_build=(cmake ninja-build g++ python3 googletest libgtest-dev binutils-m
 # shellcheck disable=SC2034
 packages_wine=(wine64 wine fonts-wine fonts-liberation xvfb xdotool imagemagick x11-utils x11-xkb-utils libfaketime locales python3
   binutils util-linux procps)
+# A spreadsheet without windows, for the tests of what goes out and comes in.
+# shellcheck disable=SC2034
+packages_office=(libreoffice-calc-nogui)
 # shellcheck disable=SC2034
 packages_lint=(clang-format clang-tidy clang libclang-rt-14-dev)
 # shellcheck disable=SC2034

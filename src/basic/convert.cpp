@@ -1,5 +1,6 @@
 #include "basic/convert.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -27,6 +28,13 @@ std::int64_t Number_Of_Digits(std::string_view text) {
   return negative ? -number : number;
 }
 
+/// Cuts the digits off the start of a text and returns them.
+std::string_view Take_Digits(std::string_view& text) {
+  const std::string_view taken = text.substr(0, text.find_first_not_of("0123456789"));
+  text.remove_prefix(taken.size());
+  return taken;
+}
+
 }  // namespace
 
 Int16 To_Int16(std::string_view text) { return Number_Of_Digits(text); }
@@ -38,11 +46,29 @@ std::int32_t To_Int32(std::string_view text) {
   return static_cast<std::int32_t>(number);
 }
 
+Decimal Read_Decimal(std::string_view text) {
+  text = Trim_Blanks(text);
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  std::string_view whole = Take_Digits(text);
+  std::string_view fraction;
+  bool any_digit = !whole.empty();
+  if (text.starts_with('.')) {
+    text.remove_prefix(1);
+    fraction = Take_Digits(text);
+    any_digit = any_digit || !fraction.empty();
+  }
+  if (!text.empty() || !any_digit) throw Run_Error(Error_Number::Type_Mismatch);
+  whole.remove_prefix(std::min(whole.find_first_not_of('0'), whole.size()));
+  fraction = fraction.substr(0, fraction.find_last_not_of('0') + 1);
+  return {negative, whole, fraction};
+}
+
 bool To_Boolean(std::string_view text) {
   const std::string_view word = Trim_Blanks(text);
   if (Same_Letters(word, "true")) return true;
   if (Same_Letters(word, "false")) return false;
-  return To_Int32(word) != 0;
+  return !Read_Decimal(word).Is_Zero();
 }
 
 std::string To_Text(std::int32_t number) {

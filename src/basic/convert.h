@@ -14,8 +14,19 @@ namespace basic {
 Int16 To_Int16(std::string_view text);
 std::int32_t To_Int32(std::string_view text);
 
-/// Reads "True" or "False" in any letter case, or a whole number: 0 is false, any other is true. Throws error 13 for
-/// any other text and error 6 for a number outside 32 bits.
+/// A decimal number of any size, with an optional sign and fraction, taken apart.
+struct Decimal {
+  bool Negative;
+  std::string_view Whole, Fraction;  ///< digits without zeros in front of the one and behind the other; lie in the text
+
+  [[nodiscard]] bool Is_Zero() const { return Whole.empty() && Fraction.empty(); }
+};
+
+/// Throws error 13 if the text isn't such a number; blanks around it are ignored.
+Decimal Read_Decimal(std::string_view text);
+
+/// Reads "True" or "False" in any letter case, or a number, as above: 0 is false, any other is true. Throws error 13 for any
+/// other text.
 bool To_Boolean(std::string_view text);
 
 std::string To_Text(std::int32_t number);

@@ -41,8 +41,7 @@ std::string TranslateFilter(std::string_view filter) {
 }
 
 OpenSaveDialog::OpenSaveDialog(toolkit::Form& window, std::string name, platform::File_Dialog& dialogs)
-    : Control(window, std::move(name)), dialogs_(dialogs) {
-  Visible = false;
+    : Dialog_Owner(window, std::move(name)), dialogs_(dialogs) {
   Place({0, 0, size_in_twips, size_in_twips});
 }
 
@@ -57,20 +56,21 @@ void OpenSaveDialog::ShowOpen() { Show(Kind::Open); }
 void OpenSaveDialog::ShowSave() { Show(Kind::Save); }
 
 void OpenSaveDialog::Show(Kind kind) {
-  if (!Filter.empty() && FilterIndex == 0) FilterIndex = 1;
   platform::File_Dialog_Record record = Make_Record(kind);
+  if (!Filter.empty() && FilterIndex == 0) FilterIndex = 1;
+  record.Filter_Index = static_cast<std::uint32_t>(FilterIndex.Value());
   const bool chosen = kind == Kind::Open ? dialogs_.Show_Open(record) : dialogs_.Show_Save(record);
   if (chosen) Take_Result(record, kind);
   else if (CancelError) throw Cancel_Error();
 }
 
+/// All but the number of the file type.
 platform::File_Dialog_Record OpenSaveDialog::Make_Record(Kind kind) const {
   platform::File_Dialog_Record record;
-  record.Owner = Window.Handle();
+  record.Owner = Handle();
   record.Title = DialogTitle;
   record.Initial_Folder = InitDir;
   if (!Filter.empty()) record.Filter = TranslateFilter(Filter);
-  record.Filter_Index = static_cast<std::uint32_t>(FilterIndex.Value());
   record.Flags = static_cast<std::uint32_t>(Flags);
   const bool several = kind == Kind::Open && (record.Flags & flag_of_several_files) != 0;
   record.File.resize(several ? room_for_several : room_for_a_path);

@@ -9,7 +9,7 @@
 #include "basic/run_error.h"
 #include "dialogs/property_bag.h"
 #include "platform/file_dialog.h"
-#include "toolkit/form.h"
+#include "toolkit/dialog_owner.h"
 
 namespace dialogs {
 
@@ -28,7 +28,7 @@ std::string TrimNull(const std::string& text);
 /// The "|" of a filter become NULs, and two more end it.
 std::string TranslateFilter(std::string_view filter);
 
-class OpenSaveDialog : public toolkit::Control {
+class OpenSaveDialog : public toolkit::Dialog_Owner {
  public:
   OpenSaveDialog(toolkit::Form& window, std::string name, platform::File_Dialog& dialogs);
 

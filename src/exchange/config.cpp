@@ -15,7 +15,7 @@ constexpr File_Kind config_out = {"Export Configuration File", config_filter, ".
 constexpr File_Kind config_in = {"Import Configuration File", config_filter};
 
 /// In the order of the file, in which one stands twice.
-const settings::Member order[] = {
+const settings::Member order[config_lines] = {
     &Settings::Style,
     &Settings::Alignment,
     &Settings::Today,
@@ -50,18 +50,6 @@ const settings::Member order[] = {
     &Settings::Tooltips,
 };
 
-/// A truth value is a number in the file.
-struct Value_Text {
-  const Settings& values;
-
-  std::string operator()(std::string Settings::*variable) const { return values.*variable; }
-  std::string operator()(bool Settings::*variable) const { return values.*variable ? "1" : "0"; }
-  template <class Number>
-  std::string operator()(Number Settings::*variable) const {
-    return basic::To_Text(values.*variable);
-  }
-};
-
 /// The groups of options share one number, in the order of their lines: a group of which none is on has that of the group
 /// before, the first one 0.
 Settings With_Options(const Shown_Values& shown) {
@@ -73,14 +61,24 @@ Settings With_Options(const Shown_Values& shown) {
   return values;
 }
 
+/// A truth value is a number in the file, and the idle time what its list shows.
+struct Value_Text {
+  const Shown_Values& shown;
+  const Settings values = With_Options(shown);
+
+  std::string operator()(std::string Settings::*variable) const { return values.*variable; }
+  std::string operator()(bool Settings::*variable) const { return values.*variable ? "1" : "0"; }
+  std::string operator()(basic::Int16 Settings::*variable) const {
+    return variable == &Settings::Timeout_Value ? shown.Idle_Time : basic::To_Text(values.*variable);
+  }
+  std::string operator()(std::int32_t Settings::*variable) const { return basic::To_Text(values.*variable); }
+};
+
 }  // namespace
 
-std::vector<std::string> Config_Lines(const Shown_Values& shown) {
-  const Settings values = With_Options(shown);
-  std::vector<std::string> lines;
-  for (const settings::Member& variable : order)
-    lines.push_back(settings::Key_Of(variable).Config_Name + ("=" + std::visit(Value_Text{values}, variable)));
-  return lines;
+std::string Config_Line(const Shown_Values& shown, int number) {
+  const settings::Member& variable = order[number];
+  return settings::Key_Of(variable).Config_Name + ("=" + std::visit(Value_Text{shown}, variable));
 }
 
 void Apply_Config_Line(std::string_view line, settings::Stored_Settings& stored) {
@@ -103,7 +101,8 @@ void Config::Write_Lines() {
   basic::File_Channel& channel = transfer_.Channel;
   channel.Open_For_Writing(transfer_.Dialog1.FileName);
   const Written_At_Last rows(channel);
-  for (const std::string& line : Config_Lines(window_.Shown())) channel.Write_Record(line);
+  const Shown_Values shown = window_.Shown();
+  for (int i = 0; i < config_lines; ++i) channel.Write_Record(Config_Line(shown, i));
   channel.Close();
 }
 

@@ -8,8 +8,10 @@
 
 namespace exchange {
 
-/// The lines of the file as they follow on each other, each a `key=value`.
-std::vector<std::string> Config_Lines(const Shown_Values& shown);
+constexpr int config_lines = 32;
+
+/// A line of the file, a `key=value`; the first one is number 0.
+std::string Config_Line(const Shown_Values& shown, int number);
 
 /// Stores what one such line tells, and sets it in the program; an unknown key is passed over. Throws error 5 without a
 /// "=", and error 6 or 13 for a value that the setting can't take; it is in the store by then.

@@ -60,7 +60,9 @@ void Data_Files::Write_Text() {
 void Data_Files::Import_Data() {
   try {
     if (!transfer_.Choose_Input(data_in, event_file_.Path())) return;
-    if (!event_file_.Exists() || Replacing_Is_Meant()) transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path());
+    const bool meant = !event_file_.Exists() || Replacing_Is_Meant();
+    if (!transfer_.Window.Loaded()) return;
+    if (meant) transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path());
     desk_.Rebuild_Boxes();
     // Said of a refusal too.
     transfer_.Tell_With_File("Successfully imported data file from...");

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "basic/convert.h"
 #include "basic/text.h"
 #include "events/event_line.h"
 
@@ -11,6 +12,11 @@ namespace {
 
 constexpr std::string_view around_a_record = "\"\"\r\n";
 constexpr std::string_view between_texts = " + ";
+
+/// The day of the date in every year. The year may have fewer than four digits.
+std::string In_Every_Year(const std::string& date_key) {
+  return date_key.substr(0, date_key.rfind('/') + 1) + basic::To_Text(events::every_year);
+}
 
 }  // namespace
 
@@ -30,7 +36,7 @@ void Line_Merge::Note_Key(int line) {
 /// The line, or `none`.
 int Line_Merge::First_Line_Of(const std::string& date_key) const {
   int first = none;
-  for (const std::string& key : {date_key, events::Every_Year_Form(date_key)}) {
+  for (const std::string& key : {date_key, In_Every_Year(date_key)}) {
     const auto found = first_of_key_.find(key);
     if (found != first_of_key_.end()) first = std::min(first, found->second);
   }

@@ -27,26 +27,28 @@ void Transfer::Prepare_Dialog(const File_Kind& kind) {
 }
 
 bool Transfer::Choose_Output(const File_Kind& kind) {
-  do {
+  while (Window.Loaded()) {
     Prepare_Dialog(kind);
     Dialog1.ShowSave();
     if (Dialog1.FileName.empty() || !Window.Loaded()) return false;
     if (Check_Extension(kind.Extension)) Dialog1.FileName += kind.Extension;
     if (!Files.File_Exists(Dialog1.FileName)) return true;
-  } while (Ask("Overwrite existing file?", Box_Icon::Question, Box_Buttons::Yes_No) != Box_Answer::Yes);
-  return Window.Loaded();
+    if (Ask("Overwrite existing file?", Box_Icon::Question, Box_Buttons::Yes_No) == Box_Answer::Yes)
+      return Window.Loaded();
+  }
+  return false;
 }
 
-bool Transfer::Choose_Input(const File_Kind& kind, std::string_view own_file) {
-  while (true) {
+bool Transfer::Choose_Input(const File_Kind& kind, const std::string& own_file) {
+  while (Window.Loaded()) {
     Prepare_Dialog(kind);
     Dialog1.ShowOpen();
     if (Dialog1.FileName.empty() || !Window.Loaded()) return false;
     if (!Files.File_Exists(Dialog1.FileName)) Warn("File doesn't exist!");
-    else if (basic::Same_Letters(Dialog1.FileName, own_file))
-      Warn("You can't import the data file your currently using!");
+    else if (Files.Same_Path(Dialog1.FileName, own_file)) Warn("You can't import the data file your currently using!");
     else return true;
   }
+  return false;
 }
 
 bool Transfer::Check_Extension(std::string_view extension) const {

@@ -32,7 +32,7 @@ class Transfer {
   /// user has cancelled, or the window has gone meanwhile.
   bool Choose_Output(const File_Kind& kind);
   /// `own_file`: the path of a file that is refused.
-  bool Choose_Input(const File_Kind& kind, std::string_view own_file = {});
+  bool Choose_Input(const File_Kind& kind, const std::string& own_file = {});
 
   /// Whether FileName lacks the extension.
   [[nodiscard]] bool Check_Extension(std::string_view extension) const;

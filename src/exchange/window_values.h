@@ -8,8 +8,10 @@
 namespace exchange {
 
 struct Shown_Values {
-  /// All but the four below.
+  /// All but those below.
   settings::Settings Values{};
+
+  std::string Idle_Time;  ///< as its list shows it
 
   /// What the options that are on stand for; nothing where none of a group is on.
   std::optional<basic::Int16> Style, Position, Title_Row_Source, Tips;

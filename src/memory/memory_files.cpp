@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "memory/letter_case.h"
-
 namespace memory {
 
 namespace {
@@ -27,13 +25,25 @@ std::string Tidy(std::string_view path) {
   return result;
 }
 
-std::string Key_Of(std::string_view path) { return Folded(Tidy(path)); }
-
 /// The folder above, without a backslash at its end; empty above a drive.
 std::string_view Above(std::string_view tidy_path) {
   const std::size_t end = tidy_path.rfind('\\');
   return end == std::string_view::npos ? std::string_view() : tidy_path.substr(0, end);
 }
+
+/// The path without "." and "..". Windows reads them so whether the folder before a ".." is there or not.
+std::string Without_Dots(std::string_view tidy_path) {
+  std::string result;
+  while (!tidy_path.empty()) {
+    const std::string_view name = tidy_path.substr(0, tidy_path.find('\\'));
+    tidy_path.remove_prefix(std::min(name.size() + 1, tidy_path.size()));
+    if (name == "..") result.resize(std::max(Above(result).size(), result.find(':') + 1));
+    else if (name != ".") result.append(result.empty() ? "" : "\\").append(name);
+  }
+  return result;
+}
+
+std::string Key_Of(std::string_view path) { return Folded(Without_Dots(Tidy(path))); }
 
 std::string_view Last_Name(std::string_view tidy_path) { return tidy_path.substr(tidy_path.rfind('\\') + 1); }
 
@@ -109,9 +119,9 @@ void Memory_Files::Read_Whole(const std::string& path, std::string& buffer) {
 }
 
 Memory_Files::Entry& Memory_Files::Make_File(const std::string& path) {
-  const std::string tidy = Tidy(path);
-  Entry& file = entries_[Folded(tidy)];
-  if (file.Name.empty()) file.Name = Last_Name(tidy);
+  const std::string plain = Without_Dots(Tidy(path));
+  Entry& file = entries_[Folded(plain)];
+  if (file.Name.empty()) file.Name = Last_Name(plain);
   file.Bytes.clear();
   file.Changed = time_.Now();
   return file;
@@ -206,14 +216,14 @@ basic::Moment Memory_Files::Last_Change(const std::string& path) {
 }
 
 void Memory_Files::Make_Folder(const std::string& path) {
-  const std::string tidy = Tidy(path);
-  if (tidy.empty()) return;
-  const Entry* const there = Find(tidy);
+  const std::string plain = Without_Dots(Tidy(path));
+  if (plain.empty()) return;
+  const Entry* const there = Find(plain);
   if (there != nullptr && !there->Is_Folder) throw Run_Error(Error_Number::Path_File_Access);
   if (there != nullptr) return;
-  Make_Folder(std::string(Above(tidy)));
-  Entry& folder = entries_[Folded(tidy)];
-  folder.Name = Last_Name(tidy);
+  Make_Folder(std::string(Above(plain)));
+  Entry& folder = entries_[Folded(plain)];
+  folder.Name = Last_Name(plain);
   folder.Is_Folder = true;
   folder.Changed = time_.Now();
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "memory/letter_case.h"
 #include "memory/virtual_time.h"
 #include "platform/files.h"
 
@@ -27,6 +28,7 @@ class Memory_Files : public platform::Files {
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
   basic::Moment Last_Change(const std::string& path) override;
+  bool Same_Path(const std::string& a, const std::string& b) override { return Same_Name(a, b); }
   std::string Program_Folder() override;
   std::string Program_Path() override;
 

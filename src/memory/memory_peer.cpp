@@ -37,6 +37,14 @@ bool Memory_Peer::Has(const toolkit::Control& control) const {
   return std::find(controls.begin(), controls.end(), &control) != controls.end();
 }
 
+/// The window's own with the control's number above it.
+platform::Window_Handle Memory_Peer::Handle_Of(const toolkit::Control& control) const {
+  constexpr platform::Window_Handle beyond_windows = 0x1000000;
+  const auto& controls = form_.Controls();
+  const auto place = std::find(controls.begin(), controls.end(), &control) - controls.begin();
+  return handle_ + beyond_windows * static_cast<platform::Window_Handle>(place + 1);
+}
+
 void Memory_Peer::Control_Changed(toolkit::Control& control, toolkit::Aspect /*aspect*/) {
   if (&control.Window != &form_) throw std::logic_error("a change of a control of another window");
   ++counts_.Control_Changes;

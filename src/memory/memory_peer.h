@@ -38,6 +38,7 @@ class Memory_Peer : public toolkit::Form_Peer, public Memory_Window {
   void Capture_Mouse() override;
   void Release_Mouse() override;
   [[nodiscard]] platform::Window_Handle Handle() const override { return handle_; }
+  [[nodiscard]] platform::Window_Handle Handle_Of(const toolkit::Control& control) const override;
 
   [[nodiscard]] toolkit::Form& Form() const override { return form_; }
   [[nodiscard]] const std::optional<toolkit::Region>& Region() const override { return region_; }

@@ -8,33 +8,12 @@ namespace packs {
 
 namespace {
 
-constexpr std::string_view digits = "0123456789";
-
-/// Cuts the digits off the start of a text and returns them.
-std::string_view Take_Digits(std::string_view& text) {
-  const std::string_view taken = text.substr(0, text.find_first_not_of(digits));
-  text.remove_prefix(taken.size());
-  return taken;
-}
-
-bool All_Zero(std::string_view some_digits) { return some_digits.find_first_not_of('0') == std::string_view::npos; }
-
 /// Returns true if the text is the number of the month. Throws error 13 if it isn't a number.
 bool Is_Month(std::string_view text, basic::Int16 month) {
-  text = basic::Trim_Blanks(text);
-  const bool negative = text.starts_with('-');
-  if (negative || text.starts_with('+')) text.remove_prefix(1);
-  std::string_view whole = Take_Digits(text);
-  std::string_view fraction;
-  if (text.starts_with('.')) {
-    text.remove_prefix(1);
-    fraction = Take_Digits(text);
-  }
-  if (!text.empty() || (whole.empty() && fraction.empty())) throw basic::Run_Error(basic::Error_Number::Type_Mismatch);
-  whole.remove_prefix(All_Zero(whole) ? whole.size() : whole.find_first_not_of('0'));
-  if (!All_Zero(fraction)) return false;
+  const basic::Decimal number = basic::Read_Decimal(text);
+  if (!number.Fraction.empty()) return false;
   const std::string wanted = basic::To_Text(month);
-  return whole.empty() ? wanted == "0" : (negative ? "-" : "") + std::string(whole) == wanted;
+  return number.Whole.empty() ? wanted == "0" : (number.Negative ? "-" : "") + std::string(number.Whole) == wanted;
 }
 
 }  // namespace

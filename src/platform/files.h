@@ -34,6 +34,10 @@ class Files : public basic::Disk {
   /// The local time of a file's last change. Throws error 53 if it isn't there.
   virtual basic::Moment Last_Change(const std::string& path) = 0;
 
+  /// Whether two paths are the same text but for the case of letters. A path that leads to the same file another way isn't
+  /// known.
+  virtual bool Same_Path(const std::string& a, const std::string& b) = 0;
+
   /// The folder of the executable, without a backslash at its end.
   virtual std::string Program_Folder() = 0;
 

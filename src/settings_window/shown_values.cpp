@@ -1,5 +1,4 @@
 // What the controls of the settings window show at this moment, for the configuration file.
-#include "basic/convert.h"
 #include "settings_window/settings_frm.h"
 
 namespace settings_window {
@@ -27,7 +26,6 @@ void Take_General(const General_Tab& tab, Settings& values) {
   values.Auto_Compact = tab.Auto_Compact_Chk.Value();
   values.Show_Splash = tab.Splash_Chk.Value();
   values.Trans_Icons = tab.Trans_Icons_Chk.Value();
-  values.Timeout_Value = basic::To_Int16(tab.Timeout_Value_Cbo.Text());
   values.Timeout_Format = tab.Timeout_Format_Cbo.ListIndex();
   values.Carriage_Return = tab.Carriage_Return_Chk.Value();
 }
@@ -49,6 +47,7 @@ exchange::Shown_Values Settings_Frm::Shown() const {
   shown.Values = stored_.Values;
   Take_Colours(Colours, shown.Values);
   Take_General(General, shown.Values);
+  shown.Idle_Time = General.Timeout_Value_Cbo.Text();
   Take_Packs(Packs_Page, Style, shown.Values);
   constexpr int none = -1;
   if (const basic::Int16 style = Style.Chosen_Style(none); style != none) shown.Style = style;

@@ -61,6 +61,9 @@ class Form_Peer {
   virtual void Release_Mouse() = 0;
 
   [[nodiscard]] virtual platform::Window_Handle Handle() const = 0;
+
+  /// The window of a control of the window that is one of the system's own.
+  [[nodiscard]] virtual platform::Window_Handle Handle_Of(const Control& control) const = 0;
 };
 
 /// A font as it is asked for.

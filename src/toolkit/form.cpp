@@ -130,6 +130,10 @@ void Form::Set_Focus(Control& control) {
 
 platform::Window_Handle Form::Handle() const { return peer_ != nullptr ? peer_->Handle() : 0; }
 
+platform::Window_Handle Form::Handle_Of(const Control& control) const {
+  return peer_ != nullptr ? peer_->Handle_Of(control) : 0;
+}
+
 Font Form::Own_Font() const { return {FontName, FontSize, FontBold, FontItalic, FontUnderline}; }
 
 double Form::Text_Width(std::string_view text) const { return backend_.Text_Width(Own_Font(), text); }

@@ -75,6 +75,8 @@ class Form : public Property_Owner, public Font_Properties {
   /// control of another window.
   void Set_Focus(Control& control);
   [[nodiscard]] platform::Window_Handle Handle() const;
+  /// The same of a control that has a window of its own.
+  [[nodiscard]] platform::Window_Handle Handle_Of(const Control& control) const;
 
   /// The measure of a text in the window's own font, in twips.
   [[nodiscard]] double Text_Width(std::string_view text) const;

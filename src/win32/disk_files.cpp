@@ -137,6 +137,13 @@ void Disk_Files::Copy(const std::string& from, const std::string& to) {
   Throw_File_Error();
 }
 
+bool Disk_Files::Same_Path(const std::string& a, const std::string& b) {
+  std::string lower_a = a, lower_b = b;
+  CharLowerA(lower_a.data());
+  CharLowerA(lower_b.data());
+  return lower_a == lower_b;
+}
+
 basic::Moment Disk_Files::Last_Change(const std::string& path) { return Moment_Of_Last_Change(path); }
 
 }  // namespace win32

@@ -18,6 +18,7 @@ class Disk_Files final : public platform::Files {
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
   basic::Moment Last_Change(const std::string& path) override;
+  bool Same_Path(const std::string& a, const std::string& b) override;
   std::string Program_Folder() override { return folder_; }
   std::string Program_Path() override { return path_; }
 

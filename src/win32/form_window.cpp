@@ -245,6 +245,11 @@ Native_Control* Form_Window::Native(const toolkit::Control& control) const {
   return found == natives_.end() ? nullptr : found->get();
 }
 
+platform::Window_Handle Form_Window::Handle_Of(const toolkit::Control& control) const {
+  const Native_Control* const native = Native(control);
+  return native == nullptr ? 0 : To_Handle(native->Window());
+}
+
 Native_Control* Form_Window::Native(HWND window) const {
   const auto found =
       std::find_if(natives_.begin(), natives_.end(), [&](const auto& native) { return native->Window() == window; });

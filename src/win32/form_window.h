@@ -43,6 +43,7 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Capture_Mouse() override { SetCapture(Window()); }
   void Release_Mouse() override;
   [[nodiscard]] platform::Window_Handle Handle() const override { return To_Handle(Window()); }
+  [[nodiscard]] platform::Window_Handle Handle_Of(const toolkit::Control& control) const override;
 
   [[nodiscard]] HWND Window() const override { return window_.Get(); }
   [[nodiscard]] toolkit::Form& Form() const override { return form_; }

@@ -1,4 +1,5 @@
 // Which of the system's controls a control of the toolkit is.
+#include "toolkit/dialog_owner.h"
 #include "win32/native_buttons.h"
 #include "win32/native_lists.h"
 #include "win32/native_slider.h"
@@ -8,6 +9,18 @@
 namespace win32 {
 
 namespace {
+
+/// A window that is never shown.
+class Native_Dialog_Owner final : public Native_Control {
+ public:
+  Native_Dialog_Owner(HWND parent, toolkit::Dialog_Owner& control, Window_Context& context)
+      : Native_Control(parent, control, context) {
+    Make({"STATIC", 0, 0});
+  }
+
+ private:
+  void Show(toolkit::Aspect /*aspect*/) override {}
+};
 
 /// A `Native` if the control is of that kind.
 template <class Native, class Kind>
@@ -28,7 +41,8 @@ std::unique_ptr<Native_Control> Make_Native_Control(HWND parent, toolkit::Contro
                     Make<Native_List_Box, toolkit::List_Box>(made, parent, control, context) ||
                     Make<Native_Combo_Box, toolkit::Combo_Box>(made, parent, control, context) ||
                     Make<Native_Slider, toolkit::Slider>(made, parent, control, context) ||
-                    Make<Native_Tab_Strip, toolkit::Tab_Strip>(made, parent, control, context));
+                    Make<Native_Tab_Strip, toolkit::Tab_Strip>(made, parent, control, context) ||
+                    Make<Native_Dialog_Owner, toolkit::Dialog_Owner>(made, parent, control, context));
   return made;
 }
 

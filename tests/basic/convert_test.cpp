@@ -9,6 +9,7 @@
 #include "tests/basic/error_of.h"
 
 using basic::Int16;
+using basic::Read_Decimal;
 using basic::To_Boolean;
 using basic::To_Int16;
 using basic::To_Int32;
@@ -35,7 +36,7 @@ bool Is_Digit(int code) { return code >= '0' && code <= '9'; }
 // Texts that are no number for any type.
 constexpr std::string_view no_numbers[] = {
     "",     " ",     "    ",  "-",   "+",     "--1",       "++1",         "+-1",
-    "- 1",  "+ 1",   "1-",    "1 2", "1.5",   "1,5",       "1e3",         "0x10",
+    "- 1",  "+ 1",   "1-",    "1 2", ".",     "1,5",       "1e3",         "0x10",
     "&H10", "one",   "12a",   "a12", "\t1",   "1\t",       "1\r\n",       "\n1",
     "\xA0", "1\xA0", "\"1\"", "1/2", "True1", "00000000x", "9999999999x", "99999999999999999999x"};
 
@@ -76,6 +77,10 @@ TEST(To_Int16, Throws_overflow_outside_its_range) {
 
 TEST(To_Int16, Throws_type_mismatch_for_what_is_no_number) {
   for (const std::string_view text : no_numbers) EXPECT_EQ(Error_Of_Int16(text), 13) << text;
+}
+
+TEST(To_Int16, Throws_type_mismatch_for_a_fraction) {
+  for (const std::string_view text : {"1.5", "1.0", "1.", ".5"}) EXPECT_EQ(Error_Of_Int16(text), 13) << text;
 }
 
 TEST(To_Int16, Throws_type_mismatch_even_behind_an_overflow) {
@@ -147,6 +152,14 @@ TEST(To_Boolean, Takes_a_number_of_which_zero_alone_is_false) {
   for (const std::string_view text : {"0", "-0", "+0", "000", " 0 "}) EXPECT_FALSE(To_Boolean(text)) << text;
 }
 
+TEST(To_Boolean, Takes_a_number_of_any_size_and_with_a_fraction) {
+  for (const std::string_view text : {"2147483648", "-2147483649", "4294967296", "18446744073709551616", "0.5", "-.001",
+                                      "1.", "1.5", " 10.0 ", "0.000000000000000000000000000000000000000000000001"})
+    EXPECT_TRUE(To_Boolean(text)) << text;
+  EXPECT_TRUE(To_Boolean("1" + std::string(100000, '0')));
+  for (const std::string_view text : {"0.0", ".0", "0.", "-0.00", "+000.000"}) EXPECT_FALSE(To_Boolean(text)) << text;
+}
+
 TEST(To_Boolean, Throws_type_mismatch_for_other_texts) {
   for (const std::string_view text : no_numbers) EXPECT_EQ(Error_Of_Boolean(text), 13) << text;
   for (const std::string_view text : {"Tru", "Truee", "T", "yes", "no", "on", "TrueFalse", "F alse"})
@@ -154,10 +167,17 @@ TEST(To_Boolean, Throws_type_mismatch_for_other_texts) {
   EXPECT_EQ(Error_Of_Boolean(std::string_view("True\0", 5)), 13);
 }
 
-TEST(To_Boolean, Throws_overflow_for_a_number_outside_32_bits) {
-  EXPECT_EQ(Error_Of_Boolean("2147483648"), 6);
-  EXPECT_EQ(Error_Of_Boolean("-2147483649"), 6);
-  EXPECT_EQ(Error_Of_Boolean("4294967296"), 6);
+TEST(Read_Decimal, Takes_a_number_apart) {
+  const basic::Decimal number = Read_Decimal(" -0012.3400 ");
+  EXPECT_TRUE(number.Negative);
+  EXPECT_EQ(number.Whole, "12");
+  EXPECT_EQ(number.Fraction, "34");
+  EXPECT_FALSE(number.Is_Zero());
+  EXPECT_EQ(Read_Decimal("100").Whole, "100");
+  EXPECT_EQ(Read_Decimal(".05").Fraction, "05");
+  EXPECT_TRUE(Read_Decimal("-0.0").Is_Zero());
+  for (const std::string_view text : {"1.2.3", "1..", "-.", "+", "1 .5", "1. 5", ".-5", "1.5x", "1.5e3"})
+    EXPECT_EQ(Error_Of([=] { Read_Decimal(text); }), 13) << text;
 }
 
 TEST(To_Text, Writes_numbers_without_blanks_or_leading_zeros) {

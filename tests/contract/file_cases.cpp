@@ -142,9 +142,22 @@ TEST_F(File_Cases, What_cannot_be_copied_is_an_error) {
   EXPECT_EQ(copy(In_Case("file"), Path("None\\target")), 76);
   EXPECT_EQ(copy(In_Case("file"), Path("Case")), 75);
   EXPECT_EQ(copy(In_Case("file"), In_Case("FILE")), 70);
+  EXPECT_EQ(copy(Path("Case\\..\\Case\\file"), In_Case("file")), 70);
+  EXPECT_EQ(copy(Path("None\\..\\Case\\file"), In_Case("file")), 70);
   const auto output = Files.Create(In_Case("target"));
   EXPECT_EQ(copy(In_Case("file"), In_Case("target")), 70);
   EXPECT_EQ(Read("file"), "x");
+}
+
+TEST_F(File_Cases, Paths_are_the_same_without_regard_to_case) {
+  EXPECT_TRUE(
+      Files.Same_Path("C:\\B\xFC"
+                      "cher\\calendar.dat",
+                      "c:\\B\xDC"
+                      "CHER\\Calendar.DAT"));
+  EXPECT_TRUE(Files.Same_Path("", ""));
+  EXPECT_FALSE(Files.Same_Path("C:\\a", "C:\\a "));
+  EXPECT_FALSE(Files.Same_Path("C:\\b\\..\\a", "C:\\a")) << "the same file another way";
 }
 
 TEST_F(File_Cases, The_files_of_a_folder_are_listed_without_regard_to_case_and_without_folders) {

@@ -1,22 +1,19 @@
 """Imports and exports through the system's own dialogs, driven by the keys, and CSV files as other programs read and write
-them. Where LibreOffice isn't installed Python's csv module alone judges them."""
+them: Python's csv module, and the spreadsheet of LibreOffice."""
 import csv
 import io
-import shutil
 import subprocess
 import tempfile
 
+from harness import exchange
 from harness.desktop import Desktop_Test
 from harness.hands import wait_for_file
-from harness.settings import BUTTON, Settings_Window
 from harness.waiting import wait_for
 
-EXPORT_TAB = 7
 HEADINGS = ["Subject", "Start Date", "Description", "Start Time", "End Date", "End Time"]
 MIDNIGHT = "12:00:00 AM"
 CODE_PAGE = "cp1252"
 
-OFFICE = shutil.which("soffice") or shutil.which("libreoffice")
 # Comma, double quote, code page 1252, from the first line on; then the columns' formats; all texts in quotes.
 ALL_TEXT = "/".join(f"{column}/2" for column in range(1, 7))
 READ_AS_TEXT = f"CSV:44,34,1,1,{ALL_TEXT}"
@@ -33,25 +30,10 @@ def cells(data):
 
 class Exchange_Test(Desktop_Test):
     def opened(self, **world):
-        desktop = self.desktop(settings={"Alignment": 6, "Show Alerts": 0, "Settings Tab": EXPORT_TAB}, **world)
+        desktop = self.desktop(settings=exchange.SETTINGS, **world)
         desktop.started()
-        self.window = Settings_Window(desktop).open()
+        self.tab = exchange.Exchange(desktop)
         return desktop
-
-    def press(self, desktop, caption):
-        buttons = [child for child in self.window.natives(BUTTON) if child["text"] == caption]
-        left, top, right, bottom = buttons[0]["rect"]
-        desktop.screen.click((left + right) // 2, (top + bottom) // 2)
-
-    def name_file(self, desktop, title, path):
-        """Types a path into the open dialog, in which the field of the name has the focus, and agrees."""
-        desktop.find_window(title)
-        wait_for(lambda: any(window["text"] == title and window["active"] for window in desktop.probe()),
-                 "the dialog to be active")
-        desktop.screen.picture_at_rest()
-        desktop.screen.type(path)
-        desktop.screen.key("Return")
-        desktop.window_gone(title)
 
     def told(self, desktop, beginning):
         box = desktop.message_box()
@@ -60,14 +42,10 @@ class Exchange_Test(Desktop_Test):
         return box.text
 
     def export(self, desktop, name="out.csv"):
-        self.press(desktop, "to CSV File")
-        self.name_file(desktop, "Export Events as CSV File", f"C:\\Meridex\\{name}")
+        self.tab.press("to CSV File")
+        self.tab.name_file("Export Events as CSV File", f"C:\\Meridex\\{name}")
         self.told(desktop, "Successfully exported")
         return (desktop.folder / name).read_bytes()
-
-    def bring_in(self, desktop, name="in.csv"):
-        self.press(desktop, "from CSV File")
-        self.name_file(desktop, "Import Events from CSV File", f"C:\\Meridex\\{name}")
 
 
 class Csv_Files(Exchange_Test):
@@ -85,25 +63,22 @@ class Csv_Files(Exchange_Test):
     def test_the_extension_is_added_and_an_old_file_asked_for(self):
         desktop = self.opened(events=self.EVENTS)
         (desktop.folder / "old.csv").write_bytes(b"old")
-        self.press(desktop, "to CSV File")
-        self.name_file(desktop, "Export Events as CSV File", "C:\\Meridex\\old")
+        self.tab.press("to CSV File")
+        self.tab.name_file("Export Events as CSV File", "C:\\Meridex\\old")
         box = desktop.message_box()
         self.assertEqual((box.text, box.buttons), ("Overwrite existing file?", ["Yes", "No"]))
         desktop.screen.key("n")
         # The dialog comes again; Escape cancels it without a word.
-        desktop.find_window("Export Events as CSV File")
-        desktop.screen.picture_at_rest()
-        desktop.screen.key("Escape")
-        desktop.window_gone("Export Events as CSV File")
+        self.tab.cancel("Export Events as CSV File")
         self.assertEqual((desktop.folder / "old.csv").read_bytes(), b"old")
-        self.assertTrue(self.window.state()["active"], "the window is active again")
+        self.assertTrue(self.tab.window.state()["active"], "the window is active again")
 
     def test_an_open_dialog_names_the_import(self):
         desktop = self.opened(events=["3/4/2004=Old note", "4/4/9999=Birthday"])
         (desktop.folder / "in.csv").write_bytes(
             b'Subject,Start Date,Location,Description\r\n"Dentist","3/4/2004","High St","Check-up, 9am"\r\n'
             b'"Meridex","4/4/2004",,"Rent"\r\n"Party","4 April 2004",Hall,"Bring the ""good"" plates\r\nand cups"\r\n')
-        self.bring_in(desktop)
+        self.tab.bring_in("in.csv")
         self.told(desktop, "Successfully imported 3 events")
         wait_for_file(desktop, b'"3/4/2004=Old note + Dentist - Check-up, 9am"\r\n'
                       b'"4/4/9999=Birthday + Rent + Party - Bring the good plates and cups"\r\n')
@@ -112,18 +87,15 @@ class Csv_Files(Exchange_Test):
 
     def test_a_file_that_is_not_there_is_asked_for_again(self):
         desktop = self.opened(events=self.EVENTS)
-        self.bring_in(desktop, "nowhere.csv")
+        self.tab.bring_in("nowhere.csv")
         self.told(desktop, "File doesn't exist!")
-        desktop.find_window("Import Events from CSV File")
-        desktop.screen.picture_at_rest()
-        desktop.screen.key("Escape")
-        desktop.window_gone("Import Events from CSV File")
+        self.tab.cancel("Import Events from CSV File")
 
     def test_the_export_comes_in_again(self):
         desktop = self.opened(events=self.EVENTS)
         self.export(desktop)
         desktop.data_file.unlink()
-        self.bring_in(desktop, "out.csv")
+        self.tab.bring_in("out.csv")
         self.told(desktop, "Successfully imported 4 events")
         wait_for_file(desktop, b'"14/2/2004=Valentine\'s dinner"\r\n"8/3/2004=Bread, milk, and eggs"\r\n'
                       b'"9/3/2004=Caf\xe9"\r\n"25/12/2004=Christmas"\r\n')
@@ -132,7 +104,7 @@ class Csv_Files(Exchange_Test):
         desktop = self.opened()
         rows = "".join(f'"Event {i}","{i % 28 + 1}/{i // 28 % 12 + 1}/{2004 + i // 336}","at nine"\r\n' for i in range(10000))
         (desktop.folder / "in.csv").write_bytes(b"Subject,Start Date,Description\r\n" + rows.encode())
-        self.bring_in(desktop)
+        self.tab.bring_in("in.csv")
         wait_for(lambda: desktop.framed_window("Meridex"), "the end of the import", 60)
         self.told(desktop, "Successfully imported 10000 events")
         self.assertEqual(desktop.data_file.read_bytes().count(b"\r\n"), 10000)
@@ -143,7 +115,7 @@ class Csv_Files_And_An_Office(Exchange_Test):
         with tempfile.TemporaryDirectory() as folder:
             with open(f"{folder}/file.{source}", "wb") as file:
                 file.write(data)
-            subprocess.run([OFFICE, f"-env:UserInstallation=file://{folder}/profile", "--headless", *how, "--outdir",
+            subprocess.run(["soffice", f"-env:UserInstallation=file://{folder}/profile", "--headless", *how, "--outdir",
                             f"{folder}/out", f"{folder}/file.{source}"], check=True, timeout=60, capture_output=True)
             with open(f"{folder}/out/file.{target}", "rb") as file:
                 return file.read()
@@ -154,18 +126,14 @@ class Csv_Files_And_An_Office(Exchange_Test):
         return self.converted(sheet, ["--convert-to", WRITE_QUOTED], "ods", "csv")
 
     def test_a_spreadsheet_reads_the_export(self):
-        if OFFICE is None:
-            self.skipTest("no LibreOffice")
         desktop = self.opened(events=Csv_Files.EVENTS)
         self.assertEqual(cells(self.through_the_office(self.export(desktop))), Csv_Files.ROWS)
 
     def test_what_a_spreadsheet_writes_comes_in(self):
-        if OFFICE is None:
-            self.skipTest("no LibreOffice")
         desktop = self.opened()
         (desktop.folder / "in.csv").write_bytes(self.through_the_office(
             b'"Subject","Start Date","Description"\r\n"Dentist","3/4/2004","Check-up, 9am"\r\n"Rent","4/4/2004","x ""y"""\r\n'))
-        self.bring_in(desktop)
+        self.tab.bring_in("in.csv")
         self.told(desktop, "Successfully imported 2 events")
         wait_for_file(desktop, b'"3/4/2004=Dentist - Check-up, 9am"\r\n"4/4/2004=Rent - x y"\r\n')
 
@@ -173,28 +141,22 @@ class Csv_Files_And_An_Office(Exchange_Test):
 class Other_Files(Exchange_Test):
     def test_the_text_export(self):
         desktop = self.opened(events=["14/2/2004=Valentine's dinner", "25/12/9999=Christmas"])
-        self.press(desktop, "to Text File")
-        self.name_file(desktop, "Export Events to Text File", "C:\\Meridex\\out")
+        self.tab.press("to Text File")
+        self.tab.name_file("Export Events to Text File", "C:\\Meridex\\out")
         self.told(desktop, "Successfully exported 2 events to the text file...")
         lines = (desktop.folder / "out.txt").read_bytes().split(b"\r\n")
         self.assertEqual([line.split(b"  -  ")[-1] for line in lines], [b"Valentine's dinner", b"", b"Christmas", b"", b""])
         self.assertIn(b"14 February 2004", lines[0])
         self.assertIn(b"25 December 2004 (every year)", lines[2])
 
-    def press_data_file(self, desktop, row):
-        """Row 0 has the imports, row 1 the exports."""
-        rects = [child["rect"] for child in self.window.natives(BUTTON) if child["text"] == "Data File"]
-        left, top, right, bottom = sorted(rects, key=lambda rect: rect[1])[row]
-        desktop.screen.click((left + right) // 2, (top + bottom) // 2)
-
     def test_the_data_file_out_and_in(self):
         desktop = self.opened(events=["8/3/2004=Tea"])
-        self.press_data_file(desktop, 1)
-        self.name_file(desktop, "Export Data File", "C:\\Meridex\\copy.dat")
+        self.tab.press("Data File", row=1)
+        self.tab.name_file("Export Data File", "C:\\Meridex\\copy.dat")
         self.told(desktop, "Successfully exported data file to...")
         desktop.data_file.write_bytes(b'"8/3/2004=Another"\r\n')
-        self.press_data_file(desktop, 0)
-        self.name_file(desktop, "Import Data File", "C:\\Meridex\\copy.dat")
+        self.tab.press("Data File")
+        self.tab.name_file("Import Data File", "C:\\Meridex\\copy.dat")
         box = desktop.message_box()
         self.assertIn("Replace current file 'calendar.dat' modified on ", box.text)
         self.assertIn("with new file 'copy.dat' modified on ", box.text)
@@ -204,14 +166,22 @@ class Other_Files(Exchange_Test):
         wait_for(lambda: desktop.message_box().text.startswith("Successfully imported data file from..."), "the success")
         desktop.answer("Return")
 
+    def test_the_configuration_goes_out(self):
+        desktop = self.opened()
+        self.tab.press("Configuration", row=1)
+        self.tab.name_file("Export Configuration File", "C:\\Meridex\\out")
+        self.told(desktop, "Successfully exported current configuration to file...")
+        lines = (desktop.folder / "out.ini").read_bytes().split(b"\r\n")
+        self.assertEqual(len(lines), 33)
+        self.assertEqual(lines[:3], [b'"Style=1"', b'"TaskPos=6"', b'"Col_Today=16761024"'])
+        self.assertEqual(lines[30:], [b'"Auto_Compact=0"', b'"Tooltips=1"', b""])
+
     def test_the_configuration_closes_the_window(self):
         desktop = self.opened()
         (desktop.folder / "in.ini").write_bytes(b'"Tooltips=2"\r\n"Start_Day=1"\r\n')
-        buttons = [child for child in self.window.natives(BUTTON) if child["text"] == "Configuration"]
-        left, top, right, bottom = min((button["rect"] for button in buttons), key=lambda rect: rect[1])
-        desktop.screen.click((left + right) // 2, (top + bottom) // 2)
-        self.name_file(desktop, "Import Configuration File", "C:\\Meridex\\in.ini")
+        self.tab.press("Configuration")
+        self.tab.name_file("Import Configuration File", "C:\\Meridex\\in.ini")
         self.told(desktop, "Loaded configuration file successfully.")
-        self.window.gone()
+        self.tab.window.gone()
         self.assertEqual(desktop.stored("Settings", "Tooltips"), "2")
         self.assertEqual(desktop.stored("Settings", "Start Day"), "1")

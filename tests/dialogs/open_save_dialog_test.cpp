@@ -54,7 +54,9 @@ TEST_F(Open_Save_Dialog_Test, Gives_the_dialog_all_that_it_was_told) {
   Dialog1.DefaultExt = "txt";
   Dialog1.ShowOpen();
   EXPECT_EQ(System.Shown, "open ");
-  EXPECT_EQ(System.Given.Owner, Window.Handle());
+  EXPECT_EQ(System.Given.Owner, Dialog1.Handle());
+  EXPECT_NE(System.Given.Owner, Window.Handle());
+  EXPECT_NE(System.Given.Owner, 0U);
   EXPECT_EQ(System.Given.Title, "Title");
   EXPECT_EQ(System.Given.Initial_Folder, "C:\\Folder");
   EXPECT_EQ(System.Given.Filter, With_Nuls("Text (*.txt)^*.txt^All^*.*^^"));
@@ -75,6 +77,19 @@ TEST_F(Open_Save_Dialog_Test, A_filter_without_a_number_uses_the_first_type) {
   EXPECT_EQ(Dialog1.FilterIndex, 1);
   EXPECT_EQ(System.Given.Filter_Index, 1U);
   EXPECT_EQ(System.Given.Filter, With_Nuls("no pattern^^"));
+}
+
+TEST_F(Open_Save_Dialog_Test, A_number_without_a_filter_goes_as_it_is) {
+  Dialog1.FilterIndex = 3;
+  Dialog1.ShowSave();
+  EXPECT_EQ(System.Given.Filter, "");
+  EXPECT_EQ(System.Given.Filter_Index, 3U);
+  EXPECT_EQ(Dialog1.FilterIndex, 3);
+  Dialog1.Filter = "a|b";
+  Dialog1.FilterIndex = -2;
+  Dialog1.ShowSave();
+  EXPECT_EQ(System.Given.Filter_Index, static_cast<std::uint32_t>(-2)) << "nothing is checked";
+  EXPECT_EQ(Dialog1.FilterIndex, -2);
 }
 
 TEST_F(Open_Save_Dialog_Test, Takes_over_what_was_chosen) {
@@ -154,6 +169,26 @@ TEST_F(Open_Save_Dialog_Test, The_flags_that_come_back_tell_of_several_files) {
   EXPECT_EQ(Dialog1.FileTitle, "a");
 }
 
+TEST_F(Open_Save_Dialog_Test, A_dialog_that_sets_the_flag_of_several_files_gives_its_whole_buffer) {
+  Choose("C:\\a", "a");
+  const auto choose = System.Answer;
+  System.Answer = [&](platform::File_Dialog_Record& record) {
+    choose(record);
+    record.Flags |= 512;
+  };
+  Dialog1.FileTitle = "before";
+  Dialog1.ShowOpen();
+  EXPECT_EQ(System.Given.File.size(), 260U) << "there was no such flag before";
+  EXPECT_EQ(Dialog1.FileName, "C:\\a" + std::string(256, '\0'));
+  EXPECT_EQ(Dialog1.FileTitle, "before");
+  EXPECT_EQ(Dialog1.Flags, 512);
+  Dialog1.Flags = 0;
+  Dialog1.ShowSave();
+  EXPECT_EQ(Dialog1.FileName, "C:\\a") << "saving is of one file";
+  EXPECT_EQ(Dialog1.FileTitle, "a");
+  EXPECT_EQ(Dialog1.Flags, 512);
+}
+
 TEST_F(Open_Save_Dialog_Test, The_title_has_the_room_that_it_is_given) {
   Dialog1.MaxFileSize = 0;
   System.Chosen = true;
@@ -163,7 +198,9 @@ TEST_F(Open_Save_Dialog_Test, The_title_has_the_room_that_it_is_given) {
   EXPECT_EQ(System.Given.File_Title, "");
   EXPECT_EQ(Dialog1.FileTitle, "");
   Dialog1.MaxFileSize = -1;
+  Dialog1.Filter = "a|b";
   EXPECT_EQ(Error_Of([&] { Dialog1.ShowOpen(); }), 5);
+  EXPECT_EQ(Dialog1.FilterIndex, 0) << "the number of the type is set once the record is filled";
 }
 
 TEST_F(Open_Save_Dialog_Test, A_result_without_its_end_is_an_error) {
@@ -172,6 +209,12 @@ TEST_F(Open_Save_Dialog_Test, A_result_without_its_end_is_an_error) {
   EXPECT_EQ(Error_Of([&] { Dialog1.ShowSave(); }), 5);
   System.Answer = [](platform::File_Dialog_Record& record) { record.Filter_Index = 40000; };
   EXPECT_EQ(Error_Of([&] { Dialog1.ShowSave(); }), 6);
+}
+
+TEST_F(Open_Save_Dialog_Test, Its_window_goes_with_the_one_that_it_lies_in) {
+  EXPECT_NE(Dialog1.Handle(), 0U);
+  Window.Unload();
+  EXPECT_EQ(Dialog1.Handle(), 0U);
 }
 
 TEST_F(Open_Save_Dialog_Test, Its_size_stays) {

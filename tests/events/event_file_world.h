@@ -25,6 +25,7 @@ class Fake_Files : public platform::Files {
   void Delete(const std::string& path) override { Disk.Contents.erase(path); }
   void Copy(const std::string& from, const std::string& to) override { Disk.Contents[to] = Disk.Contents.at(from); }
   basic::Moment Last_Change(const std::string& /*path*/) override { return {}; }
+  bool Same_Path(const std::string& a, const std::string& b) override { return a == b; }
   std::string Program_Folder() override { return "C:\\Meridex"; }
   std::string Program_Path() override { return "C:\\Meridex\\Meridex.exe"; }
 };

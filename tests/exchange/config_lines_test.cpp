@@ -1,12 +1,12 @@
 // The lines of the configuration file, out and in.
+#include "tests/exchange/config_lines.h"
+
 #include <gtest/gtest.h>
 
-#include "exchange/config.h"
 #include "memory/memory_platform.h"
 #include "tests/basic/error_of.h"
 
 using exchange::Apply_Config_Line;
-using exchange::Config_Lines;
 using exchange::Shown_Values;
 using settings::Settings;
 using Texts = std::vector<std::string>;
@@ -41,6 +41,7 @@ std::string Line(const Shown_Values& shown, const std::string& key) {
 TEST_F(Config_Lines_Test, Stand_in_their_order_and_one_of_them_twice) {
   Shown_Values shown;
   shown.Values = Stored.Values;
+  shown.Idle_Time = "45";
   shown.Style = 2;
   shown.Position = 7;
   shown.Title_Row_Source = 1;
@@ -93,6 +94,23 @@ TEST_F(Config_Lines_Test, A_group_without_an_option_has_the_number_of_the_group_
   EXPECT_EQ(Line(shown, "Tooltips"), "Tooltips=1");
 }
 
+TEST_F(Config_Lines_Test, The_idle_time_goes_out_as_its_list_shows_it) {
+  Shown_Values shown;
+  EXPECT_EQ(Line(shown, "Timeout_Value"), "Timeout_Value=") << "nothing is selected";
+  shown.Idle_Time = "07";
+  EXPECT_EQ(Line(shown, "Timeout_Value"), "Timeout_Value=07");
+}
+
+TEST_F(Config_Lines_Test, A_truth_value_may_be_any_number) {
+  EXPECT_EQ(Error_Of_Applying("Bar_Time=99999999999"), 0);
+  EXPECT_EQ(Kept("Settings", "Bar Time"), "99999999999");
+  EXPECT_TRUE(Stored.Values.Bar_Time);
+  EXPECT_EQ(Error_Of_Applying("Bar_Time=0.0"), 0);
+  EXPECT_FALSE(Stored.Values.Bar_Time);
+  EXPECT_EQ(Error_Of_Applying("Bar_Time=-0.5"), 0);
+  EXPECT_TRUE(Stored.Values.Bar_Time);
+}
+
 TEST_F(Config_Lines_Test, Each_key_goes_into_its_setting_and_its_place_in_the_store) {
   for (const settings::Setting_Key& key : settings::All_Keys()) {
     if (key.Config_Name == nullptr) continue;
@@ -102,6 +120,7 @@ TEST_F(Config_Lines_Test, Each_key_goes_into_its_setting_and_its_place_in_the_st
   Stored.Values.Settings_Tab = 1;
   Shown_Values shown;
   shown.Values = Stored.Values;
+  shown.Idle_Time = "1";
   shown.Style = shown.Position = shown.Title_Row_Source = shown.Tips = 1;
   for (const std::string& line : Config_Lines(shown)) EXPECT_TRUE(line.ends_with("=1")) << line;
   EXPECT_EQ(Stored.Values.Style, 1);

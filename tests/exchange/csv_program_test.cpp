@@ -131,6 +131,28 @@ TEST_F(Csv_Program_Test, The_pointer_shows_the_wait_and_no_longer) {
   EXPECT_FALSE(World.Platform.Windows_And_Timers.Busy());
 }
 
+TEST_F(Csv_Program_Test, A_failure_gives_the_window_the_default_pointer) {
+  toolkit::Form& window = *World.Window("Settings_Frm");
+  for (const char* const file : {"broken", "Subject,Start Date,Description\r\n\"a\",\"soon\"\r\n"}) {
+    Put("in.csv", file);
+    window.MousePointer = toolkit::Pointer::Hourglass;
+    (void)Import_Csv();
+    EXPECT_EQ(window.MousePointer(), toolkit::Pointer::Default) << file;
+  }
+}
+
+TEST_F(Csv_Program_Test, The_window_that_goes_under_the_question_ends_the_import_of_a_data_file) {
+  Put("calendar.dat", "\"1/1/2010=first\"\r\n");
+  Put("in.dat", "\"1/1/2010=second\"\r\n");
+  toolkit::Form& window = *World.Window("Settings_Frm");
+  World.Platform.Message_Box.Prepare(platform::Box_Answer::Yes, 1'000'000);
+  World.Platform.Time.Schedule(World.Platform.Time.Elapsed() + 500'000, [&] { window.Unload(); });
+  const std::string messages = Press("Import_Btn", 0, "in.dat");
+  EXPECT_EQ(std::count(messages.begin(), messages.end(), '?'), 1);
+  EXPECT_EQ(messages.find("Successfully"), std::string::npos);
+  EXPECT_EQ(File("calendar.dat"), "\"1/1/2010=first\"\r\n");
+}
+
 TEST_F(Csv_Program_Test, The_largest_export_has_a_row_for_each_event) {
   std::string file;
   for (int i = 0; i < 32767; ++i) {

@@ -74,6 +74,13 @@ TEST_F(Line_Merge_Test, A_text_with_an_equals_sign_is_no_date) {
   EXPECT_EQ(Present(), (Texts{"3/4/2004=4/4/2004=a", "4/4/2004=b=c + d"}));
 }
 
+TEST_F(Line_Merge_Test, A_year_of_three_digits_finds_the_event_of_every_year) {
+  Set({"1/19999=a", "1/1/9999=b"});
+  Line_Merge merge(Lines, Channel, path);
+  merge.Merge("1/1/100", "c");
+  EXPECT_EQ(Present(), (Texts{"1/19999=a", "1/1/9999=b + c"}));
+}
+
 TEST_F(Line_Merge_Test, A_line_without_a_date_ends_the_search_that_meets_it) {
   Set({"3/4/2004=a", "broken", "4/4/2004=b"});
   Line_Merge merge(Lines, Channel, path);

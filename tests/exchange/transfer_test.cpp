@@ -16,6 +16,10 @@ class Transfer_Test : public ::testing::Test {
   Transfer_Test() { Window.Load(); }
 
   static std::string Path(const std::string& name) { return memory::Memory_Files::Full_Path(name); }
+  /// The window goes half a second from now.
+  void Unload_Soon() {
+    Platform.Time.Schedule(Platform.Time.Elapsed() + 500, [&] { Window.Unload(); });
+  }
   void Pick(const std::string& name) { Platform.File_Dialog.Prepare(Path(name)); }
 
   std::string Messages() {
@@ -87,13 +91,24 @@ TEST_F(Transfer_Test, An_input_is_asked_for_until_it_is_there_and_another_one) {
 TEST_F(Transfer_Test, A_window_that_goes_meanwhile_ends_the_asking) {
   Platform.Files.Put(Path("there.txt"), "x");
   Platform.File_Dialog.Prepare(Path("new.txt"), 1000);
-  Platform.Time.Schedule(500, [&] { Window.Unload(); });
+  Unload_Soon();
   EXPECT_FALSE(Transfer.Choose_Output(text_file));
-  Window.Load();
-  Pick("there.txt");
-  Platform.Message_Box.Prepare(Box_Answer::Yes, 1000);
-  Platform.Time.Schedule(Platform.Time.Elapsed() + 500, [&] { Window.Unload(); });
-  EXPECT_FALSE(Transfer.Choose_Output(text_file));
+  for (const Box_Answer answer : {Box_Answer::Yes, Box_Answer::No}) {
+    Window.Load();
+    Pick("there.txt");
+    Platform.Message_Box.Prepare(answer, 1000);
+    Unload_Soon();
+    EXPECT_FALSE(Transfer.Choose_Output(text_file));
+  }
+  for (const char* const refused : {"nowhere.txt", "own.txt"}) {
+    Window.Load();
+    Platform.Files.Put(Path("own.txt"), "x");
+    Pick(refused);
+    Platform.Message_Box.Prepare(Box_Answer::OK, 1000);
+    Unload_Soon();
+    EXPECT_FALSE(Transfer.Choose_Input(text_file, Path("own.txt")));
+  }
+  EXPECT_EQ(Platform.File_Dialog.Take_Shown().size(), 5U) << "none came again";
 }
 
 TEST_F(Transfer_Test, A_file_that_has_the_file_number_is_not_copied) {

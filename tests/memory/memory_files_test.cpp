@@ -33,6 +33,16 @@ TEST_F(Memory_Files_Test, Finds_names_without_regard_to_case_and_slashes) {
   EXPECT_EQ(Files.Bytes("c:/meridex/SEASONS/m\xE4rz.TXT"), "x");
 }
 
+TEST_F(Memory_Files_Test, A_path_with_dots_leads_to_the_same_file) {
+  Files.Put(Path("a/f"), "x");
+  EXPECT_EQ(Files.Bytes("C:\\Meridex\\.\\a\\f"), "x");
+  EXPECT_EQ(Files.Bytes("C:\\Meridex\\nowhere\\..\\a\\f"), "x") << "whether the folder is there or not";
+  EXPECT_EQ(Files.Bytes("C:\\..\\..\\Meridex\\a\\b\\..\\..\\A\\f"), "x") << "above a drive is nothing";
+  EXPECT_EQ(Error_Of([&] { Files.Copy(Path("a/f"), Path("b/../a/f")); }), 70) << "a file can't be copied onto itself";
+  Files.Put(Path("a/../g"), "y");
+  EXPECT_EQ(Files.File_Names(Path("")), std::vector<std::string>{"g"});
+}
+
 TEST_F(Memory_Files_Test, A_file_keeps_the_spelling_of_its_first_writing) {
   Files.Put(Path("Data.bak"), "x");
   Files.Put(Path("DATA.BAK"), "y");

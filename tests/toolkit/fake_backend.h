@@ -125,6 +125,7 @@ class Fake_Backend : public toolkit::Backend {
     void Capture_Mouse() override { backend_.Told.emplace_back("capture"); }
     void Release_Mouse() override { backend_.Told.emplace_back("release"); }
     [[nodiscard]] platform::Window_Handle Handle() const override { return 4711; }
+    [[nodiscard]] platform::Window_Handle Handle_Of(const toolkit::Control& /*control*/) const override { return 4712; }
 
    private:
     Fake_Backend& backend_;

@@ -30,7 +30,7 @@ class Window_On_Screen : public ::testing::Test {
     return FindWindowExA(Handle(), nullptr, window_class, nullptr);
   }
 
-  win32::Win32_Platform Platform{nullptr};
+  win32::Win32_Platform Platform{GetModuleHandleA(nullptr)};
   toolkit::Backend& Backend = Platform.Backend();
   toolkit::Form Window{Backend, "Settings_Frm", toolkit::Form_Border::Fixed_Dialog};
 };
