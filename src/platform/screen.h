@@ -5,6 +5,8 @@ namespace platform {
 
 struct Pixel_Area {
   int Left = 0, Top = 0, Width = 0, Height = 0;  ///< pixels
+
+  friend bool operator==(const Pixel_Area&, const Pixel_Area&) = default;
 };
 
 class Screen {

@@ -1,6 +1,8 @@
 // Where the calendar window is: at one of nine places of the work area, or where the user dragged it.
 #pragma once
 
+#include <optional>
+
 #include "basic/int16.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
@@ -71,6 +73,8 @@ class Placement {
   settings::Stored_Settings& stored_;
   const state::Calendar_State& calendar_;
   Work_Area saved_work_area_;
+  /// The work area all of whose values are saved. The tick compares it first, since it stays the same for days.
+  std::optional<platform::Pixel_Area> followed_area_;
   Drag_Point drag_start_;
 };
 
