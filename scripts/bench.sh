@@ -15,6 +15,6 @@ need_packages build wine bench
 configure native-release
 configure windows-x64
 build native-release bench_month_change bench_tick bench_overview bench_exchange bench_month_print bench_first_map bench_click_time
-build windows-x64 meridex bench_month_change bench_gdi_count bench_jpeg floor_window
+build windows-x64 meridex bench_month_change bench_gdi_count bench_jpeg floor_window desktop_probe
 cd "$OLDPWD"  # where a file that is named lies
 exec python3 -B "$root/bench/run.py" "$@" </dev/null
