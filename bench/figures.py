@@ -1,6 +1,6 @@
 """Figures with their goals, and the table of them."""
 import os
-from typing import NamedTuple, Optional
+from typing import Mapping, NamedTuple, Optional
 
 
 class Figure(NamedTuple):
@@ -10,6 +10,7 @@ class Figure(NamedTuple):
     limit: float  # of the ratio where there is a floor, else of the value itself
     floor: Optional[float] = None
     floor_name: str = ""
+    beside: Mapping[str, float] = {}  # what a user would pick instead, in the same unit
 
     @property
     def ratio(self):
@@ -20,17 +21,20 @@ class Figure(NamedTuple):
         return (self.value if self.floor is None else self.ratio) <= self.limit
 
     def row(self):
-        measured = f"{number(self.value)} {self.unit}".rstrip()
-        if self.floor is None:
-            return [self.name, measured, "", "", f"{number(self.limit)} {self.unit}".rstrip(), self.mark()]
-        floor = f"{number(self.floor)} {self.unit}: {self.floor_name}"
-        return [self.name, measured, floor, f"{self.ratio:.2f}", f"{self.limit:g} times", self.mark()]
+        limit, floor, ratio = f"{number(self.limit)} {self.unit}".rstrip(), "", ""
+        if self.floor is not None:
+            limit, ratio = f"{self.limit:g} times", f"{self.ratio:.2f}"
+            floor = f"{number(self.floor)} {self.unit}: {self.floor_name}"
+        return [self.name, f"{number(self.value)} {self.unit}".rstrip(), floor, ratio, limit, self.others(), self.mark()]
+
+    def others(self):
+        return ", ".join(f"{name} {number(value)} {self.unit}" for name, value in self.beside.items())
 
     def mark(self):
         return "PASS" if self.reached else "over"
 
 
-HEAD = ["Figure", "Measured", "Floor", "Ratio", "At most", ""]
+HEAD = ["Figure", "Measured", "Floor", "Ratio", "At most", "Beside", ""]
 
 
 def number(value):
@@ -40,9 +44,10 @@ def number(value):
     return f"{value:.3g}"
 
 
-def table(figures):
+def table(figures, padded=True):
+    """In Markdown."""
     rows = [HEAD] + [figure.row() for figure in figures]
-    widths = [max(len(row[i]) for row in rows) for i in range(len(HEAD))]
+    widths = [max(len(row[i]) for row in rows) if padded else 1 for i in range(len(HEAD))]
     lines = ["| " + " | ".join(cell.ljust(width) for cell, width in zip(row, widths)) + " |" for row in rows]
     lines.insert(1, "|" + "|".join("-" * (width + 2) for width in widths) + "|")
     return "\n".join(lines)

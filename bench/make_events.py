@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """make_events.py COUNT FOLDER [--today YYYY-MM-DD] [--in-month N] [--seed N]
 
-Writes the same COUNT events as FOLDER/calendar.dat and as FOLDER/events.gcal (a resource file of gcal). Of them --in-month
+Writes the same COUNT events into FOLDER in the form of each calendar that is measured (forms.py). Of them --in-month
 (100) belong to the month of --today (2004-03-05): those of that month, and those of every year in it. A tenth of all
 events, at most one for each day of a year, are of every year. None is on --today itself: its alert would stand in the way
 of the measurements. The same arguments give the same bytes.
@@ -9,8 +9,10 @@ of the measurements. The same arguments give the same bytes.
 import argparse
 import calendar
 import datetime
-import os
+import pathlib
 import random
+
+from forms import FORMS
 
 WORDS = """dentist meeting call Anna Tom Jane birthday of the team lunch with rent due pay bill garden market train to
 Lisbon flight hotel school concert review draft plan holiday car service at nine half past ten bring plates cups and cake
@@ -85,25 +87,19 @@ def make_events(count, in_month, today, seed):
     return [(*date, make_text(source)) for date in dates]
 
 
-def write(folder, name, pieces):
-    with open(os.path.join(folder, name), "wb") as file:
-        file.write("".join(pieces).encode("ascii"))
-
-
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("count", type=int)
-    parser.add_argument("folder")
+    parser.add_argument("folder", type=pathlib.Path)
     parser.add_argument("--today", type=datetime.date.fromisoformat, default=datetime.date(2004, 3, 5))
     parser.add_argument("--in-month", type=int, default=100)
     parser.add_argument("--seed", type=int, default=7)
     options = parser.parse_args()
     events = make_events(options.count, options.in_month, options.today, options.seed)
-    os.makedirs(options.folder, exist_ok=True)
-    write(options.folder, "calendar.dat",
-          ('"%d/%d/%d=%s"\r\n' % (day, month, year or 9999, text.replace("&", "&&")) for year, month, day, text in events))
-    write(options.folder, "events.gcal",
-          ("%04d%02d%02d %s\n" % (year or 0, month, day, text.replace("\r\n", " ")) for year, month, day, text in events))
+    for name, form in FORMS.items():
+        file = options.folder / name
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_bytes("".join(form(*event) for event in events).encode("ascii"))
 
 
 if __name__ == "__main__":

@@ -1,7 +1,10 @@
 // Prints the events of a month, as a command line calendar does: bench_month_print FILE MONTH YEAR
 // It reads by the program's own reader, and is timed as a whole process beside other calendars.
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <utility>
+#include <vector>
 
 #include "basic/convert.h"
 #include "basic/record_reader.h"
@@ -10,15 +13,20 @@
 
 namespace {
 
-/// The records of the month, one a line, as they stand in the file.
+/// The records of the month as they stand in the file, one a line, the earlier days first.
 std::string Month_Of(std::string_view bytes, basic::Int16 month, basic::Int16 year) {
-  std::string page;
+  std::vector<std::pair<int, std::string_view>> found;
   basic::Record_Reader reader(bytes);
   std::string_view record;
   while (reader.Next(record)) {
     const events::Event_Line event = events::Read_Event_Line(record);
     if (event.Month != month || (event.Year != events::every_year && event.Year != year)) continue;
-    page += record;
+    found.emplace_back(event.Day.Value(), record);
+  }
+  std::ranges::stable_sort(found, {}, [](const auto& entry) { return entry.first; });
+  std::string page;
+  for (const auto& entry : found) {
+    page += entry.second;
     page += '\n';
   }
   return page;

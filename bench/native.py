@@ -3,7 +3,6 @@ import json
 import subprocess
 
 from figures import Figure
-from timing import medians, seconds_of
 
 NANOSECONDS_PER = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
@@ -59,10 +58,3 @@ def exchange(programs):
         Figure("CSV import of 10,000 rows into the first 7 of 30,000 lines",
                nanoseconds(runs["Import_Csv_Into_The_First_Lines/iterations:1"]) / 1e6, "ms", 20000),
     ]
-
-
-def month_print(programs, data, rounds):
-    own = [programs / "bench_month_print", data / "32767/calendar.dat", 3, 2004]
-    peer = ["gcal", "-H", "no", "-u", f"-f{data / '32767/events.gcal'}", "-cm", "%20040301"]
-    own_time, peer_time = medians(rounds, lambda: seconds_of(own), lambda: seconds_of(peer))
-    return [Figure("Month printed, whole process", own_time * 1e3, "ms", 1, peer_time * 1e3, "gcal, the same events")]

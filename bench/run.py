@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Measures everything and prints the table: run.py [--quick] [GROUP]...; scripts/bench.sh builds what it needs.
+"""Measures everything and prints the table; scripts/bench.sh builds what it needs.
 
-The groups: native, size, months, start, idle, screen, settings, import, jpeg. The exit status is 1 if a goal isn't reached.
+The groups: native, printed, size, months, start, idle, screen, settings, import, jpeg. The exit status is 1 if a goal isn't reached.
 """
 import argparse
 import datetime
@@ -11,6 +11,8 @@ import sys
 
 import figures
 import native
+import peers
+import report
 import wine
 
 ROOT = wine.ROOT
@@ -21,7 +23,8 @@ DATA = ROOT / "build/bench-data"
 def make_data():
     generator = ROOT / "bench/make_events.py"
     today = datetime.date.today().isoformat()
-    for count, folder, options in [(1000, "1000", ["--in-month", "3"]), (32767, "32767", []),
+    for count, folder, options in [(100, "100", ["--in-month", "10"]), (1000, "1000", ["--in-month", "3"]),
+                                   (32767, "32767", []),
                                    (32767, "today", ["--today", today])]:
         subprocess.run([sys.executable, "-B", generator, str(count), DATA / folder, *options], check=True)
 
@@ -29,8 +32,10 @@ def make_data():
 def measure(group, quick):
     if group == "native":
         return (native.month_change(PROGRAMS, DATA, 9 if quick else 21) + native.tick(PROGRAMS, DATA) +
-                native.overview(PROGRAMS, DATA) + native.exchange(PROGRAMS) +
-                native.month_print(PROGRAMS, DATA, 15 if quick else 41))
+                native.overview(PROGRAMS, DATA) + native.exchange(PROGRAMS))
+    if group == "printed":
+        return (peers.month_print(PROGRAMS, DATA / "100", 15 if quick else 41) +
+                peers.month_print(PROGRAMS, DATA / "32767", 3 if quick else 9))
     if group == "size":
         return wine.size()
     if group == "months":
@@ -48,14 +53,18 @@ def measure(group, quick):
     return wine.jpeg(DATA, 3 if quick else 9)
 
 
-GROUPS = ["native", "size", "months", "start", "idle", "screen", "settings", "import", "jpeg"]
+GROUPS = ["native", "printed", "size", "months", "start", "idle", "screen", "settings", "import", "jpeg"]
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--quick", action="store_true", help="fewer rounds, and 15 seconds of idling instead of 60")
+    parser.add_argument("--markdown", type=pathlib.Path, metavar="FILE", help="write the table there too")
+    parser.add_argument("--readme", action="store_true", help="write the table to its place in README.md; all groups")
     parser.add_argument("group", nargs="*", choices=[[], *GROUPS], help="all if none is given")
     options = parser.parse_args()
+    if options.readme and options.group:
+        parser.error("--readme takes the whole table")
     machine = figures.machine()
     make_data()
     found = []
@@ -65,6 +74,11 @@ def main():
     print(f"\n{machine}\n\n{figures.table(found)}")
     over = sum(not figure.reached for figure in found)
     print(f"\n{len(found) - over} of {len(found)} goals reached")
+    text = report.markdown(found, machine, options.quick)
+    if options.markdown:
+        options.markdown.write_text(text, encoding="utf-8")
+    if options.readme:
+        report.put_between_markers(ROOT / "README.md", text)
     return 1 if over else 0
 
 

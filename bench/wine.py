@@ -136,7 +136,7 @@ def idle(data, seconds):
     floor_memory, own_memory = (statistics.median(column) for column in zip(*memory))
     floor_name = f"an empty program with a timer of {TICK} ms"
     return [
-        Figure(f"Wine: processor time of {seconds} s idle", times[1] * 1e3, "ms", 1.25, times[0] * 1e3, floor_name),
+        Figure(f"Wine: processor time of {seconds} s idle", times[1] * 1e3, "ms", 1.2, times[0] * 1e3, floor_name),
         Figure("Wine: resident memory", own_memory, "MB", 1.3, floor_memory, floor_name),
     ]
 

@@ -23,7 +23,9 @@ packages_debian32=(debootstrap)
 # shellcheck disable=SC2034
 packages_coverage=(gcovr)
 # shellcheck disable=SC2034
-packages_bench=(libbenchmark-dev gcal libx11-dev libxdamage-dev libxtst-dev libjpeg-turbo-progs)
+packages_bench=(libbenchmark-dev libx11-dev libxdamage-dev libxtst-dev libjpeg-turbo-progs
+  # the calendars that the month printed stands beside
+  gcal remind calcurse when)
 
 # The languages in which the program is tried under Wine.
 tried_locales=(en_GB en_US de_DE)

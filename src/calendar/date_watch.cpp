@@ -26,11 +26,11 @@ void Date_Watch::Tick() {
   embedding_.Keep_Desktop_Text_Clear();
   desk_.Follow_Idle_Time();
   desk_.Follow_Work_Area();
-  desk_.Keep_Title();
-  const basic::Serial_Day day = dates_.Present_Day();
-  if (day == last_day_key_) return;
+  const basic::Moment now = dates_.Now();
+  desk_.Keep_Title(now);
+  if (now.Day == last_day_key_) return;
   // Set first: what follows may show a message box, under which the ticks go on, and the day must begin only once.
-  last_day_key_ = day;
+  last_day_key_ = now.Day;
   desk_.Begin_New_Day();
 }
 

@@ -115,7 +115,7 @@ class Desk {
   void Follow_Active_State() { view_.Follow_Active_State(); }
   void Follow_Idle_Time() { compact_.Auto_Compact_Check(edit_box_.Editor_Visible()); }
   void Follow_Work_Area() { placement_.RePosition(); }
-  void Keep_Title() { view_.Keep_Title(); }
+  void Keep_Title(const basic::Moment& now) { view_.Keep_Title(now); }
 
   /// Goes to the present month, sets its wallpaper and shows the new day's alert if it is due.
   void Begin_New_Day();

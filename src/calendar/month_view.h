@@ -26,8 +26,8 @@ class Month_View {
   /// Applies all colours and marks today.
   void Paint();
 
-  /// Called on each tick: writes the title again if it has changed.
-  void Keep_Title() { title_.Keep_Written(); }
+  /// Called on each tick with the present moment: writes the title again if it has changed.
+  void Keep_Title(const basic::Moment& now) { title_.Keep_Written(now); }
 
   /// Draws the title, and the grid unless compact mode is on.
   void Refresh_Calendar();

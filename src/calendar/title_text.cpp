@@ -9,10 +9,9 @@ Title_Text::Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const set
                        const state::Calendar_State& calendar)
     : main_frm_(main_frm), dates_(dates), settings_(settings), calendar_(calendar) {}
 
-void Title_Text::Write() {
-  const basic::Moment now = dates_.Now();
+void Title_Text::Write(const basic::Moment& now) {
   main_frm_.Which_Month_Lbl.Caption =
-      Get_Bar_Text(settings_.Bar_Time, settings_.Bar_Time_Format, settings_.Bar_Date_Format);
+      Bar_Text(now, settings_.Bar_Time, settings_.Bar_Time_Format, settings_.Bar_Date_Format);
   written_ = {now.Day,
               now.Seconds(),
               calendar_.View_Month,
@@ -24,8 +23,8 @@ void Title_Text::Write() {
               text_};
 }
 
-void Title_Text::Keep_Written() {
-  if (!Is_Written_For(dates_.Now())) Write();
+void Title_Text::Keep_Written(const basic::Moment& now) {
+  if (!Is_Written_For(now)) Write(now);
 }
 
 bool Title_Text::Is_Written_For(const basic::Moment& now) const {
@@ -37,7 +36,11 @@ bool Title_Text::Is_Written_For(const basic::Moment& now) const {
 
 const std::string& Title_Text::Get_Bar_Text(bool show_time, const std::string& time_format,
                                             const std::string& date_format) {
-  const basic::Moment now = dates_.Now();
+  return Bar_Text(dates_.Now(), show_time, time_format, date_format);
+}
+
+const std::string& Title_Text::Bar_Text(const basic::Moment& now, bool show_time, const std::string& time_format,
+                                        const std::string& date_format) {
   const int today = basic::Civil_From_Serial(now.Day).Day;
   const basic::Moment day_of_view{basic::Date_Serial(calendar_.View_Year.Value(), calendar_.View_Month.Value(), today),
                                   0};

@@ -14,17 +14,20 @@ class Title_Text {
              const state::Calendar_State& calendar);
 
   /// Composes the text and writes it into the title.
-  void Write();
+  void Write() { Write(dates_.Now()); }
 
-  /// Called on each tick: composes and writes the text if something else stands in the title, or if anything that it is
+  /// Called on each tick with the present moment: composes and writes the text if something else stands in the title, or if anything that it is
   /// made of has changed. To do so on all of the ten ticks a second would be half of the idle calendar's work. A change
   /// of the locale is seen with the next second.
-  void Keep_Written();
+  void Keep_Written(const basic::Moment& now);
 
   /// The title of the month on view, with or without the time, in the two formats. Valid until the next call.
   const std::string& Get_Bar_Text(bool show_time, const std::string& time_format, const std::string& date_format);
 
  private:
+  void Write(const basic::Moment& now);
+  const std::string& Bar_Text(const basic::Moment& now, bool show_time, const std::string& time_format,
+                              const std::string& date_format);
   void Append_Month_And_Year(const basic::Moment& day_of_view);
   void Append_Day_With_Suffix(basic::Serial_Day day);
   void Append_Date(const std::string& format, const basic::Moment& now, const basic::Moment& day_of_view);

@@ -7,6 +7,8 @@ namespace platform {
 
 struct Pixel_Area {
   int Left = 0, Top = 0, Width = 0, Height = 0;  ///< pixels
+
+  friend bool operator==(const Pixel_Area&, const Pixel_Area&) = default;
 };
 
 /// Thrown where the user's desktop needs places beyond 16 bits of twips and the user hasn't consented to them. It is an

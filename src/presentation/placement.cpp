@@ -19,15 +19,19 @@ constexpr const char* manual_question =
 /// Where a window of that length must start to lie in the middle of the stretch.
 int Middle(std::int32_t stretch, double length) { return Round_To_Even(stretch - length) / 2; }
 
-}  // namespace
-
-Desktop_Rect GetDesktopRect(platform::Screen& screen, bool in_twips) {
-  const platform::Pixel_Area area = screen.Work_Area();
-  if (!in_twips) return {area.Left, area.Top, area.Width, area.Height};
+Desktop_Rect In_Twips(const platform::Pixel_Area& area, platform::Screen& screen) {
   const double across = screen.Twips_Per_Pixel_X();
   const double down = screen.Twips_Per_Pixel_Y();
   return {Round_To_Even(area.Left * across), Round_To_Even(area.Top * down), Round_To_Even(area.Width * across),
           Round_To_Even(area.Height * down)};
+}
+
+}  // namespace
+
+Desktop_Rect GetDesktopRect(platform::Screen& screen, bool in_twips) {
+  const platform::Pixel_Area area = screen.Work_Area();
+  if (in_twips) return In_Twips(area, screen);
+  return {area.Left, area.Top, area.Width, area.Height};
 }
 
 Placement::Placement(Main_Frm& main_frm, platform::Screen& screen, platform::Message_Box& message_box,
@@ -69,15 +73,19 @@ void Placement::Set_Repos() {
 }
 
 void Placement::RePosition() {
-  const Desktop_Rect area = GetDesktopRect(screen_, true);
+  const platform::Pixel_Area pixels = screen_.Work_Area();
+  if (pixels == followed_area_) return;
+  followed_area_.reset();
+  const Desktop_Rect area = In_Twips(pixels, screen_);
   const auto follow = [this](std::int32_t now, std::int32_t& saved) {
     if (now == saved) return false;
     Position_In_Force();
     saved = Allowed(now);
     return true;
   };
-  follow(area.Height, saved_work_area_.Height) || follow(area.Width, saved_work_area_.Width) ||
-      follow(area.Top, saved_work_area_.Top) || follow(area.Left, saved_work_area_.Left);
+  const bool changed = follow(area.Height, saved_work_area_.Height) || follow(area.Width, saved_work_area_.Width) ||
+                       follow(area.Top, saved_work_area_.Top) || follow(area.Left, saved_work_area_.Left);
+  if (!changed) followed_area_ = pixels;
 }
 
 std::int32_t Placement::Allowed(std::int32_t twips) const {

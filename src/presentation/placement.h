@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "basic/int16.h"
 #include "platform/message_box.h"
@@ -74,6 +75,8 @@ class Placement {
   settings::Stored_Settings& stored_;
   const state::Calendar_State& calendar_;
   Desktop_Rect saved_work_area_;  // in twips
+  /// The work area all of whose values are saved. The tick compares it first, since it stays the same for days.
+  std::optional<platform::Pixel_Area> followed_area_;
   Drag_Point drag_start_;
 };
 

@@ -14,10 +14,14 @@ class Fake_Screen : public platform::Screen {
  public:
   platform::Pixel_Area Area{0, 0, 1280, 1024};
   double Across = 15, Down = 15;
+  int Conversions = 0;
 
   platform::Pixel_Area Bounds() override { return {0, 0, 1280, 1024}; }
   platform::Pixel_Area Work_Area() override { return Area; }
-  double Twips_Per_Pixel_X() override { return Across; }
+  double Twips_Per_Pixel_X() override {
+    ++Conversions;
+    return Across;
+  }
   double Twips_Per_Pixel_Y() override { return Down; }
 };
 
@@ -228,6 +232,27 @@ TEST_F(Placement_Test, RePosition_follows_one_changed_value_a_call) {
   Made.Window.Move(-1, -1);
   Place.RePosition();
   EXPECT_EQ(Made.Window.Left(), -1) << "all four values are known by now";
+}
+
+TEST_F(Placement_Test, RePosition_follows_a_value_that_changes_back) {
+  Stored.Values.Alignment = 6;
+  Place.Set_Repos();
+  Place.RePosition();
+  const platform::Pixel_Area first = Screen.Area;
+  Screen.Area = {10, 20, 600, 500};
+  Place.RePosition();
+  Screen.Area = first;
+  Made.Window.Move(-1, -1);
+  Place.RePosition();
+  EXPECT_EQ(Made.Window.Left(), 0);
+}
+
+TEST_F(Placement_Test, RePosition_converts_nothing_while_the_work_area_stays) {
+  Place.Set_Repos();
+  Place.RePosition();
+  Screen.Conversions = 0;
+  Place.RePosition();
+  EXPECT_EQ(Screen.Conversions, 0);
 }
 
 TEST_F(Placement_Test, RePosition_looks_at_height_width_top_and_left_in_this_order) {
