@@ -161,6 +161,10 @@ def click_times(desktop, programs, button, places):
     return statistics.median(map(float, output.split()[1:]))
 
 
+def tool(name):
+    return f"Z:{TOOLS}/{name}.exe".replace("/", "\\")
+
+
 def on_screen(data, programs, rounds):
     """The month change by the arrow, the balloon, and the GDI objects."""
     events = (data / "32767/calendar.dat").read_bytes()
