@@ -118,21 +118,23 @@ def resident_memory(process):
 
 
 def idle(data, seconds):
-    """Both programs at the same time in the same prefix, in four pairs: where the ticks of the two lie to each other,
-    which is another matter in each pair, tells on what they cost."""
-    pairs = 4
+    """Both programs in turns in the same prefix, each alone: at the same time the one would find the processor's caches
+    warm from the other's tick."""
+    turns = 4
     times, memory = [0, 0], []
     with contextlib.closing(Plain_Prefix(data / "today")) as plain:
-        for _ in range(pairs):
-            both = [plain.start("floor_window", TICK), plain.start("meridex")]
-            time.sleep(5)
-            before = [processor_time(process) for process in both]
-            time.sleep(seconds / pairs)
-            times = [sum + processor_time(process) - start for sum, process, start in zip(times, both, before)]
-            memory.append([resident_memory(process) for process in both])
-            for process in both:
+        for _ in range(turns):
+            held = []
+            for which, program in enumerate([("floor_window", TICK), ("meridex",)]):
+                process = plain.start(*program)
+                time.sleep(5)
+                before = processor_time(process)
+                time.sleep(seconds / turns)
+                times[which] += processor_time(process) - before
+                held.append(resident_memory(process))
                 process.terminate()
                 process.wait(20)
+            memory.append(held)
     floor_memory, own_memory = (statistics.median(column) for column in zip(*memory))
     floor_name = f"an empty program with a timer of {TICK} ms"
     return [

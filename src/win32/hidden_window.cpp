@@ -16,10 +16,15 @@ Hidden_Window::Hidden_Window(HINSTANCE instance, Guard& guard, const char* windo
   SetWindowLongPtrA(Window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
+bool Hidden_Window::Take(UINT message, WPARAM w) {
+  bool taken = false;
+  guard_.Run([&] { taken = Message(message, w); });
+  return taken;
+}
+
 LRESULT CALLBACK Hidden_Window::Procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
   auto* const self = reinterpret_cast<Hidden_Window*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-  bool taken = false;
-  if (self != nullptr) self->guard_.Run([&] { taken = self->Message(message, w); });
+  const bool taken = self != nullptr && self->Take(message, w);
   // Only its owner destroys it.
   return taken || message == WM_CLOSE ? 0 : DefWindowProcA(window, message, w, l);
 }

@@ -19,6 +19,9 @@ class Hidden_Window {
  protected:
   ~Hidden_Window() = default;
 
+  /// Runs Message as a callback of the system asks. Returns true if the message is handled.
+  bool Take(UINT message, WPARAM w);
+
   /// Returns true if the message is handled.
   virtual bool Message(UINT message, WPARAM w) = 0;
 

@@ -34,6 +34,7 @@ bool Message_Loop::Serve_Waiting() {
 }
 
 void Message_Loop::Dispatch(MSG& message) {
+  if (context_.Timers.Take_Tick(message)) return;
   bool taken = false;
   if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
     Program_Window* const window = context_.Windows.Around(message.hwnd);

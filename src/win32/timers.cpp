@@ -17,6 +17,10 @@ void Timers::Stop(toolkit::Timer& timer) {
   running_.erase(found);
 }
 
+bool Timers::Take_Tick(const MSG& message) {
+  return message.message == WM_TIMER && message.hwnd == Window() && Take(WM_TIMER, message.wParam);
+}
+
 bool Timers::Message(UINT message, WPARAM w) {
   if (message != WM_TIMER) return false;
   const auto found =

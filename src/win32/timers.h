@@ -16,6 +16,10 @@ class Timers final : private Hidden_Window {
   void Start(toolkit::Timer& timer);
   void Stop(toolkit::Timer& timer);
 
+  /// Serves a tick from the program's own queue without the system's rounds through window and class, which cost more than
+  /// most ticks do. Returns false if the message is something else.
+  bool Take_Tick(const MSG& message);
+
  private:
   bool Message(UINT message, WPARAM w) override;
 

@@ -2,18 +2,16 @@
 #pragma once
 
 #include "win32/broadcasts.h"
-#include "win32/timers.h"
 
 namespace win32 {
 
 class Win32_Backend final : public toolkit::Backend {
  public:
-  explicit Win32_Backend(Window_Context& context)
-      : context_(context), broadcasts_(context), timers_(context.Instance, context.Guard) {}
+  explicit Win32_Backend(Window_Context& context) : context_(context), broadcasts_(context) {}
 
   std::unique_ptr<toolkit::Form_Peer> Make_Peer(toolkit::Form& form) override;
-  void Start_Timer(toolkit::Timer& timer) override { timers_.Start(timer); }
-  void Stop_Timer(toolkit::Timer& timer) override { timers_.Stop(timer); }
+  void Start_Timer(toolkit::Timer& timer) override { context_.Timers.Start(timer); }
+  void Stop_Timer(toolkit::Timer& timer) override { context_.Timers.Stop(timer); }
   toolkit::Form* Active_Form() override;
   double Twips_Per_Pixel(toolkit::Axis axis) override;
   double Frame_Size(toolkit::Form_Border border, toolkit::Axis axis) override;
@@ -27,7 +25,6 @@ class Win32_Backend final : public toolkit::Backend {
  private:
   Window_Context& context_;
   Broadcasts broadcasts_;
-  Timers timers_;
 };
 
 }  // namespace win32

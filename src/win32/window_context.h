@@ -10,6 +10,7 @@
 #include "win32/painter.h"
 #include "win32/pointers.h"
 #include "win32/scale.h"
+#include "win32/timers.h"
 #include "win32/work_on_windows.h"
 
 namespace toolkit {
@@ -72,6 +73,7 @@ struct Window_Context {
   HINSTANCE Instance;
   const UINT Code_Page;  ///< of all texts
   win32::Guard Guard;
+  win32::Timers Timers{Instance, Guard};
   const win32::Scale Scale = Scale::Of_Screen();
   win32::Fonts Fonts{Scale, Code_Page};
   Stock_Pictures Pictures;
