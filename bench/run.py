@@ -70,7 +70,8 @@ def main():
     found = []
     for group in options.group or GROUPS:
         print(f"Measuring: {group}", file=sys.stderr, flush=True)
-        found += measure(group, options.quick)
+        found += (of_group := measure(group, options.quick))
+        print(figures.table(of_group), file=sys.stderr, flush=True)  # a later group may fail
     print(f"\n{machine}\n\n{figures.table(found)}")
     over = sum(not figure.reached for figure in found)
     print(f"\n{len(found) - over} of {len(found)} goals reached")

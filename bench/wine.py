@@ -238,3 +238,20 @@ def csv_import():
     return [Figure("Wine: CSV import of 10,000 rows of new days", seconds_of_import(new_days), "s", 60),
             Figure("Wine: CSV import of 10,000 rows into the first 7 of 30,000 lines", seconds_of_import(first_days, events),
                    "s", 60)]
+
+
+def jpeg(data, rounds):
+    picture, bitmap, floor_bitmap = (data / name for name in ("picture.jpg", "picture.bmp", "floor.bmp"))
+    subprocess.run(["convert", "-seed", "7", "-size", "1920x1200", "plasma:", "-quality", "90", picture], check=True)
+    with contextlib.closing(Plain_Prefix(data / "today")) as plain:
+        environment = plain.prefix.environment
+        windows = [f"Z:{path}".replace("/", "\\") for path in (picture, bitmap)]
+        own, process, floor = medians(
+            rounds,
+            lambda: seconds_of([WINE, tool("bench_jpeg"), *windows], environment),
+            lambda: seconds_of([WINE, tool("bench_jpeg")], environment),
+            lambda: seconds_of(["djpeg", "-bmp", "-outfile", floor_bitmap, picture]))
+    if not bitmap.exists() or bitmap.stat().st_size < 1920 * 1200 * 3:
+        raise RuntimeError("no bitmap was written")
+    return [Figure("Wine: JPEG of 1920 by 1200 to a bitmap", own * 1e3, "ms", 1.5, (process + floor) * 1e3,
+                   "djpeg -bmp, and an empty program")]
