@@ -29,6 +29,7 @@ std::string Random_Actions::Next(const Situation& situation) {
   if (windows_.Any_Window() && random_.Once_In(2)) return windows_.Next();
   // A held press in the last moments of a day is waited for until the next one; better not begin it.
   const bool may_press = !situation.balloons || situation.second_of_the_day < seconds_of_a_day - 60;
+  if (situation.balloons && may_press && random_.Once_In(4)) return windows_.Hold_An_Event();
   const int kind = random_.Below(1000);
   if (kind < 620) return Of_The_User(may_press);
   if (kind < 680) return Wait();
@@ -173,6 +174,7 @@ std::string Random_Actions::Restart(bool healed) {
   std::string lines;
   if (healed) lines += Healed_Settings() + "workarea 0 0 1280 1024\n" + Make_Pack("Default", "0-4-0");
   for (int count = random_.Below(5); count > 0; --count) lines += Stored_Setting(random_);
+  if (random_.Once_In(4)) lines += "setting Settings Tooltips 2\n";
   lines += std::string("setting Desktop Modern ") + (random_.Once_In(4) ? "1" : "0") + "\n";
   if (random_.Once_In(5)) lines += std::string("locale ") + random_.One_Of(locales) + "\n";
   if (random_.Once_In(5)) lines += std::string("shell ") + random_.One_Of(shells) + "\n";

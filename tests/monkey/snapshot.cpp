@@ -91,8 +91,11 @@ Snapshot Snapshot_Of(const play::World& world) {
       box.caption = label->Caption;
       box.caption_tip = label->ToolTipText;
       box.caption_place = label->In_Twips();
-      // Out of the window's sight a caption keeps whatever size it had.
-      if (box.caption_place.Left >= parked) box.caption_place.Width = box.caption_place.Height = 0;
+      // Out of the window's sight a caption keeps whatever size it had, and its text is cut to that.
+      if (box.caption_place.Left >= parked) {
+        box.caption_place.Width = box.caption_place.Height = 0;
+        box.caption.clear();
+      }
     }
   }
   return snapshot;

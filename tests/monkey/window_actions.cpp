@@ -8,6 +8,7 @@
 #include "toolkit/frame.h"
 #include "toolkit/image.h"
 #include "toolkit/item_list.h"
+#include "toolkit/label.h"
 #include "toolkit/option_button.h"
 #include "toolkit/slider.h"
 #include "toolkit/tab_strip.h"
@@ -53,6 +54,16 @@ std::string Window_Actions::Open_Settings() {
     case 1: return "activate Main_Frm\nkey F8";
     default: return "activate Main_Frm\nkey F8\nclick TabStrip1(" + std::to_string(random_.Below(tab_count) + 1) + ")";
   }
+}
+
+std::string Window_Actions::Hold_An_Event() {
+  std::vector<int> marked;
+  for (const toolkit::Control* const control : world_.Find_Window("Main_Frm")->Controls()) {
+    const auto* const label = dynamic_cast<const toolkit::Label*>(control);
+    if (label != nullptr && label->Name == "Box_Lbl" && label->FontUnderline) marked.push_back(label->Index);
+  }
+  const int box = marked.empty() ? random_.Below(37) : random_.One_Of(marked);
+  return "hold Box_Lbl(" + std::to_string(box) + ") left 0.5";
 }
 
 std::string Window_Actions::Next() {

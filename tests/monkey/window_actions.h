@@ -23,6 +23,9 @@ class Window_Actions {
   /// Opens the settings window, by key or by menu.
   std::string Open_Settings();
 
+  /// The hold of a day that has an event, which opens its balloon where the settings say so; some label if there is none.
+  std::string Hold_An_Event();
+
   /// A key that some control or window may know what to do with.
   std::string Key();
 
