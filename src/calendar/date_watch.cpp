@@ -39,7 +39,7 @@ void Date_Watch::Tick() {
 void Date_Watch::Keep_On_Desktop() {
   if (!desktop_mode_.Modern() || input_.User_Is_Busy() || ++ticks_since_look_ < ticks_between_looks) return;
   ticks_since_look_ = 0;
-  embedding_.Embed_Again();
+  if (embedding_.Embed_Again()) desk_.Recolour(Colour_Part::Title_By_Activity);
 }
 
 }  // namespace calendar

@@ -48,6 +48,7 @@ void Month_View::Recolour(Colour_Part part) {
     case Colour_Part::Numbers: colours_.Colour_Nums(); break;
     case Colour_Part::Texts: colours_.Colour_Texts(); break;
     case Colour_Part::Title_Row: colours_.Colour_Menus(); break;
+    case Colour_Part::Title_By_Activity: colours_.Colour_Menus_By_Activity(); break;
     case Colour_Part::Inactive_Title: colours_.Colour_Inactive(); break;
   }
 }

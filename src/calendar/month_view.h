@@ -10,7 +10,7 @@
 namespace calendar {
 
 /// The parts of the window that a colour setting paints.
-enum class Colour_Part { Boxes, Today, Numbers, Texts, Title_Row, Inactive_Title };
+enum class Colour_Part { Boxes, Today, Numbers, Texts, Title_Row, Title_By_Activity, Inactive_Title };
 
 class Month_View {
  public:

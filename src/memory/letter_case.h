@@ -23,6 +23,8 @@ inline std::string Folded(std::string_view text) {
   return result;
 }
 
-inline bool Same_Name(std::string_view a, std::string_view b) { return Folded(a) == Folded(b); }
+inline bool Same_Name(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, Fold_Letter, Fold_Letter);
+}
 
 }  // namespace memory

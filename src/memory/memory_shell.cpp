@@ -28,18 +28,18 @@ bool Memory_Shell::Exists(Window_Handle window) {
 
 Window_Handle Memory_Shell::If_There(Part part) { return Exists(Handle_Of(part)) ? Handle_Of(part) : 0; }
 
-Window_Handle Memory_Shell::Find_Top_Window(const std::string& window_class, const std::string& caption) {
+Window_Handle Memory_Shell::Find_Top_Window(const char* window_class, const char* caption) {
   const bool wanted = Same_Name(window_class, "Progman") && Same_Name(caption, "Program Manager");
   return wanted ? If_There(Part::Progman) : 0;
 }
 
-Window_Handle Memory_Shell::Find_Next_Top_Window(Window_Handle after, const std::string& window_class) {
+Window_Handle Memory_Shell::Find_Next_Top_Window(Window_Handle after, const char* window_class) {
   if (!Same_Name(window_class, "WorkerW")) return 0;
   if (after == 0) return If_There(Part::First_Worker);
   return after == Handle_Of(Part::First_Worker) ? If_There(Part::Second_Worker) : 0;
 }
 
-Window_Handle Memory_Shell::Find_Child(Window_Handle parent, const std::string& window_class) {
+Window_Handle Memory_Shell::Find_Child(Window_Handle parent, const char* window_class) {
   if (parent == Handle_Of(Holder_Of_View()) && Same_Name(window_class, "SHELLDLL_DefView"))
     return If_There(Part::Def_View);
   if (parent == Handle_Of(Part::Def_View) && Same_Name(window_class, "SysListView32")) return If_There(Part::Icon_List);
@@ -54,8 +54,17 @@ platform::Adoption Memory_Shell::Set_Parent(Window_Handle window, Window_Handle 
   return platform::Adoption::Done;
 }
 
-int Memory_Shell::Send(Window_Handle window, unsigned message, int parameter) {
-  if (!Exists(window)) return 0;
+/// Waits for the answer.
+bool Memory_Shell::Answers(Window_Handle window, int patience) {
+  if (!Exists(window)) return false;
+  const bool in_time = answers_left_ > 0 && answer_time_ < patience;
+  waits_ += in_time ? answer_time_ : patience;
+  if (in_time && answers_left_ != endless) --answers_left_;
+  return in_time;
+}
+
+std::optional<int> Memory_Shell::Send(Window_Handle window, unsigned message, int parameter, int patience) {
+  if (!Answers(window, patience)) return std::nullopt;
   if (window != Handle_Of(Part::Icon_List)) throw std::logic_error("a message to a desktop window that knows none");
   switch (message) {
     case platform::get_text_colour: return icon_text_;
@@ -69,8 +78,10 @@ void Memory_Shell::Invalidate(Window_Handle window) {
   if (window == Handle_Of(Part::Icon_List) && Exists(window)) invalid_ = true;
 }
 
-void Memory_Shell::Update(Window_Handle window) {
-  if (window == Handle_Of(Part::Icon_List) && Exists(window) && std::exchange(invalid_, false)) ++repaints_;
+bool Memory_Shell::Update(Window_Handle window, int patience) {
+  if (!Answers(window, patience)) return false;
+  if (window == Handle_Of(Part::Icon_List) && std::exchange(invalid_, false)) ++repaints_;
+  return true;
 }
 
 void Memory_Shell::Set_Icon_Colours(int back, int text) {

@@ -2,6 +2,7 @@
 // of them exist.
 #pragma once
 
+#include <limits>
 #include <map>
 #include <utility>
 
@@ -14,17 +15,17 @@ enum class Shell_Chain { None, Progman, Def_View, Icon_List };
 
 class Memory_Shell : public platform::Desktop_Shell {
  public:
-  platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
-  platform::Window_Handle Find_Next_Top_Window(platform::Window_Handle after, const std::string& window_class) override;
+  platform::Window_Handle Find_Top_Window(const char* window_class, const char* caption) override;
+  platform::Window_Handle Find_Next_Top_Window(platform::Window_Handle after, const char* window_class) override;
   bool Exists(platform::Window_Handle window) override;
-  platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
+  platform::Window_Handle Find_Child(platform::Window_Handle parent, const char* window_class) override;
 
   /// The list of icons answers the three messages for its colours. Any other message, or one to another window of the
-  /// desktop, throws std::logic_error; a window that doesn't exist answers 0.
-  int Send(platform::Window_Handle window, unsigned message, int parameter) override;
+  /// desktop, throws std::logic_error.
+  std::optional<int> Send(platform::Window_Handle window, unsigned message, int parameter, int patience) override;
   platform::Adoption Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
-  void Update(platform::Window_Handle window) override;
+  bool Update(platform::Window_Handle window, int patience) override;
 
   void Set_Chain(Shell_Chain chain) { chain_ = chain; }
 
@@ -39,6 +40,16 @@ class Memory_Shell : public platform::Desktop_Shell {
 
   /// The next attempt to make a window a child fails, as in a shell that is just starting.
   void Fail_Once() { fail_once_ = true; }
+
+  /// From now on no window answers, or after that many answers more.
+  void Hang(bool hang) { answers_left_ = hang ? 0 : endless; }
+  void Hang_After(int answers) { answers_left_ = answers; }
+
+  /// Each answer takes that long, in milliseconds.
+  void Answer_After(int milliseconds) { answer_time_ = milliseconds; }
+
+  /// How long answers have been waited for since the last call, in milliseconds.
+  int Take_Waits() { return std::exchange(waits_, 0); }
 
   /// The shell ends and comes again, with windows of other handles. What was a child of the old ones is one no longer.
   void Restart() { ++life_; }
@@ -59,8 +70,11 @@ class Memory_Shell : public platform::Desktop_Shell {
  private:
   enum class Part { First_Worker = 1, Second_Worker, Progman, Def_View, Icon_List };
 
+  static constexpr int endless = std::numeric_limits<int>::max();
+
   [[nodiscard]] platform::Window_Handle Handle_Of(Part part) const;
   [[nodiscard]] platform::Window_Handle If_There(Part part);
+  [[nodiscard]] bool Answers(platform::Window_Handle window, int patience);
   [[nodiscard]] Part Holder_Of_View() const { return worker_ ? Part::Second_Worker : Part::Progman; }
 
   Shell_Chain chain_ = Shell_Chain::None;
@@ -71,6 +85,8 @@ class Memory_Shell : public platform::Desktop_Shell {
   bool invalid_ = false;
   int repaints_ = 0;
   int moves_ = 0;
+  int answers_left_ = endless;
+  int answer_time_ = 0, waits_ = 0;  // milliseconds
   std::map<platform::Window_Handle, platform::Window_Handle> parents_;
 };
 

@@ -11,8 +11,7 @@ void Colours::Set_Colours() {
   Colour_Boxes();
   Colour_Nums();
   Colour_Texts();
-  Colour_Menus();
-  if (!Is_Active()) Colour_Inactive();
+  Colour_Menus_By_Activity();
 }
 
 void Colours::Colour_Boxes() {
@@ -36,6 +35,11 @@ void Colours::Colour_Menus() {
   const std::int32_t back = calendar_.Desktop_Back_Colour;
   main_frm_.Window.BackColor = back == platform::no_colour ? dark_grey : back;
   Colour_Title_Row(calendar_.Desktop_Text_Colour);
+}
+
+void Colours::Colour_Menus_By_Activity() {
+  Colour_Menus();
+  if (!Is_Active()) Colour_Inactive();
 }
 
 void Colours::Colour_Inactive() { Colour_Title_Row(settings_.Inactive); }

@@ -21,6 +21,9 @@ class Colours {
   /// Colours the window's background and the title row, from the settings or from the desktop.
   void Colour_Menus();
 
+  /// The same, with the title row in the inactive colour while another window is active.
+  void Colour_Menus_By_Activity();
+
   /// Colours the title row as inactive; the window's background stays.
   void Colour_Inactive();
 

@@ -1,15 +1,19 @@
 #include "presentation/desktop_embedding.h"
 
-#include <string>
 #include <utility>
 
 namespace presentation {
 
 namespace {
 
-// Made once: the tick asks for some of them, and allocates nothing.
-const std::string top_class = "Progman", top_caption = "Program Manager", worker_class = "WorkerW";
-const std::string view_class = "SHELLDLL_DefView", list_class = "SysListView32";
+constexpr char top_class[] = "Progman", top_caption[] = "Program Manager", worker_class[] = "WorkerW";
+constexpr char view_class[] = "SHELLDLL_DefView", list_class[] = "SysListView32";
+
+// How long the shell is waited for, in milliseconds. At the start of a session it is busy; on the tick the user would
+// feel it.
+constexpr int patience_at_start = 10'000, patience_on_tick = 200;
+
+constexpr int ticks_without_questions = 50;  // five seconds
 
 }  // namespace
 
@@ -20,33 +24,42 @@ Desktop_Embedding::Desktop_Embedding(platform::Desktop_Shell& shell, Main_Frm& m
       show_splash_(std::move(show_splash)) {}
 
 void Desktop_Embedding::No_ShowDesktop_and_IconColours() {
-  progman_hwnd_ = shell_.Find_Top_Window(top_class, top_caption);
-  if (progman_hwnd_ == 0) return;
+  const platform::Window_Handle progman = shell_.Find_Top_Window(top_class, top_caption);
+  if (progman == 0) return;
   if (settings_.Show_Splash == 1) show_splash_();
-  Find_Icons();
-  Enter_Desktop();
+  // A move to a shell that hangs would never end, so it comes only after answers.
+  if (Find_Icons(progman) && Learn_Colours(patience_at_start)) Enter_Desktop();
 }
 
 /// On newer systems the view of the icons may be in one of several other windows.
-void Desktop_Embedding::Find_Icons() {
+bool Desktop_Embedding::Find_Icons(platform::Window_Handle progman) {
   iconlist_hwnd_ = 0;
-  icons_top_hwnd_ = progman_hwnd_;
-  defview_hwnd_ = shell_.Find_Child(progman_hwnd_, view_class);
+  icons_top_hwnd_ = progman;
+  defview_hwnd_ = shell_.Find_Child(progman, view_class);
   if (defview_hwnd_ == 0) {
     icons_top_hwnd_ = 0;
     do {
       icons_top_hwnd_ = shell_.Find_Next_Top_Window(icons_top_hwnd_, worker_class);
-      if (icons_top_hwnd_ == 0) return;
+      if (icons_top_hwnd_ == 0) return false;
       defview_hwnd_ = shell_.Find_Child(icons_top_hwnd_, view_class);
     } while (defview_hwnd_ == 0);
   }
   iconlist_hwnd_ = shell_.Find_Child(defview_hwnd_, list_class);
+  return iconlist_hwnd_ != 0;
+}
+
+/// Both colours or none: returns false where the icons don't answer.
+bool Desktop_Embedding::Learn_Colours(int patience) {
+  const auto back = shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0, patience);
+  if (!back) return false;
+  const auto text = shell_.Send(iconlist_hwnd_, platform::get_text_colour, 0, patience);
+  if (!text) return false;
+  calendar_.Desktop_Back_Colour = *back;
+  calendar_.Desktop_Text_Colour = *text;
+  return true;
 }
 
 bool Desktop_Embedding::Enter_Desktop() {
-  if (iconlist_hwnd_ == 0 || icons_top_hwnd_ == refused_) return false;
-  calendar_.Desktop_Back_Colour = shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0);
-  calendar_.Desktop_Text_Colour = shell_.Send(iconlist_hwnd_, platform::get_text_colour, 0);
   const platform::Adoption adoption = shell_.Set_Parent(main_frm_.Window.Handle(), icons_top_hwnd_);
   const bool done = adoption == platform::Adoption::Done;
   embedded_ = done ? main_frm_.Window.Handle() : 0;
@@ -60,21 +73,33 @@ bool Desktop_Embedding::Embedded() const {
 }
 
 bool Desktop_Embedding::Embed_Again() {
-  if (Embedded()) return false;
+  if (ticks_left_alone_ > 0 || Embedded()) return false;
   embedded_ = 0;
   iconlist_hwnd_ = 0;
-  progman_hwnd_ = shell_.Find_Top_Window(top_class, top_caption);
-  if (progman_hwnd_ == 0) return false;
-  Find_Icons();
-  return Enter_Desktop();
+  const platform::Window_Handle progman = shell_.Find_Top_Window(top_class, top_caption);
+  if (progman == 0 || !Find_Icons(progman) || icons_top_hwnd_ == refused_) return false;
+  if (Learn_Colours(patience_on_tick)) return Enter_Desktop();
+  ticks_left_alone_ = ticks_without_questions;
+  return false;
 }
 
 void Desktop_Embedding::Keep_Desktop_Text_Clear() {
+  if (ticks_left_alone_ > 0) {
+    --ticks_left_alone_;
+    return;
+  }
   if (settings_.Trans_Icons != 1 || iconlist_hwnd_ == 0) return;
-  if (shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0) == platform::no_colour) return;
-  shell_.Send(iconlist_hwnd_, platform::set_text_back_colour, platform::no_colour);
+  if (!Clear_Text()) ticks_left_alone_ = ticks_without_questions;
+}
+
+/// Returns false where the icons don't answer.
+bool Desktop_Embedding::Clear_Text() {
+  const auto back = shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0, patience_on_tick);
+  if (back == platform::no_colour) return true;
+  if (!back || !shell_.Send(iconlist_hwnd_, platform::set_text_back_colour, platform::no_colour, patience_on_tick))
+    return false;
   shell_.Invalidate(iconlist_hwnd_);
-  shell_.Update(iconlist_hwnd_);
+  return shell_.Update(iconlist_hwnd_, patience_on_tick);
 }
 
 }  // namespace presentation

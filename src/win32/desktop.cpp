@@ -2,13 +2,6 @@
 
 namespace win32 {
 
-namespace {
-
-// Milliseconds: a shell that hangs must not make the calendar hang.
-constexpr UINT patience = 1000;
-
-}  // namespace
-
 platform::Pixel_Area Primary_Screen::Bounds() {
   return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
@@ -24,26 +17,26 @@ void Desktop_Picture::Set_Picture(const std::string& path) {
   SystemParametersInfoA(SPI_SETDESKWALLPAPER, 0, copy.data(), SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
 }
 
-platform::Window_Handle Shell_Windows::Find_Top_Window(const std::string& window_class, const std::string& caption) {
-  return To_Handle(FindWindowA(window_class.c_str(), caption.c_str()));
+platform::Window_Handle Shell_Windows::Find_Top_Window(const char* window_class, const char* caption) {
+  return To_Handle(FindWindowA(window_class, caption));
 }
 
-platform::Window_Handle Shell_Windows::Find_Next_Top_Window(platform::Window_Handle after,
-                                                            const std::string& window_class) {
-  return To_Handle(FindWindowExA(nullptr, To_Window(after), window_class.c_str(), nullptr));
+platform::Window_Handle Shell_Windows::Find_Next_Top_Window(platform::Window_Handle after, const char* window_class) {
+  return To_Handle(FindWindowExA(nullptr, To_Window(after), window_class, nullptr));
 }
 
 bool Shell_Windows::Exists(platform::Window_Handle window) { return IsWindow(To_Window(window)) != 0; }
 
-platform::Window_Handle Shell_Windows::Find_Child(platform::Window_Handle parent, const std::string& window_class) {
-  return To_Handle(FindWindowExA(To_Window(parent), nullptr, window_class.c_str(), nullptr));
+platform::Window_Handle Shell_Windows::Find_Child(platform::Window_Handle parent, const char* window_class) {
+  return To_Handle(FindWindowExA(To_Window(parent), nullptr, window_class, nullptr));
 }
 
-int Shell_Windows::Send(platform::Window_Handle window, unsigned message, int parameter) {
+std::optional<int> Shell_Windows::Send(platform::Window_Handle window, unsigned message, int parameter, int patience) {
   DWORD_PTR result = 0;
+  const auto limit = static_cast<UINT>(patience);
   const bool answered =
-      SendMessageTimeoutA(To_Window(window), message, 0, parameter, SMTO_ABORTIFHUNG, patience, &result) != 0;
-  return answered ? static_cast<int>(result) : platform::no_colour;
+      SendMessageTimeoutA(To_Window(window), message, 0, parameter, SMTO_ABORTIFHUNG, limit, &result) != 0;
+  return answered ? std::optional(static_cast<int>(result)) : std::nullopt;
 }
 
 platform::Adoption Shell_Windows::Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) {
@@ -54,10 +47,10 @@ platform::Adoption Shell_Windows::Set_Parent(platform::Window_Handle window, pla
 void Shell_Windows::Invalidate(platform::Window_Handle window) { InvalidateRect(To_Window(window), nullptr, TRUE); }
 
 // The painting itself can't be waited for with a limit.
-void Shell_Windows::Update(platform::Window_Handle window) {
-  DWORD_PTR result = 0;
-  if (SendMessageTimeoutA(To_Window(window), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, patience, &result) != 0)
-    UpdateWindow(To_Window(window));
+bool Shell_Windows::Update(platform::Window_Handle window, int patience) {
+  if (!Send(window, WM_NULL, 0, patience)) return false;
+  UpdateWindow(To_Window(window));
+  return true;
 }
 
 }  // namespace win32

@@ -30,14 +30,14 @@ class Shell_Windows final : public platform::Desktop_Shell {
  public:
   explicit Shell_Windows(Window_Context& context) : context_(context) {}
 
-  platform::Window_Handle Find_Top_Window(const std::string& window_class, const std::string& caption) override;
-  platform::Window_Handle Find_Next_Top_Window(platform::Window_Handle after, const std::string& window_class) override;
+  platform::Window_Handle Find_Top_Window(const char* window_class, const char* caption) override;
+  platform::Window_Handle Find_Next_Top_Window(platform::Window_Handle after, const char* window_class) override;
   bool Exists(platform::Window_Handle window) override;
-  platform::Window_Handle Find_Child(platform::Window_Handle parent, const std::string& window_class) override;
-  int Send(platform::Window_Handle window, unsigned message, int parameter) override;
+  platform::Window_Handle Find_Child(platform::Window_Handle parent, const char* window_class) override;
+  std::optional<int> Send(platform::Window_Handle window, unsigned message, int parameter, int patience) override;
   platform::Adoption Set_Parent(platform::Window_Handle window, platform::Window_Handle parent) override;
   void Invalidate(platform::Window_Handle window) override;
-  void Update(platform::Window_Handle window) override;
+  bool Update(platform::Window_Handle window, int patience) override;
 
  private:
   Window_Context& context_;

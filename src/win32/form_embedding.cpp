@@ -43,6 +43,18 @@ void Become_Ordinary(HWND window) {
   Move_Under(window, nullptr);
 }
 
+/// While one lives, its flag is set.
+class Set_Meanwhile {
+ public:
+  explicit Set_Meanwhile(bool& flag) : flag_(flag) { flag_ = true; }
+  Set_Meanwhile(const Set_Meanwhile&) = delete;
+  Set_Meanwhile& operator=(const Set_Meanwhile&) = delete;
+  ~Set_Meanwhile() { flag_ = false; }
+
+ private:
+  bool& flag_;
+};
+
 }  // namespace
 
 /// A child can't own windows: they would be the shell's, and go with it.
@@ -52,10 +64,13 @@ void Form_Window::Give_Up_Owned() {
     if (GetWindow(other->Window(), GW_OWNER) == Window()) SetWindowLongPtrA(other->Window(), GWLP_HWNDPARENT, 0);
 }
 
+/// The shell may end at any moment of this, and the window with it. What is gone is left to the next Settle.
 platform::Adoption Form_Window::Embed(HWND parent) {
+  using enum platform::Adoption;
+  if (IsWindow(Window()) == 0) return Failed;
   const Work_On_Windows::Step step(context_.Work);
   context_.Note_Pointer(form_.System().Input);
-  changing_parent_ = true;
+  const Set_Meanwhile in_between(in_between_);
   const HWND before = Embedded() ? HWND_BOTTOM : GetWindow(Window(), GW_HWNDPREV);
   Become_Plain(Window());
   const bool keeps_bitmap = (GetWindowLongA(parent, GWL_EXSTYLE) & no_redirection_bitmap) == 0;
@@ -70,28 +85,37 @@ platform::Adoption Form_Window::Embed(HWND parent) {
     SetWindowPos(Window(), seen ? HWND_TOP : before, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
     surface_.Repaint_All();
   }
-  changing_parent_ = false;
-  using enum platform::Adoption;
-  return seen ? Done : moved ? Unseen : Failed;
+  if (seen) return Done;
+  return moved && IsWindow(Window()) != 0 ? Unseen : Failed;
 }
 
-RECT Form_Window::Place_In_Parent() const {
+RECT Form_Window::Place_In_Parent() {
   RECT place = place_;
-  if (parent_ != nullptr) MapWindowPoints(nullptr, parent_, reinterpret_cast<POINT*>(&place), 2);
+  if (parent_ == nullptr) return place;
+  GetWindowRect(parent_, &parent_place_);
+  MapWindowPoints(nullptr, parent_, reinterpret_cast<POINT*>(&place), 2);
   return place;
+}
+
+/// The shell's window covers all screens. When one is added or taken away at the left or above, its corner moves, and
+/// this window with it, which the system tells nobody.
+void Form_Window::Follow_Parent() {
+  RECT now = {};
+  if (GetWindowRect(parent_, &now) != 0 && EqualRect(&now, &parent_place_) == 0) Put_In_Place();
 }
 
 /// The shell's window has been destroyed, and this one with it: the form gets a new one, an ordinary one behind all
 /// others, as the desktop was.
 void Form_Window::Make_Anew() {
+  const Set_Meanwhile in_between(in_between_);
   toolkit::Input& input = form_.System().Input;
   if (input.Mouse_Window() == &form_) input.Mouse_Lost();
   if (context_.Active == this) {
     context_.Active = nullptr;
     input.Activity_Went(form_);
   }
+  if (Embedded()) context_.Embedded = false;
   parent_ = nullptr;
-  context_.Embedded = false;
   tip_.Forget();
   natives_.clear();
   Make_Window();

@@ -193,7 +193,7 @@ bool Form_Window::Active_Changed(bool active) {
 /// A place that the user chose is written to the form. A place that the form set stays there, with its fraction of a
 /// pixel.
 void Form_Window::Place_Changed(const WINDOWPOS& place) {
-  if ((place.flags & SWP_NOMOVE) != 0 || changing_parent_ || IsIconic(Window()) != 0) return;
+  if ((place.flags & SWP_NOMOVE) != 0 || in_between_ || IsIconic(Window()) != 0) return;
   // Asked for, since the message counts in a parent's pixels, of one written from right to left from the other side.
   RECT now = {};
   GetWindowRect(Window(), &now);

@@ -200,8 +200,9 @@ void Form_Window::Set_Round_Region(int width, int height, int corner) {
 
 void Form_Window::Settle() {
   const Work_On_Windows::Step step(context_.Work);
-  if (Embedded() && IsWindow(Window()) == 0) Make_Anew();
+  if (!in_between_ && IsWindow(Window()) == 0) Make_Anew();
   if (std::exchange(moved_, false)) Settle_Place();
+  if (Embedded()) Follow_Parent();
   if (std::exchange(cut_, false)) Settle_Region();
   if (std::exchange(natives_changed_, false)) Settle_Natives();
   surface_.Settle();
@@ -220,6 +221,11 @@ void Form_Window::Settle_Place() {
   // An outline follows the size as a whole.
   if (!same_size && form_.Outline_Corner != 0) surface_.Repaint_All();
   place_ = wanted;
+  Put_In_Place();
+}
+
+/// Tells the system where the window is.
+void Form_Window::Put_In_Place() {
   if (Minimised()) return Place_For_Return();
   context_.Note_Pointer(form_.System().Input);
   const RECT place = Place_In_Parent();
@@ -230,7 +236,7 @@ void Form_Window::Settle_Place() {
 }
 
 /// A window that is an icon has its place when it comes back. The system counts that from the corner of the work area.
-void Form_Window::Place_For_Return() const {
+void Form_Window::Place_For_Return() {
   WINDOWPLACEMENT placement = {};
   placement.length = sizeof placement;
   GetWindowPlacement(Window(), &placement);

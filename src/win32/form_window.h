@@ -86,9 +86,11 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   void Show_Pointer(const toolkit::Control* changed) const;
 
   [[nodiscard]] RECT Wanted_Place() const;
-  [[nodiscard]] RECT Place_In_Parent() const;
+  RECT Place_In_Parent();
   void Settle_Place();
-  void Place_For_Return() const;
+  void Follow_Parent();
+  void Put_In_Place();
+  void Place_For_Return();
   [[nodiscard]] HWND Next_Behind() const;
   void Settle_Region();
   void Settle_Natives();
@@ -101,9 +103,10 @@ class Form_Window final : public toolkit::Form_Peer, public Program_Window {
   toolkit::Form& form_;
   Window_Context& context_;
   Window_Owner window_;
-  HWND parent_ = nullptr;  // the shell's window that this one is a child of; nullptr for a top-level window
-  bool changing_parent_ = false;
-  RECT place_{};  // pixels of the screen
+  HWND parent_ = nullptr;    // the shell's window that this one is a child of; nullptr for a top-level window
+  bool in_between_ = false;  // the window is being moved to another parent or made anew
+  // Pixels of the screen: this window's place, and its parent's as it was when that was last set.
+  RECT place_{}, parent_place_{};
   Form_Surface surface_;
   std::vector<std::unique_ptr<Native_Control>> natives_;
   Brush_Owner ground_;  // behind the native controls

@@ -15,6 +15,12 @@ class Date_Watch_Test : public ::testing::Test, public Program_World {
 
   void Consent() { Platform.Store.Save("Meridex", "Desktop", "Modern", "1"); }
 
+  [[nodiscard]] toolkit::Label& Title() {
+    for (toolkit::Control* const control : Window("Main_Frm")->Controls())
+      if (control->Name == "Which_Month_Lbl") return dynamic_cast<toolkit::Label&>(*control);
+    throw std::logic_error("no title");
+  }
+
   [[nodiscard]] bool On_Desktop() { return Platform.Shell.Part_Of_Desktop(Window("Main_Frm")->Handle()); }
 };
 
@@ -30,6 +36,34 @@ TEST_F(Date_Watch_Test, With_the_consent_the_calendar_returns_within_a_second_of
     Pass(1.1);
     EXPECT_TRUE(On_Desktop()) << restart;
   }
+}
+
+TEST_F(Date_Watch_Test, The_new_desktops_colours_show_at_once) {
+  Consent();
+  Platform.Store.Save("Meridex", "Colours", "Menu Colour Source", "0");
+  Start();
+  for (const bool active : {true, false}) {
+    Platform.Windows().Activate(active ? Window("Main_Frm") : nullptr);
+    Pass(0.2);
+    const toolkit::Colour inactive = Title().ForeColor;
+    const int back = active ? 7 : 9, text = active ? 8 : 10;
+    Platform.Shell.Restart();
+    Platform.Shell.Set_Icon_Colours(back, text);
+    Pass(1.1);
+    ASSERT_TRUE(On_Desktop());
+    EXPECT_EQ(Window("Main_Frm")->BackColor(), back);
+    EXPECT_EQ(Title().ForeColor(), active ? text : inactive);
+  }
+}
+
+TEST_F(Date_Watch_Test, A_shell_that_hangs_at_the_start_takes_the_calendar_once_it_goes_on) {
+  Consent();
+  Platform.Shell.Hang(true);
+  Start();
+  EXPECT_FALSE(On_Desktop());
+  Platform.Shell.Hang(false);
+  Pass(1.1);
+  EXPECT_TRUE(On_Desktop());
 }
 
 TEST_F(Date_Watch_Test, While_the_desktop_stays_the_window_is_moved_once) {

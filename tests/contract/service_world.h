@@ -19,6 +19,12 @@ class Service_World {
   /// Runs what the program does, as the platform's loop runs it.
   virtual void Run(const std::function<void()>& work) = 0;
 
+  /// The desktop's windows, with icons of those colours: the background of their texts, and the texts. It may hang from
+  /// then on, or end.
+  virtual void Begin_Shell(int back, int text) = 0;
+  virtual void Hang_Shell() = 0;
+  virtual void End_Shell() = 0;
+
   /// Makes a folder in the program folder.
   virtual void Make_Folder(const std::string& name) = 0;
 

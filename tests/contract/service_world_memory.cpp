@@ -103,6 +103,12 @@ class Memory_World : public Service_World {
   void Run(const std::function<void()>& work) override { user_.Run(work); }
   platform::System& System() override { return system_; }
   toolkit::Backend& Backend() override { return platform_.Backend(); }
+  void Begin_Shell(int back, int text) override {
+    platform_.Shell.Set_Chain(memory::Shell_Chain::Icon_List);
+    platform_.Shell.Set_Icon_Colours(back, text);
+  }
+  void Hang_Shell() override { platform_.Shell.Hang(true); }
+  void End_Shell() override { platform_.Shell.Set_Chain(memory::Shell_Chain::None); }
   void Make_Folder(const std::string& name) override {
     platform_.Files.Make_Folder(memory::Memory_Files::Full_Path(name));
   }

@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include "tests/contract/service_world.h"
 #include "tests/win32/native_parts.h"
+#include "tests/win32/shell_thread.h"
 #include "win32/win32_platform.h"
 
 namespace {
@@ -206,6 +208,9 @@ class System_World : public Service_World {
   toolkit::Backend& Backend() override { return platform_.Backend(); }
   User& The_User() override { return user_; }
   void Run(const std::function<void()>& work) override { work(); }
+  void Begin_Shell(int back, int text) override { shell_.emplace(back, text); }
+  void Hang_Shell() override { shell_->Hang(); }
+  void End_Shell() override { shell_.reset(); }
   void Make_Folder(const std::string& name) override {
     std::filesystem::create_directories(System().Files.Program_Folder() + '\\' + name);
   }
@@ -217,6 +222,7 @@ class System_World : public Service_World {
  private:
   win32::Win32_Platform platform_{nullptr};
   System_User user_{platform_};
+  std::optional<Shell_Thread> shell_;
 };
 
 }  // namespace

@@ -7,6 +7,8 @@ from harness.waiting import wait_for
 LAYERED = 0x80000
 CLOSE = 16
 END_OF_SHELL = 0x8000 + 2
+SCREENS = 0x8000 + 3
+MOVE_VIEW = 0x8000 + 4
 
 
 class Shell_Test(Desktop_Test):
@@ -61,6 +63,15 @@ class Screens_Beyond(Shell_Test):
         self.turns_the_month(desktop)
         desktop.screen.key("F2")  # back, which places the window again
         wait_for(lambda: desktop.calendar_window().rect == desktop.place(), "the place of March")
+
+    def test_screens_that_come_and_go_leave_it_where_it_was(self):
+        desktop = self.shell(settings={"Alignment": 4})
+        desktop.started()
+        for left, top in ((300, 0), (300, 200), (0, 0)):
+            desktop.post(desktop.shell_window()["handle"], SCREENS, left, top)
+            wait_for(lambda: desktop.shell_window()["rect"][:2] == [-left, -top], "the desktop's new corner")
+            wait_for(lambda: desktop.calendar_window().rect == desktop.place(), f"the calendar at its place, {left} {top}")
+        self.turns_the_month(desktop)
 
     def test_a_drag_moves_it_and_stores_its_place_on_the_screen(self):
         desktop = self.shell(left=300, top=200, settings={"Alignment": 7, "Manual_PosX": 3000, "Manual_PosY": 3000,
@@ -175,6 +186,40 @@ class Shell_Begins_Again(Shell_Test):
         self.assertIn("Choir", desktop.message_box().text)
         self.assertIsNotNone(desktop.lone_calendar())
         self.assertIsNone(desktop.calendar_window())
+        desktop.answer("Return")
+
+
+class View_Of_The_Icons_Moves(Shell_Test):
+    def moved(self, desktop, to_worker):
+        shell = desktop.shell_window()
+        desktop.post(shell["handle"], MOVE_VIEW, int(to_worker))
+        wait_for(lambda: self.view_is_in(desktop) == ("WorkerW" if to_worker else "Progman"), "the view to move")
+
+    @staticmethod
+    def view_is_in(desktop):
+        return next(window["class"] for window in desktop.probe()
+                    if any(child["class"] == "SHELLDLL_DefView" for child in window["children"]))
+
+    def holder_class(self, desktop):
+        return self.holder(desktop)[0]["class"] if desktop.calendar_window() else None
+
+    def test_with_the_consent_the_calendar_follows_to_the_worker_and_back(self):
+        desktop = self.shell(settings={"Alignment": 4}, modern=True)
+        desktop.started()
+        for to_worker in (True, False, True):
+            self.moved(desktop, to_worker)
+            there = "WorkerW" if to_worker else "Progman"
+            wait_for(lambda: self.holder_class(desktop) == there, f"the calendar in the {there}")
+            self.assert_near(desktop.calendar_window().rect, desktop.place(), what="place")
+        self.turns_the_month(desktop)
+
+    def test_without_it_the_calendar_stays(self):
+        desktop = self.shell(settings={"Alignment": 4, "Show Alerts": 1}, events=["6/3/2004=Choir"])
+        desktop.started()
+        self.moved(desktop, True)
+        desktop.set_clock("2004-03-05 23:59:57")  # the box comes after more than one look for a desktop
+        self.assertIn("Choir", desktop.message_box().text)
+        self.assertEqual(self.holder_class(desktop), "Progman")
         desktop.answer("Return")
 
 

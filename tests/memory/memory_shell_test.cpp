@@ -53,22 +53,22 @@ TEST(Memory_Shell_Test, The_list_of_icons_tells_and_takes_its_colours) {
   shell.Set_Chain(Shell_Chain::Icon_List);
   shell.Set_Icon_Colours(123, 456);
   const Window_Handle list = List_Of(shell);
-  EXPECT_EQ(shell.Send(list, 4133, 0), 123);
-  EXPECT_EQ(shell.Send(list, 4131, 0), 456);
-  shell.Send(list, 4134, -1);
+  EXPECT_EQ(shell.Send(list, 4133, 0, 1000), 123);
+  EXPECT_EQ(shell.Send(list, 4131, 0, 1000), 456);
+  shell.Send(list, 4134, -1, 1000);
   EXPECT_EQ(shell.Icon_Back(), -1);
-  EXPECT_THROW(shell.Send(list, 4135, 0), std::logic_error);
+  EXPECT_THROW(shell.Send(list, 4135, 0, 1000), std::logic_error);
 }
 
 TEST(Memory_Shell_Test, A_repaint_is_an_update_of_what_was_marked) {
   Memory_Shell shell;
   shell.Set_Chain(Shell_Chain::Icon_List);
   const Window_Handle list = List_Of(shell);
-  shell.Update(list);
+  shell.Update(list, 1000);
   EXPECT_EQ(shell.Take_Repaints(), 0);
   shell.Invalidate(list);
-  shell.Update(list);
-  shell.Update(list);
+  shell.Update(list, 1000);
+  shell.Update(list, 1000);
   EXPECT_EQ(shell.Take_Repaints(), 1);
   EXPECT_EQ(shell.Take_Repaints(), 0);
 }
@@ -78,10 +78,26 @@ TEST(Memory_Shell_Test, A_handle_of_a_window_that_has_gone_does_nothing) {
   shell.Set_Chain(Shell_Chain::Icon_List);
   const Window_Handle list = List_Of(shell);
   shell.Set_Chain(Shell_Chain::None);
-  EXPECT_EQ(shell.Send(list, 4133, 0), 0);
+  EXPECT_EQ(shell.Send(list, 4133, 0, 1000), std::nullopt);
   shell.Invalidate(list);
-  shell.Update(list);
+  shell.Update(list, 1000);
   EXPECT_EQ(shell.Take_Repaints(), 0);
+}
+
+TEST(Memory_Shell_Test, Tells_how_long_answers_were_waited_for) {
+  Memory_Shell shell;
+  shell.Set_Chain(Shell_Chain::Icon_List);
+  const Window_Handle list = List_Of(shell);
+  shell.Send(list, 4133, 0, 1000);
+  EXPECT_EQ(shell.Take_Waits(), 0);
+  shell.Answer_After(700);
+  EXPECT_TRUE(shell.Send(list, 4133, 0, 1000));
+  EXPECT_FALSE(shell.Send(list, 4133, 0, 200));
+  EXPECT_EQ(shell.Take_Waits(), 900);
+  shell.Hang_After(1);
+  EXPECT_TRUE(shell.Send(list, 4133, 0, 1000));
+  EXPECT_FALSE(shell.Send(list, 4133, 0, 1000));
+  EXPECT_EQ(shell.Take_Waits(), 1700);
 }
 
 TEST(Memory_Shell_Test, Knows_what_was_moved_under_the_desktop) {

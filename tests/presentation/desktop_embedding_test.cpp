@@ -128,6 +128,71 @@ TEST_F(Desktop_Embedding_Test, A_desktop_that_refuses_the_calendar_is_asked_once
   EXPECT_TRUE(Embedding.Embed_Again()) << "another shell";
 }
 
+TEST_F(Desktop_Embedding_Test, A_start_waits_for_answers_that_take_their_time) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Set_Icon_Colours(123, 456);
+  Shell.Answer_After(9'000);
+  Embedding.No_ShowDesktop_and_IconColours();
+  EXPECT_TRUE(Moved());
+  EXPECT_EQ(State.Desktop_Back_Colour, 123);
+  EXPECT_EQ(State.Desktop_Text_Colour, 456);
+}
+
+TEST_F(Desktop_Embedding_Test, A_start_without_an_answer_leaves_window_and_colours_as_without_a_desktop) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Set_Icon_Colours(123, 456);
+  Shell.Hang(true);
+  Embedding.No_ShowDesktop_and_IconColours();
+  EXPECT_EQ(Shell.Moves(), 0) << "a move would hang too";
+  EXPECT_EQ(Shell.Take_Waits(), 10'000) << "one question is enough";
+  EXPECT_EQ(State.Desktop_Back_Colour, 0);
+  EXPECT_EQ(State.Desktop_Text_Colour, 0);
+  Shell.Hang(false);
+  EXPECT_TRUE(Embedding.Embed_Again());
+  EXPECT_EQ(State.Desktop_Text_Colour, 456);
+}
+
+TEST_F(Desktop_Embedding_Test, A_shell_that_answers_the_first_question_alone_gives_neither_colour) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Set_Icon_Colours(123, 456);
+  Shell.Hang_After(1);
+  Embedding.No_ShowDesktop_and_IconColours();
+  EXPECT_EQ(Shell.Moves(), 0);
+  EXPECT_EQ(State.Desktop_Back_Colour, 0);
+}
+
+TEST_F(Desktop_Embedding_Test, A_later_look_at_a_shell_that_hangs_is_short_and_rare) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Hang(true);
+  Settings.Trans_Icons = 1;
+  for (int tick = 0; tick < 51; ++tick) {
+    EXPECT_FALSE(Embedding.Embed_Again());
+    Embedding.Keep_Desktop_Text_Clear();
+  }
+  EXPECT_EQ(Shell.Take_Waits(), 2 * 200) << "once, and once more after five seconds";
+  EXPECT_EQ(Shell.Moves(), 0);
+}
+
+TEST_F(Desktop_Embedding_Test, Icons_that_do_not_answer_are_left_alone_for_five_seconds) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Set_Icon_Colours(123, 456);
+  Settings.Trans_Icons = 1;
+  Embedding.No_ShowDesktop_and_IconColours();
+  // The question, the setting and the painting may each be the one that has no answer.
+  for (const int answers : {0, 1, 2}) {
+    Shell.Set_Icon_Colours(123, 456);
+    Shell.Hang_After(answers);
+    Embedding.Keep_Desktop_Text_Clear();
+    EXPECT_EQ(Shell.Take_Waits(), 200) << answers;
+    Shell.Hang(false);
+    Shell.Set_Icon_Colours(123, 456);
+    for (int tick = 0; tick < 50; ++tick) Embedding.Keep_Desktop_Text_Clear();
+    EXPECT_EQ(Shell.Icon_Back(), 123) << answers;
+    Embedding.Keep_Desktop_Text_Clear();
+    EXPECT_EQ(Shell.Icon_Back(), platform::no_colour) << answers;
+  }
+}
+
 TEST_F(Desktop_Embedding_Test, A_move_that_failed_is_tried_again) {
   Shell.Set_Chain(Shell_Chain::Icon_List);
   Shell.Fail_Once();

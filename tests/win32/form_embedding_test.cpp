@@ -22,6 +22,15 @@ LRESULT CALLBACK Closes_While_It_Moves(HWND window, UINT message, WPARAM w, LPAR
   return CallWindowProcA(before, window, message, w, l);
 }
 
+/// Destroys a window, once, where this one is about to become layered.
+LRESULT CALLBACK Ends_A_Window_When_Layered(HWND window, UINT message, WPARAM w, LPARAM l) {
+  const auto before = reinterpret_cast<WNDPROC>(GetPropA(window, "before"));
+  const auto* const styles = reinterpret_cast<const STYLESTRUCT*>(l);
+  if (message == WM_STYLECHANGING && static_cast<int>(w) == GWL_EXSTYLE && (styles->styleNew & layered) != 0)
+    if (const auto ended = static_cast<HWND>(RemovePropA(window, "end"))) DestroyWindow(ended);
+  return CallWindowProcA(before, window, message, w, l);
+}
+
 class Form_Embedding : public Window_On_Screen {
  protected:
   Form_Embedding() {
@@ -35,9 +44,12 @@ class Form_Embedding : public Window_On_Screen {
     DestroyWindow(Parent);
   }
 
-  bool Embed(DWORD extended = 0) {
+  void Make_Parent(DWORD extended = 0) {
     Parent = CreateWindowExA(extended, "Static", "", WS_POPUP | WS_VISIBLE, -300, -200, 1600, 1200, nullptr, nullptr,
                              nullptr, nullptr);
+  }
+  bool Embed(DWORD extended = 0) {
+    Make_Parent(extended);
     return Move_To(win32::To_Handle(Parent)) == Adoption::Done;
   }
   Adoption Move_To(platform::Window_Handle parent) {
@@ -47,8 +59,11 @@ class Form_Embedding : public Window_On_Screen {
   /// The next change of the window's place asks that window to close.
   void Ask_While_It_Moves(HWND asked) {
     SetPropA(Handle(), "ask", asked);
+    Go_Before(&Closes_While_It_Moves);
+  }
+  void Go_Before(WNDPROC procedure) {
     SetPropA(Handle(), "before", reinterpret_cast<HANDLE>(GetWindowLongPtrA(Handle(), GWLP_WNDPROC)));
-    SetWindowLongPtrA(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Closes_While_It_Moves));
+    SetWindowLongPtrA(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
   }
 
   void End_Parent() {
@@ -90,6 +105,21 @@ TEST_F(Form_Embedding, A_place_that_the_user_gives_it_there_is_told_as_one_of_th
   SetWindowPos(Handle(), nullptr, 300 + 40, 200 + 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
   EXPECT_EQ(Window.Left(), 600);
   EXPECT_EQ(Window.Top(), 450);
+}
+
+TEST_F(Form_Embedding, A_parent_whose_corner_moves_leaves_it_at_its_place_on_the_screen) {
+  for (const DWORD extended : {DWORD{0}, DWORD{WS_EX_LAYOUTRTL}}) {
+    ASSERT_TRUE(Embed(extended));
+    const RECT before = Place();
+    for (const RECT& to : {RECT{-500, 0, 1300, 1000}, RECT{0, 0, 1300, 1000}}) {
+      SetWindowPos(Parent, nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top, SWP_NOZORDER);
+      Wait(50);
+      const RECT now = Place();
+      EXPECT_TRUE(EqualRect(&before, &now)) << now.left << ' ' << now.top;
+      EXPECT_EQ(Window.Left(), 1500);
+    }
+    End_Parent();
+  }
 }
 
 TEST_F(Form_Embedding, In_a_parent_written_from_right_to_left_too) {
@@ -164,6 +194,30 @@ TEST_F(Form_Embedding, It_can_be_embedded_again_after_that) {
   End_Parent();
   ASSERT_TRUE(Embed());
   EXPECT_EQ(GetAncestor(Handle(), GA_PARENT), Parent);
+}
+
+TEST_F(Form_Embedding, A_move_that_comes_before_it_is_made_anew_fails_and_does_no_harm) {
+  ASSERT_TRUE(Embed());
+  const HWND old = Parent;
+  Make_Parent();
+  DestroyWindow(old);
+  EXPECT_EQ(Move_To(win32::To_Handle(Parent)), Adoption::Failed);
+  Wait(50);
+  ASSERT_TRUE(IsWindow(Handle()));
+  EXPECT_TRUE(IsWindowVisible(Handle()));
+  EXPECT_EQ(Move_To(win32::To_Handle(Parent)), Adoption::Done);
+}
+
+TEST_F(Form_Embedding, A_parent_that_goes_before_the_window_is_layered_leaves_it_to_be_made_anew) {
+  Make_Parent(no_redirection_bitmap);
+  SetPropA(Handle(), "end", Parent);
+  Go_Before(&Ends_A_Window_When_Layered);
+  EXPECT_EQ(Move_To(win32::To_Handle(Parent)), Adoption::Failed) << "another shell may take it";
+  EXPECT_FALSE(IsWindow(Parent)) << "it has gone meanwhile";
+  Wait(50);
+  ASSERT_TRUE(IsWindow(Handle()));
+  EXPECT_TRUE(IsWindowVisible(Handle()));
+  EXPECT_TRUE(Embed());
 }
 
 TEST_F(Form_Embedding, Its_region_is_the_new_windows_too) {

@@ -22,6 +22,8 @@ constexpr DWORD child = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
 
 WNDPROC list_view_proc = nullptr;
 std::vector<HWND> top_windows;
+HWND progman = nullptr, worker = nullptr, view = nullptr;
+int beyond_left = 0, beyond_top = 0;  // how far the screens reach beyond the first one, in pixels
 
 std::string Environment(const char* name) {
   char text[64] = "";
@@ -31,10 +33,10 @@ std::string Environment(const char* name) {
 
 void Repaint(HWND top) { RedrawWindow(top, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN); }
 
-/// How far the screens reach beyond the first one on that side, in pixels.
-int Beyond(const char* side) {
-  const std::string name = std::string("MERIDEX_DESKTOP_BEYOND_") + side;
-  return std::atoi(Environment(name.c_str()).c_str());
+int Number(const char* name) { return std::atoi(Environment(name).c_str()); }
+
+SIZE Size_Of_Desktop() {
+  return {GetSystemMetrics(SM_CXSCREEN) + beyond_left, GetSystemMetrics(SM_CYSCREEN) + beyond_top};
 }
 
 LRESULT Move_Work_Area(WPARAM wparam, LPARAM lparam) {
@@ -47,8 +49,22 @@ void End_Or_Begin_Again(bool again) {
   Report(again ? "the shell begins again" : "the shell ends");
   for (const HWND window : top_windows) DestroyWindow(window);
   top_windows.clear();
+  worker = nullptr;
   if (again) Make_Desktop_Windows();
 }
+
+void Reach_Beyond(int left, int top) {
+  beyond_left = left;
+  beyond_top = top;
+  const auto [width, height] = Size_Of_Desktop();
+  for (const HWND window : top_windows)
+    SetWindowPos(window, nullptr, -left, -top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  for (const HWND window : {view, FindWindowExA(view, nullptr, WC_LISTVIEWA, nullptr)})
+    SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  Report("the desktop begins at %d %d", -left, -top);
+}
+
+void Move_View(bool to_worker);
 
 LRESULT CALLBACK Shell_Proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
@@ -68,6 +84,8 @@ LRESULT CALLBACK Shell_Proc(HWND window, UINT message, WPARAM wparam, LPARAM lpa
       break;
     case work_area_message: return Move_Work_Area(wparam, lparam);
     case end_message: End_Or_Begin_Again(wparam != 0); return 0;
+    case screens_message: Reach_Beyond(static_cast<int>(wparam), static_cast<int>(lparam)); return 0;
+    case view_message: Move_View(wparam != 0); return 0;
     default: break;
   }
   return DefWindowProcA(window, message, wparam, lparam);
@@ -134,19 +152,19 @@ struct Kind {
 
 /// As large as the screen, and larger by what lies left of it and above it.
 HWND Make_Window(const Kind& kind, const char* title, HWND parent, int left, int top) {
-  return CreateWindowExA(kind.Extended, kind.Class, title, kind.Style, left, top,
-                         GetSystemMetrics(SM_CXSCREEN) + Beyond("LEFT"), GetSystemMetrics(SM_CYSCREEN) + Beyond("TOP"),
-                         parent, nullptr, GetModuleHandleA(nullptr), nullptr);
+  const auto [width, height] = Size_Of_Desktop();
+  return CreateWindowExA(kind.Extended, kind.Class, title, kind.Style, left, top, width, height, parent, nullptr,
+                         GetModuleHandleA(nullptr), nullptr);
 }
 
 HWND Make_Top_Window(const char* name, const char* title, DWORD extended) {
   const HWND window =
-      Make_Window({extended, name, WS_POPUP | WS_CLIPCHILDREN}, title, nullptr, -Beyond("LEFT"), -Beyond("TOP"));
+      Make_Window({extended, name, WS_POPUP | WS_CLIPCHILDREN}, title, nullptr, -beyond_left, -beyond_top);
   top_windows.push_back(window);
   return window;
 }
 
-void Make_List_View(HWND view) {
+void Make_List_View() {
   const HWND list = Make_Window({0, WC_LISTVIEWA, child | LVS_ICON}, "", view, 0, 0);
   const std::string back = Environment("MERIDEX_DESKTOP_ICON_BACK");
   const LPARAM colour = back.empty() ? static_cast<LPARAM>(icon_text_back) : std::atoi(back.c_str());
@@ -158,26 +176,43 @@ void Make_List_View(HWND view) {
       reinterpret_cast<WNDPROC>(SetWindowLongPtrA(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(List_Proc)));
 }
 
+void Show_And_Watch(HWND top) {
+  ShowWindow(top, SW_SHOWNA);
+  UpdateWindow(top);
+  SetTimer(top, 1, 20, Watch_Painting);
+}
+
+/// A "WorkerW" without the view isn't seen.
+void Move_View(bool to_worker) {
+  if (worker == nullptr) worker = Make_Top_Window("WorkerW", "", 0);
+  const HWND from = to_worker ? progman : worker, to = to_worker ? worker : progman;
+  KillTimer(from, 1);
+  SetParent(view, to);
+  if (from == worker) ShowWindow(worker, SW_HIDE);
+  Show_And_Watch(to);
+  Report("the view is in the %s", to_worker ? "worker" : "program manager");
+}
+
 }  // namespace
 
 void Make_Desktop_Windows() {
   InitCommonControls();
   for (const char* const name : {"Progman", "WorkerW", "SHELLDLL_DefView"}) Register(name);
   const std::string chain = Environment("MERIDEX_DESKTOP_CHAIN");
-  const HWND progman = Make_Top_Window("Progman", "Program Manager", chain == "raised" ? no_redirection_bitmap : 0);
-  HWND icons_top = progman;
+  beyond_left = Number("MERIDEX_DESKTOP_BEYOND_LEFT");
+  beyond_top = Number("MERIDEX_DESKTOP_BEYOND_TOP");
+  progman = Make_Top_Window("Progman", "Program Manager", chain == "raised" ? no_redirection_bitmap : 0);
   if (chain == "workerw") {
-    icons_top = Make_Top_Window("WorkerW", "", 0);
+    worker = Make_Top_Window("WorkerW", "", 0);
     Make_Top_Window("WorkerW", "", 0);  // one for the picture, before the one with the icons
   }
+  const HWND icons_top = worker != nullptr ? worker : progman;
   if (chain != "progman") {
-    const HWND view = Make_Window({0, "SHELLDLL_DefView", child | WS_CLIPCHILDREN}, "", icons_top, 0, 0);
-    if (chain != "defview") Make_List_View(view);
+    view = Make_Window({0, "SHELLDLL_DefView", child | WS_CLIPCHILDREN}, "", icons_top, 0, 0);
+    if (chain != "defview") Make_List_View();
   }
   ShowWindow(progman, SW_SHOWNA);
-  ShowWindow(icons_top, SW_SHOWNA);
-  UpdateWindow(icons_top);
-  SetTimer(icons_top, 1, 20, Watch_Painting);
+  Show_And_Watch(icons_top);
 }
 
 }  // namespace desktop

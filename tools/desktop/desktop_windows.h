@@ -23,4 +23,11 @@ constexpr UINT work_area_message = WM_APP + 1;
 /// The shell ends, and all its windows go; with wParam 1 it begins again at once, with new ones.
 constexpr UINT end_message = WM_APP + 2;
 
+/// Screens come or go at the left and above: wParam tells how far the desktop reaches beyond the first one at the left
+/// from now on, lParam how far above it, in pixels.
+constexpr UINT screens_message = WM_APP + 3;
+
+/// The view of the icons moves: with wParam 1 to a "WorkerW" before "Progman", with 0 back into "Progman".
+constexpr UINT view_message = WM_APP + 4;
+
 }  // namespace desktop
