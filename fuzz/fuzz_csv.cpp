@@ -1,5 +1,6 @@
 // Any bytes as a CSV file: headings, records and fields are those that a slow reading finds, or fail as it does; and a row
 // of the export with the same bytes in it comes in again as the text that a reading of it by the letter makes of it.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -68,7 +69,8 @@ std::size_t Expect_Records(const std::string& bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  constexpr std::size_t longest = 8192;  // the slow reading's time grows by the square
+  const std::string bytes(reinterpret_cast<const char*>(data), std::min(size, longest));
   Expect_Records(bytes);
   std::string row;
   exchange::Append_Row(row, "1/2/2004", bytes, "2/2/2004");

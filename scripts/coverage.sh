@@ -12,7 +12,7 @@ need_packages build coverage
 configure coverage
 build coverage
 find build/coverage -name '*.gcda' -delete
-ctest --test-dir build/coverage -L 'unit|scenarios' -j "$(nproc)" --no-tests=error --output-on-failure -Q </dev/null
+quietly ctest --test-dir build/coverage -L 'unit|scenarios' -j "$(nproc)" --no-tests=error --output-on-failure
 mkdir -p build/coverage/pages
 gcovr --root . --object-directory build/coverage --filter 'src/' --exclude 'src/win32/' --exclude 'src/memory/' --exclude 'src/main/main_win32' \
   --exclude-throw-branches --exclude-unreachable-branches -j "$(nproc)" --html-details build/coverage/pages/index.html \
