@@ -109,10 +109,10 @@ def take_desktop():
     """The calendar among the icons, on a pack's picture."""
     with tempfile.TemporaryDirectory() as folder:
         screen = pathlib.Path(folder, "screen.png")
-        subprocess.run([ROOT / "scripts/run.sh", "--no-build", "--desktop", "--now", "2004-10-05 10:00:00", "--setting",
+        subprocess.run([ROOT / "scripts/run.sh", "--no-build", "--desktop", "--now", "2004-12-03 10:00:00", "--setting",
                         "Settings Use Themes 1", "--setting", 'Settings "Pack Name" Seasons', "--setting",
                         "Settings Style 1", "--screenshot", screen], check=True, timeout=120, stdin=subprocess.DEVNULL)
-        subprocess.run(["convert", screen, "-resize", "75%", "-quality", "88", "-strip", DOCS / "desktop.jpg"], check=True,
+        subprocess.run(["convert", screen, "-quality", "85", "-strip", DOCS / "desktop.jpg"], check=True,
                        timeout=60)
     print("docs/pictures/desktop.jpg")
 
