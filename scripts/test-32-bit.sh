@@ -15,7 +15,7 @@ cant() {
 }
 
 main_cases=(test_start test_placement test_styles test_shell test_living test_menus test_editor_keys test_message_boxes
-  test_tips test_settings_window test_exchange test_package)
+  test_tips test_settings_window test_exchange test_reading test_package)
 
 [ "$(id -u)" -eq 0 ] || cant "this needs root"
 cd "$root"

@@ -107,6 +107,7 @@ void Memory_Files::Check_Place(const std::string& path) const {
 }
 
 void Memory_Files::Check_Changeable(const std::string& path) const {
+  Check_Place(path);
   const Entry* const there = Find(path);
   if (there != nullptr && there->Read_Only) throw Run_Error(Error_Number::Path_File_Access);
   if (there != nullptr && there->Writers > 0) throw Run_Error(Error_Number::Permission_Denied);
@@ -130,8 +131,7 @@ Memory_Files::Entry& Memory_Files::Make_File(const std::string& path) {
 }
 
 std::unique_ptr<basic::Output_File> Memory_Files::Create(const std::string& path) {
-  Check_Place(path);
-  Check_Changeable(path);
+  Check_Writing(path);
   Make_File(path);
   return std::make_unique<Writer>(*this, Key_Of(path));
 }
@@ -167,8 +167,16 @@ std::vector<std::string> Memory_Files::Names(const std::string& folder, bool of_
 }
 
 void Memory_Files::Check_Writing(const std::string& path) {
-  Check_Place(path);
   Check_Changeable(path);
+  const Entry* const there = Find(path);
+  if (there != nullptr && there->Hidden) throw Run_Error(Error_Number::Path_File_Access);
+}
+
+void Memory_Files::Allow_Writing(const std::string& path) {
+  if (!File_Exists(path)) return;
+  Entry& file = *Find(path);
+  file.Read_Only = false;
+  file.Hidden = false;
 }
 
 bool Memory_Files::Move_Over(const std::string& from, const std::string& to) {
@@ -182,8 +190,8 @@ void Memory_Files::Rename(const std::string& from, const std::string& to) {
 }
 
 void Memory_Files::Move(const std::string& from, const std::string& to) {
-  Check_Writing(from);
-  Check_Writing(to);
+  Check_Changeable(from);
+  Check_Changeable(to);
   const Entry* const source = Find(from);
   if (source == nullptr) throw Run_Error(Error_Number::File_Not_Found);
   Entry moved = *source;
@@ -200,7 +208,6 @@ bool Memory_Files::Full(const std::string& key) const {
 }
 
 void Memory_Files::Delete(const std::string& path) {
-  Check_Place(path);
   Check_Changeable(path);
   if (entries_.erase(Key_Of(path)) == 0) throw Run_Error(Error_Number::File_Not_Found);
 }
@@ -210,8 +217,7 @@ void Memory_Files::Copy(const std::string& from, const std::string& to) {
   const Entry* const source = Find(from);
   if (source == nullptr) throw Run_Error(Error_Number::File_Not_Found);
   if (Key_Of(from) == Key_Of(to)) throw Run_Error(Error_Number::Permission_Denied);
-  Check_Place(to);
-  Check_Changeable(to);
+  Check_Writing(to);
   const Entry* const target = Find(to);
   if (target != nullptr && target->Full && source->Bytes.size() > target->Room) {
     entries_.erase(Key_Of(to));
@@ -239,6 +245,7 @@ void Memory_Files::Put(const std::string& path, std::string_view bytes) {
   file.Full = false;
   file.Locked = false;
   file.Read_Only = false;
+  file.Hidden = false;
 }
 
 std::optional<std::string> Memory_Files::Bytes(const std::string& path) const {

@@ -1,6 +1,6 @@
-// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up four
+// A disk in memory. Names are found without regard to case, slashes count as backslashes, and a test can set up five
 // faults: a folder in a file's place, a file that can be opened but takes no bytes, one that can't be opened to be read, and
-// one that is read-only.
+// one that is read-only or hidden.
 #pragma once
 
 #include <map>
@@ -27,7 +27,7 @@ class Memory_Files : public platform::Files {
   std::vector<std::string> File_Names(const std::string& folder) override;
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Check_Writing(const std::string& path) override;
-  void Allow_Writing(const std::string& /*path*/) override {}
+  void Allow_Writing(const std::string& path) override;
   bool Move_Over(const std::string& from, const std::string& to) override;
   void Rename(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
@@ -68,6 +68,10 @@ class Memory_Files : public platform::Files {
   /// read-only one is error 75. It can be put again.
   void Set_Read_Only(const std::string& path, bool on) { Find(path)->Read_Only = on; }
 
+  /// From now on the file, which must exist, is hidden: it is read, moved and deleted, but to write or copy over it is
+  /// error 75. It can be put again.
+  void Hide(const std::string& path) { Find(path)->Hidden = true; }
+
   struct Listed {
     std::string Name;
     bool Is_Folder;
@@ -86,6 +90,7 @@ class Memory_Files : public platform::Files {
     bool Full = false;
     bool Locked = false;
     bool Read_Only = false;
+    bool Hidden = false;
     std::size_t Room = 0;  // how long a copy over a full one may be
     int Writers = 0;       // how often the file is open for writing
   };

@@ -30,14 +30,25 @@ std::unique_ptr<basic::Output_File> Create_Own(Files& files, const std::string& 
   return files.Create(path);
 }
 
-bool Has_Old_Name_Only(Files& files, const std::string& path) {
-  return !files.File_Exists(path) && files.File_Exists(Old_Name(path));
+/// A new file has come to its end if its last line has one: each record ends so.
+bool Is_Whole(Files& files, const std::string& path) {
+  std::string bytes;
+  files.Read_Whole(path, bytes);
+  return bytes.ends_with("\r\n");
 }
 
-/// A file that has only its second name can't have been read: what would take its place has nothing of what it holds.
-/// It gets its name back, and is there for the next reading.
+/// The name under which a power cut has left what belongs at the path; empty if it has its own, or nothing whole is there.
+std::string Left_Name(Files& files, const std::string& path) {
+  if (files.File_Exists(path)) return {};
+  const std::string old = Old_Name(path), beside = Files::Name_Beside(path);
+  if (files.File_Exists(old)) return old;
+  return files.File_Exists(beside) && Is_Whole(files, beside) ? beside : std::string();
+}
+
+/// A file that has only another name can't have been read: what would take its place has nothing of what it holds. It
+/// gets its name back, and is there for the next reading.
 void Check_Replacing(Files& files, const std::string& path) {
-  if (Has_Old_Name_Only(files, path)) {
+  if (!Left_Name(files, path).empty()) {
     files.Put_Back(path);
     throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   }
@@ -57,6 +68,29 @@ void Rename_Over(Files& files, const std::string& from, const std::string& to) {
     throw;
   }
   Delete_If_There(files, old);
+}
+
+/// Writes what the new file holds into the old one, as if there had been no new one: it makes room first.
+void Write_Into(Files& files, const std::string& path) {
+  const std::string beside = Files::Name_Beside(path);
+  std::string bytes;
+  files.Read_Whole(beside, bytes);
+  const std::unique_ptr<basic::Output_File> file = files.Create(path);
+  Delete_If_There(files, beside);
+  if (file->Write(bytes) < bytes.size()) throw basic::Run_Error(basic::Error_Number::Disk_Full);
+}
+
+/// The new file beside the path takes its place. After any failure but that of a file that another program holds, such as
+/// a disk's, the old file isn't touched.
+void Take_Place(Files& files, const std::string& path) {
+  const std::string beside = Files::Name_Beside(path);
+  files.Allow_Writing(beside);
+  try {
+    if (!files.Move_Over(beside, path)) Rename_Over(files, beside, path);
+  } catch (const basic::Run_Error& failure) {
+    if (failure.Number() != static_cast<int>(basic::Error_Number::Permission_Denied)) throw;
+    Write_Into(files, path);
+  }
 }
 
 /// Runs `work`; takes the new file away if that fails.
@@ -91,7 +125,7 @@ class Replacement final : public basic::Output_File {
   void Finish() override {
     if (file_ == nullptr) throw basic::Run_Error(basic::Error_Number::Disk_Full);
     file_.reset();
-    Or_Nothing_New(files_, path_, [this] { files_.Replace(Files::Name_Beside(path_), path_); });
+    Or_Nothing_New(files_, path_, [this] { Take_Place(files_, path_); });
   }
 
  private:
@@ -116,8 +150,16 @@ std::unique_ptr<basic::Output_File> Files::Create_Beside(const std::string& path
 }
 
 void Files::Replace(const std::string& from, const std::string& to) {
+  const std::string beside = Name_Beside(to);
+  Delete_If_There(*this, beside);
   Allow_Writing(from);
-  if (!Move_Over(from, to)) Rename_Over(*this, from, to);
+  Rename(from, beside);
+  try {
+    Take_Place(*this, to);
+  } catch (const basic::Run_Error&) {
+    if (File_Exists(beside)) Rename(beside, from);
+    throw;
+  }
 }
 
 void Files::Copy_Over(const std::string& from, const std::string& to) {
@@ -125,16 +167,19 @@ void Files::Copy_Over(const std::string& from, const std::string& to) {
   Or_Nothing_New(*this, to, [&] {
     Allow_Writing(Name_Beside(to));
     Copy(from, Name_Beside(to));
-    Replace(Name_Beside(to), to);
+    Take_Place(*this, to);
   });
 }
 
 bool Files::Put_Back(const std::string& path) {
   try {
-    if (Has_Old_Name_Only(*this, path)) Rename(Old_Name(path), path);
+    const std::string left = Left_Name(*this, path);
+    if (left.empty()) return true;
+    if (left == Name_Beside(path)) Allow_Writing(left);
+    Rename(left, path);
     return true;
   } catch (const basic::Run_Error&) {
-    return false;  // the old file is there under its other name, and the next start tries again
+    return false;  // the file is there under its other name, and the next start tries again
   }
 }
 

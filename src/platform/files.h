@@ -26,15 +26,16 @@ class Files : public basic::Disk {
   /// Throws what Create would for a file that is there, and leaves it as it is. Does nothing if there is no such file.
   virtual void Check_Writing(const std::string& path) = 0;
 
-  /// Takes from a file what keeps it from being written or deleted; a failure is silent.
+  /// Takes from a file what keeps it from being written or deleted: that it is read-only or hidden. A failure is silent.
   virtual void Allow_Writing(const std::string& path) = 0;
 
-  /// Brings the bytes of a file to the disk, and then puts it into the place of `to` or of nothing, by one step that is
-  /// on the disk on return. Returns false, with nothing changed, on a system that can't do it by one. Throws error 53,
-  /// 61, 70, 75 or 76, with nothing changed.
+  /// Brings the bytes of a file to the disk, and then puts it into the place of `to` or of nothing. That is on the disk
+  /// on return, and one step to all programs; on a file system without a journal it is two, between which a power cut
+  /// leaves the new file alone, under its own name. Returns false, with nothing changed, on a system that can't do it by
+  /// one. Throws error 53, 61, 70, 75 or 76, with nothing changed; 70 where another program holds one of the two.
   virtual bool Move_Over(const std::string& from, const std::string& to) = 0;
 
-  /// Gives a file another name, which no file has yet. Throws error 53, 70, 75 or 76.
+  /// Gives a file another name, which no file has yet. Throws error 53, 70, 75 or 76; 70 where another program holds it.
   virtual void Rename(const std::string& from, const std::string& to) = 0;
 
   /// Throws error 53, 70 or 75.
@@ -49,15 +50,18 @@ class Files : public basic::Disk {
   static std::string Name_Beside(const std::string& path);
   std::unique_ptr<basic::Output_File> Create_Beside(const std::string& path) final;
 
-  /// Puts a file, be it read-only, into the place of another or of none: at any moment the old or the new one is there
-  /// whole. Takes no room on the disk. Throws as Move_Over.
+  // Whenever the power goes in one of these, or while a file created beside is finished, the old or the new file is
+  // there whole after Recover. Only where another program lets the old one be written, but neither deleted nor renamed,
+  // the new bytes are written into it.
+
+  /// Puts a file, be it read-only, into the place of another or of none. Takes no room on the disk. Throws as Move_Over.
   void Replace(const std::string& from, const std::string& to);
 
-  /// The same as Copy, by a new file that takes the place of `to`: at any moment the old or the new one is there whole.
+  /// The same as Copy, by a new file that takes the place of `to`.
   void Copy_Over(const std::string& from, const std::string& to);
 
-  /// Gives a file back its name that a power cut between two renamings has left without it. Returns false after a
-  /// failure.
+  /// Gives a file its name that a power cut has left without it: the old one between two renamings, or the new one if it
+  /// is whole and all that is there. Returns false after a failure.
   bool Put_Back(const std::string& path);
 
   /// Ends what a power cut has left half done of a replacement of that file. Called before the first look for it.

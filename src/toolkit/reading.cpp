@@ -54,6 +54,13 @@ bool Seen(const Control& control) {
   return Seen(form) && control.On_View() && Overlaps(control.In_Window(), client);
 }
 
+/// A reader comes when it wants; the user has no hand free while a menu is open or a button is held.
+bool Within_Reach(const Form& form) {
+  return form.Accepts_Input() && Seen(form) && !form.System().Input.User_Is_Busy();
+}
+
+bool Within_Reach(const Control& control) { return Within_Reach(control.Window) && Seen(control); }
+
 bool Double_Clicked(const Control& control) { return control.On_Double_Click && !control.On_Click; }
 
 const char* Action_Of(const Control& control) {
@@ -160,7 +167,7 @@ Control* Neighbour(const Form& form, const Control* control, Way way) {
 void Act_On(Control& control) {
   Form& form = control.Window;
   Input& input = form.System().Input;
-  if (!form.Accepts_Input() || !Seen(control) || Hear(control).Action.empty()) return;
+  if (!Within_Reach(control) || Hear(control).Action.empty()) return;
   const Bounds place = control.In_Window();
   const Mouse_Event event{Mouse_Button::Left, place.Left + place.Width / 2, place.Top + place.Height / 2, false};
   if (Double_Clicked(control)) input.Press_Twice(form, &control, event);
@@ -168,17 +175,23 @@ void Act_On(Control& control) {
   if (input.Is_There(&form, &control)) input.Release(form, &control, event);
 }
 
-void Give_Focus(Control& control) {
-  Form& form = control.Window;
-  if (!form.Accepts_Input() || !Seen(control) || !control.Can_Have_Focus()) return;
+void Give_Focus(Form& form) {
+  if (!Within_Reach(form)) return;
   form.Activate();
+  form.System().Input.Tell_Of_Activity();
+}
+
+bool Give_Focus(Control& control) {
+  Form& form = control.Window;
   Input& input = form.System().Input;
-  input.Tell_Of_Activity();
+  if (!Within_Reach(control) || !control.Can_Have_Focus()) return false;
+  Give_Focus(form);
   if (input.Is_There(&form, &control) && control.Can_Have_Focus()) input.Move_Focus(form, &control);
+  return input.Is_There(&form, &control) && form.Focused() == &control;
 }
 
 void Select_Part(Control& control, int part) {
-  if (!control.Window.Accepts_Input() || !Seen(control) || !control.Usable()) return;
+  if (!Within_Reach(control) || !control.Usable()) return;
   if (part >= 0 && part < control.Part_Count()) control.Select_Part(part);
 }
 

@@ -20,9 +20,10 @@ struct Heard {
   toolkit::Role Role = Role::Text;
   std::string Name;
   std::optional<std::string> Value;
-  std::string Action;      ///< what a click does, in the words that readers know; empty if it does nothing
-  char Accelerator = 0;    ///< the letter that reaches it with Alt, 0 for none
-  bool Visible = true;     ///< the user sees at least a part of it
+  std::string Action;    ///< what a click does, in the words that readers know; empty if it does nothing
+  char Accelerator = 0;  ///< the letter that reaches it with Alt, 0 for none
+  bool Visible = true;   ///< the user sees at least a part of it, unless it is scrolled out of its list
+  bool Scrolled_Out = false;
   bool Available = true;   ///< not disabled
   bool Focusable = false;  ///< it takes the keys
   bool Focused = false;
@@ -51,7 +52,10 @@ Control* Neighbour(const Form& form, const Control* control, Way way);
 
 /// The click, or the double-click, that `Action` names.
 void Act_On(Control& control);
-void Give_Focus(Control& control);
+/// Makes the window active.
+void Give_Focus(Form& form);
+/// The same, and gives the control the keys. Returns true if it is there and has them.
+bool Give_Focus(Control& control);
 void Select_Part(Control& control, int part);
 
 }  // namespace toolkit

@@ -41,12 +41,11 @@ toolkit::Heard Accessible_Form::Hear(int number) const {
 
 RECT Accessible_Form::Place(int number) const {
   RECT place;
-  const toolkit::Control* const control = Control(number);
-  const HWND window = control != nullptr ? native_window_(*control) : nullptr;
-  if (window != nullptr) {
-    GetWindowRect(window, &place);
+  if (const HWND own = Window_Of(number)) {
+    GetWindowRect(own, &place);
     return place;
   }
+  const toolkit::Control* const control = Control(number);
   if (control != nullptr) place = scale_.Pixels(control->In_Window());
   else GetClientRect(Window(), &place);
   MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
@@ -70,7 +69,7 @@ int Accessible_Form::Focused() const {
 
 HWND Accessible_Form::Window_Of(int number) const {
   const toolkit::Control* const control = Control(number);
-  return control != nullptr ? native_window_(*control) : nullptr;
+  return control != nullptr ? To_Window(form_.Handle_Of(*control)) : nullptr;
 }
 
 IDispatch* Accessible_Form::Parent() const { return Services().Object_Of(Window(), OBJID_WINDOW); }
@@ -79,17 +78,21 @@ int Accessible_Form::Number_In_Form(const toolkit::Control& control) {
   return Number_Of_Control(control.Window, &control);
 }
 
-void Accessible_Form::Fulfil(toolkit::Control* control, int part, Wish wish) {
-  if (control == nullptr) return;
-  const auto number = static_cast<WPARAM>(Number_In_Form(*control));
-  PostMessageA(To_Window(control->Window.Handle()), reader_wishes, number, Packed(part, wish));
+void Accessible_Form::Fulfil(const toolkit::Control& control, int part, Wish wish) {
+  Post(control.Window, Number_In_Form(control), part, wish);
+}
+
+void Accessible_Form::Post(const toolkit::Form& form, int number, int part, Wish wish) {
+  PostMessageA(To_Window(form.Handle()), reader_wishes, static_cast<WPARAM>(number), Packed(part, wish));
 }
 
 void Accessible_Form::Do(WPARAM w, LPARAM l) const {
   toolkit::Control* const control = Control(static_cast<int>(w));
   const int part = static_cast<int>(l / 2) - 1;
+  const bool focus = l % 2 == static_cast<LPARAM>(Wish::Focus);
+  if (w == 0 && focus) toolkit::Give_Focus(form_);
   if (control == nullptr) return;
-  if (l % 2 == static_cast<LPARAM>(Wish::Focus)) toolkit::Give_Focus(*control);
+  if (focus) toolkit::Give_Focus(*control);
   else if (part >= 0) toolkit::Select_Part(*control, part);
   else if (control->Kind() == toolkit::Role::Drop_Down) Open_List(*control);
   else toolkit::Act_On(*control);
@@ -97,11 +100,8 @@ void Accessible_Form::Do(WPARAM w, LPARAM l) const {
 
 /// The list is the system's own, and opens where the focus is.
 void Accessible_Form::Open_List(toolkit::Control& control) const {
-  toolkit::Form& form = form_;
-  toolkit::Input& input = form.System().Input;
-  const HWND box = native_window_(control);
-  toolkit::Give_Focus(control);
-  if (input.Is_There(&form, &control) && form.Focused() == &control) SendMessageA(box, CB_SHOWDROPDOWN, TRUE, 0);
+  const HWND box = To_Window(form_.Handle_Of(control));
+  if (toolkit::Give_Focus(control)) SendMessageA(box, CB_SHOWDROPDOWN, TRUE, 0);
 }
 
 void Accessible_Form::Changed(const toolkit::Control& control, toolkit::Aspect aspect) {

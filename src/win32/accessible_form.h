@@ -12,10 +12,8 @@ namespace win32 {
 
 class Accessible_Form final : public Accessible_Window {
  public:
-  /// `native_window` gives the window of a control that has one of its own, nullptr for any other.
-  using Native_Window = std::function<HWND(const toolkit::Control& control)>;
-  Accessible_Form(toolkit::Form& form, const Scale& scale, Accessibility& accessibility, Native_Window native_window)
-      : Accessible_Window(accessibility), form_(form), scale_(scale), native_window_(std::move(native_window)) {}
+  Accessible_Form(toolkit::Form& form, const Scale& scale, Accessibility& accessibility)
+      : Accessible_Window(accessibility), form_(form), scale_(scale) {}
 
   [[nodiscard]] HWND Window() const override;
   [[nodiscard]] int Count() const override { return static_cast<int>(toolkit::Heard_Controls(form_).size()); }
@@ -27,13 +25,13 @@ class Accessible_Form final : public Accessible_Window {
   [[nodiscard]] int Selected() const override { return 0; }
   [[nodiscard]] HWND Window_Of(int number) const override;
   [[nodiscard]] IDispatch* Parent() const override;
-  void Fulfil(int number, Wish wish) const override { Fulfil(Control(number), -1, wish); }
+  void Fulfil(int number, Wish wish) const override { Post(form_, number, -1, wish); }
 
   /// The number that a control has in its form's window.
   static int Number_In_Form(const toolkit::Control& control);
 
   /// Asks the window of the control's form to do it for the control, or for a part of it; -1: for it as a whole.
-  static void Fulfil(toolkit::Control* control, int part, Wish wish);
+  static void Fulfil(const toolkit::Control& control, int part, Wish wish);
 
   /// Does what was asked by the message reader_wishes. **A handler may destroy the window: touch no member after it.**
   void Do(WPARAM w, LPARAM l) const;
@@ -45,6 +43,7 @@ class Accessible_Form final : public Accessible_Window {
   }
 
  private:
+  static void Post(const toolkit::Form& form, int number, int part, Wish wish);
   [[nodiscard]] toolkit::Control* Control(int number) const;
   [[nodiscard]] int Number_Of(const toolkit::Control* control) const;
   void Open_List(toolkit::Control& control) const;
@@ -52,7 +51,6 @@ class Accessible_Form final : public Accessible_Window {
 
   toolkit::Form& form_;
   const Scale& scale_;
-  const Native_Window native_window_;
   // The names that have changed since readers were last told, as far as there is room for them.
   std::array<const toolkit::Control*, 4> renamed_{};
   std::size_t changes_ = 0;

@@ -10,7 +10,13 @@ HWND Accessible_Native::Window() const { return native_.Window(); }
 int Accessible_Native::Count() const { return native_.Control().Part_Count(); }
 
 toolkit::Heard Accessible_Native::Hear(int number) const {
-  return number > 0 ? toolkit::Hear_Part(native_.Control(), number - 1) : toolkit::Hear(native_.Control());
+  if (number == 0) return toolkit::Hear(native_.Control());
+  toolkit::Heard heard = toolkit::Hear_Part(native_.Control(), number - 1);
+  const RECT place = native_.Part_Place(number - 1);
+  RECT client = {}, seen = {};
+  GetClientRect(Window(), &client);
+  heard.Scrolled_Out = IntersectRect(&seen, &place, &client) == 0;
+  return heard;
 }
 
 RECT Accessible_Native::Place(int number) const {
@@ -53,7 +59,7 @@ IDispatch* Accessible_Native::Parent() const { return Services().Object_Of(GetPa
 int Accessible_Native::Number_In_Parent() const { return Accessible_Form::Number_In_Form(native_.Control()); }
 
 void Accessible_Native::Fulfil(int number, Wish wish) const {
-  Accessible_Form::Fulfil(&native_.Control(), number - 1, wish);
+  Accessible_Form::Fulfil(native_.Control(), number - 1, wish);
 }
 
 }  // namespace win32

@@ -39,7 +39,8 @@ LONG System_Role(Role role) {
 
 LONG System_State(const Heard& heard) {
   const auto where = [](bool is, int state) { return is ? LONG{state} : LONG{0}; };
-  return where(!heard.Visible, STATE_SYSTEM_INVISIBLE) | where(!heard.Available, STATE_SYSTEM_UNAVAILABLE) |
+  return where(!heard.Visible, STATE_SYSTEM_INVISIBLE) | where(heard.Scrolled_Out, STATE_SYSTEM_OFFSCREEN) |
+         where(!heard.Available, STATE_SYSTEM_UNAVAILABLE) |
          where(heard.Focusable && heard.Available, STATE_SYSTEM_FOCUSABLE) |
          where(heard.Focused, STATE_SYSTEM_FOCUSED) | where(heard.Selectable, STATE_SYSTEM_SELECTABLE) |
          where(heard.Selected, STATE_SYSTEM_SELECTED) | where(heard.Marks.Checked, STATE_SYSTEM_CHECKED) |
@@ -198,12 +199,13 @@ STDMETHODIMP Accessible_Object::get_accSelection(VARIANT* selected) {
 STDMETHODIMP Accessible_Object::accSelect(long flags, VARIANT number) {
   return Ask(number, [&](const Accessible_Window& window, int asked) -> HRESULT {
     const Heard heard = window.Hear(asked);
-    const bool select = (flags & SELFLAG_TAKESELECTION) != 0;
+    const bool focus = (flags & SELFLAG_TAKEFOCUS) != 0, select = (flags & SELFLAG_TAKESELECTION) != 0;
     if ((select && !heard.Selectable) || (flags & ~(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION)) != 0)
       return E_INVALIDARG;
+    if (focus && !heard.Focusable) return S_FALSE;
+    if (focus) window.Fulfil(asked, Wish::Focus);
     if (select) window.Fulfil(asked, Wish::Act);
-    else if (heard.Focusable) window.Fulfil(asked, Wish::Focus);
-    return select || heard.Focusable ? S_OK : S_FALSE;
+    return S_OK;
   });
 }
 

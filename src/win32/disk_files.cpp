@@ -70,6 +70,13 @@ bool Patiently(Work&& work) {
   return work();
 }
 
+/// What a flush answers where nothing can be held back, or none knows of it: so some servers do. There is no more to be
+/// done.
+bool Not_For_That_Disk() {
+  const DWORD failure = GetLastError();
+  return failure == ERROR_INVALID_FUNCTION || failure == ERROR_NOT_SUPPORTED;
+}
+
 /// Has the system bring to the disk what it holds back of a file.
 void Bring_To_Disk(const std::string& path) {
   Handle_Owner file;
@@ -78,10 +85,35 @@ void Bring_To_Disk(const std::string& path) {
                                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
     return static_cast<bool>(file);
   });
-  if (!opened || FlushFileBuffers(file.Get()) == 0) Throw_File_Error();
+  if (!opened) Throw_File_Error();
+  if (FlushFileBuffers(file.Get()) == 0 && !Not_For_That_Disk()) Throw_File_Error();
 }
 
 DWORD Attributes(const std::string& path) { return GetFileAttributesA(path.c_str()); }
+
+/// Throws the error of a move that has failed. A file that another program holds is refused as if it were read-only.
+[[noreturn]] void Throw_Move_Error(const std::string& held) {
+  const DWORD failure = GetLastError();
+  const DWORD attributes = Attributes(held);
+  const bool changeable =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
+  if (failure == ERROR_ACCESS_DENIED && changeable) throw Run_Error(Error_Number::Permission_Denied);
+  SetLastError(failure);
+  Throw_File_Error();
+}
+
+/// What keeps a file from being made anew. A hidden one can be opened and deleted.
+constexpr DWORD marks_in_the_way = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+
+bool Marked(const std::string& path) {
+  const DWORD attributes = Attributes(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & marks_in_the_way) != 0;
+}
+
+/// The system refuses such a file when it is created, but not always to an administrator, nor when it is opened.
+void Refuse_If_Marked(const std::string& path) {
+  if (Marked(path)) throw Run_Error(Error_Number::Path_File_Access);
+}
 
 /// The system's copy of a read-only file, such as one on a CD, is read-only too.
 void Make_Writable(const std::string& path) {
@@ -141,6 +173,7 @@ void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
 }
 
 std::unique_ptr<basic::Output_File> Disk_Files::Create(const std::string& path) {
+  Refuse_If_Marked(path);
   return std::make_unique<Disk_Output>(Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS));
 }
 
@@ -162,15 +195,12 @@ std::vector<std::string> Disk_Files::Folder_Names(const std::string& folder) {
 
 void Disk_Files::Check_Writing(const std::string& path) {
   if (!Folder_Exists(path)) return;
+  Refuse_If_Marked(path);
   Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
 }
 
-// A hidden file can be deleted, but not created anew as one that isn't hidden.
 void Disk_Files::Allow_Writing(const std::string& path) {
-  constexpr DWORD in_the_way = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-  const DWORD attributes = Attributes(path);
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & in_the_way) != 0)
-    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  if (Marked(path)) SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 bool Disk_Files::Move_Over(const std::string& from, const std::string& to) {
@@ -182,11 +212,11 @@ bool Disk_Files::Move_Over(const std::string& from, const std::string& to) {
   constexpr DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
   if (Patiently([&] { return move(from.c_str(), to.c_str(), how) != 0; })) return true;
   if (GetLastError() == ERROR_CALL_NOT_IMPLEMENTED) return false;
-  Throw_File_Error();
+  Throw_Move_Error(to);
 }
 
 void Disk_Files::Rename(const std::string& from, const std::string& to) {
-  if (!Patiently([&] { return MoveFileA(from.c_str(), to.c_str()) != 0; })) Throw_File_Error();
+  if (!Patiently([&] { return MoveFileA(from.c_str(), to.c_str()) != 0; })) Throw_Move_Error(from);
 }
 
 void Disk_Files::Delete(const std::string& path) {

@@ -72,10 +72,7 @@ void Form_Window::Register_Class(HINSTANCE instance) {
 
 Form_Window::Form_Window(toolkit::Form& form, Window_Context& context)
     : form_(form), context_(context), place_(Wanted_Place()), surface_(form, context), tip_(context.Common_Controls),
-      accessible_(form, context.Scale, context.Accessibility, [this](const toolkit::Control& control) {
-        const Native_Control* const native = Native(control);
-        return native != nullptr ? native->Window() : nullptr;
-      }) {
+      accessible_(form, context.Scale, context.Accessibility) {
   Register_Class(context.Instance);
   Make_Window();
   context.Windows.Add(*this);

@@ -1,15 +1,13 @@
 // The tip of a window: one tool of the system's tip window, which covers the control under the pointer.
 #pragma once
 
-#include <string>
-
-#include "win32/common_controls.h"
+#include "win32/tip_tool.h"
 
 namespace win32 {
 
 class Tip_Window {
  public:
-  explicit Tip_Window(Common_Controls& controls) : controls_(controls) {}
+  explicit Tip_Window(Common_Controls& controls) : tool_(controls, 0) {}
 
   /// Shows the text while the pointer rests in the place (pixels of the owner's client area).
   void Watch(HWND owner, const RECT& place, const std::string& text);
@@ -22,11 +20,7 @@ class Tip_Window {
   void Relay(HWND owner, UINT message, WPARAM w, LPARAM l) const;
 
  private:
-  bool Make(HWND owner);
-
-  Common_Controls& controls_;
-  Window_Owner window_;
-  HWND owner_ = nullptr;
+  Tip_Tool tool_;
   bool watching_ = false;
   RECT place_{};
   std::string text_;

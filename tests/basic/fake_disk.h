@@ -5,6 +5,7 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -16,11 +17,13 @@ class Fake_Disk : public basic::Disk {
   std::map<std::string, std::string> Contents;
   std::set<std::string> Blocked;
   std::set<std::string> Read_Only;
-  std::size_t Room = std::numeric_limits<std::size_t>::max();  ///< bytes that can still be written
-  int Open_For_Writing = 0;                                    ///< files that are open at this moment
+  std::set<std::string> Held;  ///< may be read and written, but not replaced, renamed or deleted
+  std::size_t Room = std::numeric_limits<std::size_t>::max() / 2;  ///< bytes that can still be written
+  int Open_For_Writing = 0;                                        ///< files that are open at this moment
   int Reads = 0, Writes = 0;
-  bool Replaces = true;       ///< a file can take another's place by one step
-  bool Blocks_Moves = false;  ///< no file can take another's place
+  /// How a file takes another's place: the other one's name goes in the same step, in a step before it, or not at all.
+  enum class Replacing { By_One_Step, By_Two_Steps, Never } Replaces = Replacing::By_One_Step;
+  std::optional<basic::Error_Number> Move_Failure;  ///< why no file takes another's place
 
   /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes
   /// comes halfway if it is a write.
@@ -54,21 +57,27 @@ class Fake_Disk : public basic::Disk {
   }
 
   bool Move_Over(const std::string& from, const std::string& to) {
-    if (Blocks_Moves) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
-    if (!Replaces) return false;
+    Refuse_If_Held(to);
+    if (Move_Failure) throw basic::Run_Error(*Move_Failure);
+    if (Replaces == Replacing::Never) return false;
+    if (Replaces == Replacing::By_Two_Steps && Contents.contains(to) && Step()) Contents.erase(to);
     Put_In_Place(from, to);
     return true;
   }
 
   void Rename(const std::string& from, const std::string& to) {
     Refuse_If_Blocked(from);
+    Refuse_If_Held(from);
     if (Contents.contains(to) && Steps_To_Power_Cut > 0) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
     Put_In_Place(from, to);
   }
 
   void Delete(const std::string& path) {
     Refuse_If_Read_Only(path);
-    if (Step()) Contents.erase(path);
+    Refuse_If_Held(path);
+    if (!Step()) return;
+    Room += Contents[path].size();
+    Contents.erase(path);
   }
 
  private:
@@ -111,6 +120,10 @@ class Fake_Disk : public basic::Disk {
 
   void Refuse_If_Blocked(const std::string& path) const {
     if (Blocked.contains(path)) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
+  }
+
+  void Refuse_If_Held(const std::string& path) const {
+    if (Held.contains(path)) throw basic::Run_Error(basic::Error_Number::Permission_Denied);
   }
 
   void Refuse_If_Read_Only(const std::string& path) const {

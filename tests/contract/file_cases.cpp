@@ -182,6 +182,24 @@ TEST_F(File_Cases, To_check_a_file_for_writing_changes_nothing) {
   EXPECT_EQ(Error_Of([&] { Files.Check_Writing(In_Case("file")); }), 70);
 }
 
+TEST_F(File_Cases, A_read_only_or_hidden_file_is_not_written_until_that_is_allowed) {
+  for (const bool hidden : {false, true}) {
+    Write("source", "y");
+    Write("file", "x");
+    if (hidden) World->Hide("Case\\file");
+    else World->Set_Read_Only("Case\\file", true);
+    EXPECT_EQ(Error_Of([&] { Files.Check_Writing(In_Case("file")); }), 75);
+    EXPECT_EQ(Error_Of_Creating(In_Case("file")), 75);
+    EXPECT_EQ(Error_Of([&] { Files.Copy_Over(In_Case("source"), In_Case("file")); }), 75);
+    EXPECT_EQ(Read("file"), "x");
+    EXPECT_EQ(Files.File_Names(Path("Case")), (std::vector<std::string>{"file", "source"}));
+    Files.Allow_Writing(In_Case("file"));
+    EXPECT_EQ(Error_Of([&] { Files.Check_Writing(In_Case("file")); }), 0);
+    Write("file", "z");
+    EXPECT_EQ(Error_Of_Deleting(In_Case("file")), 0);
+  }
+}
+
 TEST_F(File_Cases, A_file_written_beside_another_takes_its_place_when_it_is_finished) {
   Write("file", "old");
   {
@@ -217,6 +235,25 @@ TEST_F(File_Cases, A_file_between_two_renamings_is_found_again) {
   Write("file.~bak", "older");
   Files.Recover(In_Case("file"));
   EXPECT_EQ(Read("file"), "old");
+  EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
+}
+
+TEST_F(File_Cases, A_new_file_that_is_left_alone_is_found_if_it_ends_with_a_line) {
+  Write("file.~new", "\"8/3/2004=Te");
+  Files.Recover(In_Case("file"));
+  EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{});
+  Write("file.~new", "\"8/3/2004=Tea\"\r\n");
+  Files.Recover(In_Case("file"));
+  EXPECT_EQ(Read("file"), "\"8/3/2004=Tea\"\r\n");
+  EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
+}
+
+TEST_F(File_Cases, A_file_takes_the_place_of_another_and_of_what_is_left_beside_it) {
+  Write("backup", "new");
+  Write("file", "old");
+  Write("file.~new", "left");
+  Files.Replace(In_Case("backup"), In_Case("file"));
+  EXPECT_EQ(Read("file"), "new");
   EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
 }
 

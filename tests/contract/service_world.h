@@ -30,6 +30,9 @@ class Service_World {
 
   /// Makes a file of the program folder read-only, or no longer so.
   virtual void Set_Read_Only(const std::string& name, bool on) = 0;
+
+  /// Makes a file of the program folder a hidden one.
+  virtual void Hide(const std::string& name) = 0;
 };
 
 std::unique_ptr<Service_World> Make_Service_World();

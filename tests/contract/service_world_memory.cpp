@@ -115,6 +115,7 @@ class Memory_World : public Service_World {
   void Set_Read_Only(const std::string& name, bool on) override {
     platform_.Files.Set_Read_Only(memory::Memory_Files::Full_Path(name), on);
   }
+  void Hide(const std::string& name) override { platform_.Files.Hide(memory::Memory_Files::Full_Path(name)); }
 
  private:
   memory::Memory_Platform platform_;

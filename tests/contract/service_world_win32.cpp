@@ -218,6 +218,9 @@ class System_World : public Service_World {
     const std::string path = System().Files.Program_Folder() + '\\' + name;
     SetFileAttributesA(path.c_str(), on ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL);
   }
+  void Hide(const std::string& name) override {
+    SetFileAttributesA((System().Files.Program_Folder() + '\\' + name).c_str(), FILE_ATTRIBUTE_HIDDEN);
+  }
 
  private:
   win32::Win32_Platform platform_{nullptr};

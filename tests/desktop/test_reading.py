@@ -1,7 +1,7 @@
 """The program's windows as a screen reader in another process hears them."""
 from harness import reader
 from harness.desktop import Desktop_Test
-from harness.hands import Editor
+from harness.hands import Editor, menu_gone, open_menu
 from harness.reader import Reader
 from harness.settings import Settings_Window
 from harness.waiting import wait_for
@@ -82,6 +82,18 @@ class Reading_The_Calendar(Desktop_Test):
         wait_for(lambda: ("order", 0) in told(), "the news of another month")
         days = heard.read().visible(reader.CELL)
         self.assertEqual((len(days), days[0].name), (30, "Thursday, 1 April 2004"))
+
+    def test_under_a_menu_the_reader_turns_no_month(self):
+        desktop, heard = self.started()
+        desktop.activate()
+        open_menu(desktop, desktop.box_rect(4).centre)
+        heard.act("Next month")
+        self.assertEqual(len(heard.read().visible(reader.CELL)), 31)
+        desktop.screen.key("Escape")
+        menu_gone(desktop)
+        self.assertEqual(len(heard.read().visible(reader.CELL)), 31)
+        heard.act("Next month")
+        wait_for(lambda: len(heard.read().visible(reader.CELL)) == 30, "April")
 
     def test_the_titles_new_time_is_told_by_the_titles_number(self):
         desktop, heard = self.started(settings={"Bar Time": "True"})

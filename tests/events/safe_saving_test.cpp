@@ -57,11 +57,12 @@ class Safe_Saving : public ::testing::Test, public Safe_Saving_World {
   }
 };
 
-/// Cuts the power at every step of the work, on systems of both kinds. Gives how often the new file was there after it.
+/// Cuts the power at every step of the work, on file systems of each kind. Gives how many cuts there were.
 template <class Work>
 int Cut_At_Every_Step(const Work& work, const std::string& old_content, const std::string& new_content) {
   int new_ones = 0, cuts = 0;
-  for (const bool replaces : {true, false}) {
+  using enum Fake_Disk::Replacing;
+  for (const Fake_Disk::Replacing replaces : {By_One_Step, By_Two_Steps, Never}) {
     for (int steps = 0;; ++steps) {
       Safe_Saving_World world;
       world.Files.Disk.Replaces = replaces;
@@ -122,21 +123,55 @@ TEST_F(Safe_Saving, A_power_cut_at_any_step_leaves_the_old_or_the_new_file) {
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_leaves_the_old_or_the_new_file) {
   const auto copy = [](Safe_Saving_World& world) {
-    world.Files.Disk.Contents["D:\\backup"] = "new";
+    world.Files.Disk.Contents["D:\\backup"] = Record("new");
     world.Files.Copy_Over("D:\\backup", path);
     world.Files.Disk.Contents.erase("D:\\backup");
   };
-  Cut_At_Every_Step(copy, Old_Content(), "new");
+  Cut_At_Every_Step(copy, Old_Content(), Record("new"));
+}
+
+TEST_F(Safe_Saving, A_power_cut_at_any_step_of_taking_back_a_backup_leaves_the_old_or_the_new_file) {
+  const auto take_back = [](Safe_Saving_World& world) {
+    world.Files.Disk.Contents["D:\\backup"] = Record("new");
+    world.Files.Replace("D:\\backup", path);
+    world.Files.Disk.Contents.erase("D:\\backup");
+  };
+  Cut_At_Every_Step(take_back, Old_Content(), Record("new"));
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_of_a_read_only_file_leaves_nothing_beside_the_file) {
   const auto copy = [](Safe_Saving_World& world) {
-    world.Files.Disk.Contents["D:\\backup"] = "new";
+    world.Files.Disk.Contents["D:\\backup"] = Record("new");
     world.Files.Disk.Read_Only.insert("D:\\backup");
     world.Files.Copy_Over("D:\\backup", path);
     world.Files.Disk.Contents.erase("D:\\backup");
   };
-  Cut_At_Every_Step(copy, Old_Content(), "new");
+  Cut_At_Every_Step(copy, Old_Content(), Record("new"));
+}
+
+TEST_F(Safe_Saving, A_new_file_that_a_power_cut_has_left_alone_takes_the_place_if_it_ends_behind_a_record) {
+  const std::string beside = std::string(path) + ".~new";
+  const auto after_the_start_with = [&](const std::string& bytes) {
+    Safe_Saving_World world;
+    world.All_Files() = {{beside, bytes}};
+    world.Files.Disk.Read_Only.insert(beside);
+    return world.After_The_Next_Start();
+  };
+  using Found = std::map<std::string, std::string>;
+  EXPECT_EQ(after_the_start_with(New_Content()), (Found{{path, New_Content()}}));
+  for (const std::size_t missing : {1, 2, 3, 10})
+    EXPECT_EQ(after_the_start_with(New_Content().substr(0, New_Content().size() - missing)), Found{}) << missing;
+  EXPECT_EQ(after_the_start_with(""), Found{});
+}
+
+TEST_F(Safe_Saving, A_new_file_that_took_the_place_at_the_start_can_be_written) {
+  const std::string beside = std::string(path) + ".~new";
+  All_Files() = {{beside, Record("9/3/2004=Choir")}};
+  Files.Disk.Read_Only.insert(beside);
+  File.Recover();
+  Save();
+  EXPECT_EQ(Messages(), Lines{});
+  EXPECT_EQ(Content(), Record("9/3/2004=Choir") + Record("8/3/2004=Tea"));
 }
 
 TEST_F(Safe_Saving, What_a_power_cut_has_left_read_only_is_written_over) {
@@ -144,7 +179,7 @@ TEST_F(Safe_Saving, What_a_power_cut_has_left_read_only_is_written_over) {
     All_Files()[std::string(path) + left] = "left";
     Files.Disk.Read_Only.insert(std::string(path) + left);
   }
-  Files.Disk.Replaces = false;
+  Files.Disk.Replaces = Fake_Disk::Replacing::Never;
   Save();
   EXPECT_EQ(Messages(), Lines{});
   EXPECT_EQ(Content(), New_Content());
@@ -160,21 +195,23 @@ TEST_F(Safe_Saving, A_copy_is_put_over_what_a_power_cut_has_left_read_only) {
 }
 
 TEST_F(Safe_Saving, A_file_that_cannot_get_its_name_back_at_the_start_is_not_lost_to_a_save) {
-  const std::string old = std::string(path) + ".~bak";
-  All_Files().clear();
-  All_Files()[old] = Old_Content();
-  Files.Disk.Blocked.insert(old);
-  File.Recover();
-  Save();
-  EXPECT_EQ(Messages(), Lines{saving_failed});
-  EXPECT_FALSE(Is_There());
-  Files.Disk.Blocked.clear();
-  Save();
-  EXPECT_EQ(Messages(), Lines{saving_failed}) << "what was to be written had nothing of the old file";
-  Save();
-  EXPECT_EQ(Messages(), Lines{});
-  EXPECT_EQ(Content(), New_Content());
-  EXPECT_EQ(All_Files().size(), 1U);
+  for (const char* const left : {".~bak", ".~new"}) {
+    Safe_Saving_World world;
+    const std::string other = std::string(path) + left;
+    world.All_Files() = {{other, Old_Content()}};
+    world.Files.Disk.Blocked.insert(other);
+    world.File.Recover();
+    world.Save();
+    EXPECT_EQ(world.Messages(), Lines{saving_failed});
+    EXPECT_FALSE(world.Is_There());
+    world.Files.Disk.Blocked.clear();
+    world.Save();
+    EXPECT_EQ(world.Messages(), Lines{saving_failed}) << "what was to be written had nothing of the old file";
+    world.Save();
+    EXPECT_EQ(world.Messages(), Lines{});
+    EXPECT_EQ(world.Content(), New_Content());
+    EXPECT_EQ(world.All_Files().size(), 1U);
+  }
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_an_import_leaves_the_old_file_or_that_of_the_whole_import) {
@@ -222,22 +259,56 @@ TEST_F(Safe_Saving, A_file_that_may_not_be_written_fails_before_anything_is_done
   EXPECT_FALSE(Is_Taken());
 }
 
-TEST_F(Safe_Saving, A_new_file_that_cannot_take_the_place_is_taken_away) {
+TEST_F(Safe_Saving, A_file_that_may_be_written_but_not_replaced_is_written_in_its_place) {
+  using enum Fake_Disk::Replacing;
+  for (const Fake_Disk::Replacing replaces : {By_One_Step, Never}) {
+    Safe_Saving_World world;
+    world.Files.Disk.Replaces = replaces;
+    world.Files.Disk.Held.insert(path);
+    world.Save();
+    EXPECT_EQ(world.Messages(), Lines{});
+    EXPECT_EQ(world.Content(), New_Content());
+    EXPECT_EQ(world.All_Files().size(), 1U);
+    world.All_Files()["D:\\backup"] = "new";
+    world.Files.Copy_Over("D:\\backup", path);
+    EXPECT_EQ(world.Content(), "new");
+    world.All_Files()["D:\\backup"] = "newer";
+    world.Files.Replace("D:\\backup", path);
+    EXPECT_EQ(world.Content(), "newer");
+    EXPECT_EQ(world.All_Files().size(), 1U);
+  }
+}
+
+TEST_F(Safe_Saving, A_file_that_cannot_be_replaced_needs_no_room_for_two) {
+  Files.Disk.Room = New_Content().size();
+  Files.Disk.Held.insert(path);
+  Save();
+  EXPECT_EQ(Messages(), Lines{});
+  EXPECT_EQ(Content(), New_Content());
+}
+
+TEST_F(Safe_Saving, A_new_file_that_can_neither_take_the_place_nor_be_written_there_is_taken_away) {
   Channel.Open_For_Writing(path, File.Saving());
   Channel.Write_Record("8/3/2004=Tea");
-  Files.Disk.Blocks_Moves = true;
+  Files.Disk.Held.insert(path);
+  Files.Disk.Blocked.insert(path);
   EXPECT_EQ(Error_Of([&] { Channel.Close(); }), 70);
+  Files.Disk.Blocked.clear();
   EXPECT_EQ(Content(), Old_Content());
   EXPECT_EQ(All_Files().size(), 1U);
   EXPECT_TRUE(Is_Taken());
 }
 
-TEST_F(Safe_Saving, A_copy_that_fails_leaves_the_old_file_and_no_other) {
+TEST_F(Safe_Saving, What_fails_to_take_the_place_for_another_reason_leaves_the_old_file_and_no_other) {
   All_Files()["D:\\backup"] = "new";
-  Files.Disk.Blocks_Moves = true;
-  EXPECT_EQ(Error_Of([&] { Files.Copy_Over("D:\\backup", path); }), 70);
-  EXPECT_EQ(Content(), Old_Content());
-  EXPECT_EQ(All_Files().size(), 2U);
+  for (const basic::Error_Number failure : {basic::Error_Number::Disk_Full, basic::Error_Number::Path_File_Access}) {
+    Files.Disk.Move_Failure = failure;
+    EXPECT_EQ(Error_Of([&] { Files.Copy_Over("D:\\backup", path); }), static_cast<int>(failure));
+    EXPECT_EQ(Error_Of([&] { Files.Replace("D:\\backup", path); }), static_cast<int>(failure));
+    EXPECT_EQ(Content(), Old_Content());
+    EXPECT_EQ(All_Files()["D:\\backup"], "new");
+    EXPECT_EQ(All_Files().size(), 2U);
+  }
 }
 
 TEST_F(Safe_Saving, What_is_given_up_leaves_the_old_file_and_no_other) {
@@ -263,10 +334,12 @@ TEST_F(Safe_Saving, Without_the_consent_the_file_is_written_in_its_place_and_not
 }
 
 TEST_F(Safe_Saving, Events_that_a_power_cut_has_left_under_another_name_are_there_when_the_consent_is_withdrawn) {
-  Event_File_World world;
-  world.Files.Disk.Contents[std::string(path) + ".~bak"] = Record("9/3/2004=Choir");
-  world.File.Recover();
-  world.Editor.Text = "Tea";
-  world.Change("8/3/2004", "Tea");
-  EXPECT_EQ(world.Content(), Record("9/3/2004=Choir") + Record("8/3/2004=Tea"));
+  for (const char* const left : {".~bak", ".~new"}) {
+    Event_File_World world;
+    world.Files.Disk.Contents[std::string(path) + left] = Record("9/3/2004=Choir");
+    world.File.Recover();
+    world.Editor.Text = "Tea";
+    world.Change("8/3/2004", "Tea");
+    EXPECT_EQ(world.Content(), Record("9/3/2004=Choir") + Record("8/3/2004=Tea"));
+  }
 }

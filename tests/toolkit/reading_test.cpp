@@ -263,6 +263,57 @@ TEST_F(Reading, The_reader_can_do_nothing_where_the_user_couldnt) {
   EXPECT_EQ(Window.Focused(), nullptr);
 }
 
+TEST_F(Reading, The_reader_can_do_nothing_under_a_menu_or_while_a_button_is_held) {
+  toolkit::Check_Box box(Window, "Check1");
+  toolkit::Tab_Strip strip(Window, "TabStrip1", {"Events", "Colours"});
+  Label label(Window, "Label1");
+  Put(box, 0, 0), Put(strip, 1, 0), Put(label, 2, 0);
+  const auto try_all = [&] {
+    toolkit::Act_On(box);
+    toolkit::Select_Part(strip, 1);
+    EXPECT_FALSE(toolkit::Give_Focus(strip));
+  };
+  Window.Set_Focus(box);
+  {
+    const toolkit::Input::Menu menu(In);
+    try_all();
+  }
+  const toolkit::Mouse_Event press{toolkit::Mouse_Button::Left, 2150, 150, false};
+  In.Press(Window, &label, press);
+  try_all();
+  EXPECT_EQ(In.Mouse_Window(), &Window) << "the user's press goes on";
+  EXPECT_EQ(box.Value(), 0);
+  EXPECT_EQ(strip.Selected(), 1);
+  EXPECT_EQ(Window.Focused(), &box);
+  In.Release(Window, &label, press);
+  toolkit::Act_On(box);
+  EXPECT_EQ(box.Value(), 1);
+}
+
+TEST_F(Reading, The_reader_makes_a_window_active_where_the_user_could) {
+  toolkit::Form other(Backend, "Edit_Frm");
+  other.Load();
+  other.Show();
+  other.Activate();
+  {
+    const toolkit::Input::Modal message_box(In);
+    toolkit::Give_Focus(Window);
+  }
+  EXPECT_EQ(Backend.Active, &other);
+  toolkit::Give_Focus(Window);
+  EXPECT_EQ(Backend.Active, &Window);
+}
+
+TEST_F(Reading, The_focus_that_the_reader_gives_is_told) {
+  toolkit::Check_Box box(Window, "Check1");
+  const Label label(Window, "Label1");
+  Put(box, 0, 0);
+  EXPECT_TRUE(toolkit::Give_Focus(box));
+  EXPECT_EQ(Window.Focused(), &box);
+  box.Enabled = false;
+  EXPECT_FALSE(toolkit::Give_Focus(box));
+}
+
 TEST_F(Reading, The_readers_click_may_unload_the_window) {
   toolkit::Command_Button button(Window, "Ok_Btn");
   Put(button, 0, 0);

@@ -4,10 +4,18 @@
 #include <thread>
 
 #include "tests/basic/error_of.h"
+#include "tests/win32/detour.h"
 #include "win32/disk_files.h"
 #include "win32/handle.h"
 
 namespace {
+
+DWORD flush_failure = 0;
+
+BOOL WINAPI Fail_To_Flush(HANDLE) {
+  SetLastError(flush_failure);
+  return FALSE;
+}
 
 class Held_Files : public ::testing::Test {
  protected:
@@ -40,6 +48,20 @@ class Held_Files : public ::testing::Test {
         win32::Valid_Or_None(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)));
     EXPECT_TRUE(file) << GetLastError();
     return file;
+  }
+
+  /// As a program that reads the file and lets others write it, but not delete it.
+  static win32::Handle_Owner Use(const std::string& path) {
+    win32::Handle_Owner file(win32::Valid_Or_None(CreateFileA(
+        path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr)));
+    EXPECT_TRUE(file) << GetLastError();
+    return file;
+  }
+
+  void Save(const std::string& text) {
+    const auto output = Files.Create_Beside(File);
+    output->Write(text);
+    output->Finish();
   }
 
   /// Does the work while that file is held, and is freed after 50 milliseconds.
@@ -84,6 +106,45 @@ TEST_F(Held_Files, A_file_that_stays_held_is_an_error_and_stays_as_it_is) {
   }
   EXPECT_EQ(Read(File), "old");
   EXPECT_EQ(Read(Other), "new");
+}
+
+TEST_F(Held_Files, A_file_that_another_program_keeps_from_being_deleted_is_written_in_its_place) {
+  Write(Other, "newer");
+  {
+    const win32::Handle_Owner used = Use(File);
+    Save("new");
+    EXPECT_EQ(Read(File), "new");
+    Files.Copy_Over(Other, File);
+    EXPECT_EQ(Read(File), "newer");
+    Write(Other, "newest");
+    Files.Replace(Other, File);
+    EXPECT_EQ(Read(File), "newest");
+  }
+  for (const std::string& left : {File + ".~new", File + ".~bak", Other}) EXPECT_FALSE(Files.File_Exists(left)) << left;
+}
+
+TEST_F(Held_Files, A_disk_that_knows_nothing_of_flushing_is_flushed) {
+  const Detour detour("kernel32.dll", "FlushFileBuffers", reinterpret_cast<const void*>(&Fail_To_Flush));
+  for (const DWORD failure : {ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED}) {
+    flush_failure = failure;
+    const std::string text = "after failure " + std::to_string(failure);
+    EXPECT_EQ(Error_Of([&] { Save(text); }), 0);
+    EXPECT_EQ(Read(File), text);
+  }
+  flush_failure = ERROR_DISK_FULL;
+  EXPECT_EQ(Error_Of([&] { Save("lost"); }), 61);
+  flush_failure = ERROR_IO_DEVICE;
+  EXPECT_EQ(Error_Of([&] { Save("lost"); }), 75);
+  EXPECT_EQ(Read(File), "after failure " + std::to_string(ERROR_NOT_SUPPORTED));
+}
+
+TEST_F(Held_Files, A_system_file_is_not_written_until_that_is_allowed) {
+  ASSERT_NE(SetFileAttributesA(File.c_str(), FILE_ATTRIBUTE_SYSTEM), 0);
+  EXPECT_EQ(Error_Of([&] { Save("new"); }), 75);
+  EXPECT_EQ(Read(File), "old");
+  Files.Allow_Writing(File);
+  Save("new");
+  EXPECT_EQ(Read(File), "new");
 }
 
 TEST_F(Held_Files, A_file_that_is_held_is_there_but_neither_read_nor_copied) {

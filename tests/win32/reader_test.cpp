@@ -168,6 +168,64 @@ TEST_F(Readers, A_lists_items_are_read_found_and_chosen) {
   EXPECT_NE(State(list, 2) & STATE_SYSTEM_SELECTED, 0);
 }
 
+TEST_F(Readers, Each_flag_of_a_selection_does_its_own) {
+  const Object list = Read(Child("ListBox"));
+  Window.Set_Focus(Box);
+  const auto select = [&](long flags, LONG number) {
+    const HRESULT answer = list.Get()->accSelect(flags, Numbered(number));
+    Wait(50);
+    return answer;
+  };
+  EXPECT_EQ(select(SELFLAG_NONE, 2), S_OK);
+  EXPECT_EQ(Window.Focused(), &Box);
+  EXPECT_EQ(List.ListIndex(), -1);
+  EXPECT_EQ(select(SELFLAG_TAKESELECTION, 2), S_OK);
+  EXPECT_EQ(Window.Focused(), &Box);
+  EXPECT_EQ(List.ListIndex(), 1);
+  EXPECT_EQ(select(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, 3), S_OK);
+  EXPECT_EQ(Window.Focused(), &List);
+  EXPECT_EQ(List.ListIndex(), 2);
+  Window.Set_Focus(Box);
+  EXPECT_EQ(select(SELFLAG_TAKEFOCUS, 1), S_OK);
+  EXPECT_EQ(Window.Focused(), &List);
+  EXPECT_EQ(List.ListIndex(), 2);
+  EXPECT_EQ(select(SELFLAG_ADDSELECTION, 1), E_INVALIDARG);
+  EXPECT_EQ(select(SELFLAG_TAKESELECTION, 0), E_INVALIDARG) << "a list lies in no list";
+}
+
+TEST_F(Readers, What_takes_no_keys_gets_no_focus) {
+  const Object window = Read(Handle());
+  EXPECT_EQ(window.Get()->accSelect(SELFLAG_TAKEFOCUS, Numbered(1)), S_FALSE);
+}
+
+TEST_F(Readers, The_focus_that_a_window_gets_makes_it_active) {
+  toolkit::Form other(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog);
+  other.Move(9000, 1500);
+  other.Set_Client_Size(3000, 3000);
+  other.Show();
+  Wait(100);
+  ASSERT_EQ(Backend.Active_Form(), &other);
+  const Object window = Read(Handle());
+  EXPECT_EQ(window.Get()->accSelect(SELFLAG_TAKEFOCUS, Numbered(0)), S_OK);
+  Wait(100);
+  EXPECT_EQ(Backend.Active_Form(), &Window);
+}
+
+TEST_F(Readers, An_item_that_is_scrolled_out_of_its_list_is_told_as_such) {
+  constexpr LONG either = STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
+  for (int i = 4; i <= 40; ++i) List.Add_Item(std::to_string(i));
+  Wait(50);
+  const Object list = Read(Child("ListBox"));
+  EXPECT_EQ(State(list, 1) & either, 0);
+  EXPECT_EQ(State(list, 40) & either, STATE_SYSTEM_OFFSCREEN);
+  List.Select(39);
+  Wait(50);
+  EXPECT_EQ(State(list, 1) & either, STATE_SYSTEM_OFFSCREEN);
+  EXPECT_EQ(State(list, 40) & either, 0);
+  List.Visible = false;
+  EXPECT_NE(State(list, 40) & STATE_SYSTEM_INVISIBLE, 0);
+}
+
 TEST_F(Readers, Tabs_are_read_found_and_turned_to) {
   const Object strip = Read(Child("SysTabControl32"));
   EXPECT_EQ(Name(strip, 2), "Colours");
