@@ -1,4 +1,4 @@
-// The library of the system's controls is there before the first message box, control or tip, and not before it is
+// The library of the system's controls is there before the first message box or control, and not before it is
 // needed. In a program of its own: nothing else may have loaded the library.
 #include <map>
 
@@ -45,17 +45,6 @@ class First_Box : public Window_On_Screen {
     EXPECT_TRUE(loaded_before[window_class]);
   }
 
-  /// A window of labels has none of the system's controls.
-  void Show_Label(const char* tip = "") {
-    Label.Place({150, 150, 3000, 600});
-    Label.Caption = "Dentist";
-    Label.ToolTipText = tip;
-    Show();
-    EXPECT_FALSE(Loaded());
-  }
-
-  toolkit::Label Label{Window, "Label1"};
-
  private:
   HHOOK hook_ = SetWindowsHookExA(WH_CBT, Note_Window, nullptr, GetCurrentThreadId());
 };
@@ -63,7 +52,10 @@ class First_Box : public Window_On_Screen {
 }  // namespace
 
 TEST_F(First_Box, A_window_of_labels_does_without_the_library_and_a_box_has_it) {
-  Show_Label();
+  toolkit::Label label(Window, "Label1");
+  label.Caption = "Dentist";
+  Show();
+  EXPECT_FALSE(Loaded());
   Platform.System().Message_Box.Show("Meridex", "Dentist", platform::Box_Icon::None, platform::Box_Buttons::OK);
   Expect_Loaded_Before("#32770");
 }
@@ -85,15 +77,4 @@ TEST_F(First_Box, A_text_box_has_the_library) {
   Show();
   Expect_Loaded_Before("Edit");
   Window.Unload();
-}
-
-TEST_F(First_Box, A_tip_has_the_library) {
-  Show_Label("Dentist at nine");
-  POINT at = {20, 20};
-  ClientToScreen(Handle(), &at);
-  for (int tries = 0; tries < 50 && loaded_before.count("tooltips_class32") == 0; ++tries) {
-    SetCursorPos(at.x + tries % 2, at.y);
-    Wait(20);
-  }
-  Expect_Loaded_Before("tooltips_class32");
 }

@@ -1,9 +1,8 @@
 // Captions where the style of the system has no colour that goes with their ground.
-#include <array>
-#include <cstring>
 #include <map>
 #include <utility>
 
+#include "tests/win32/played_function.h"
 #include "tests/win32/window_on_screen.h"
 #include "toolkit/check_box.h"
 #include "toolkit/command_button.h"
@@ -33,35 +32,6 @@ class High_Contrast {
   static void Set(const std::array<COLORREF, 2>& colours) { SetSysColors(2, kinds.data(), colours.data()); }
 
   const std::array<COLORREF, 2> Before{GetSysColor(kinds[0]), GetSysColor(kinds[1])};
-};
-
-/// Has a function of the system's do something else for as long as it lives.
-class Played_Function {
- public:
-  template <class Function>
-  Played_Function(HMODULE library, const char* name, Function* instead)
-      : code_(reinterpret_cast<unsigned char*>(GetProcAddress(library, name))) {
-    std::copy_n(code_, before_.size(), before_.begin());
-    // mov rax, address; jmp rax
-    std::array<unsigned char, 12> jump{0x48, 0xB8, 0, 0, 0, 0, 0, 0, 0, 0, 0xFF, 0xE0};
-    std::memcpy(&jump[2], &instead, sizeof instead);
-    Put(jump);
-  }
-  Played_Function(const Played_Function&) = delete;
-  Played_Function& operator=(const Played_Function&) = delete;
-  ~Played_Function() { Put(before_); }
-
- private:
-  void Put(const std::array<unsigned char, 12>& bytes) {
-    DWORD protection = 0;
-    VirtualProtect(code_, bytes.size(), PAGE_EXECUTE_READWRITE, &protection);
-    std::copy(bytes.begin(), bytes.end(), code_);
-    VirtualProtect(code_, bytes.size(), protection, &protection);
-    FlushInstructionCache(GetCurrentProcess(), code_, bytes.size());
-  }
-
-  unsigned char* code_;
-  std::array<unsigned char, 12> before_{};
 };
 
 /// What the program has told of the style of each control: true is without it.
