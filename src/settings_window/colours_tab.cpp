@@ -42,18 +42,9 @@ void Make_Frame(toolkit::Frame& frame, const Bounds& place, const char* caption)
   frame.Caption = caption;
 }
 
-/// Black or white, whichever can be read on the ground. What goes with a ground of the system's is the system's.
-Colour Readable_On(Colour ground) {
-  if (toolkit::Is_System_Colour(ground)) return toolkit::System_Colour(18);
-  const Colour_Parts parts = Split(ground);
-  constexpr int middle = 10 * 128;
-  return parts.Red * 3 + parts.Green * 6 + parts.Blue >= middle ? toolkit::black : toolkit::white;
-}
-
 /// A box of the miniature and the event on it, as the calendar draws them.
-void Make_Box(toolkit::Label& box, toolkit::Label& caption, Colour ground) {
+void Make_Box(toolkit::Label& box, toolkit::Label& caption) {
   Look_Like_A_Day_Box(box);
-  box.ForeColor = Readable_On(ground);
   caption.Transparent = true;
 }
 
@@ -148,15 +139,14 @@ void Colours_Tab::Make_Miniature() {
   }
   Make_Label(Preview_Style0_Lbl, {180, 1080, 1275, 330}, " 1)");
   Make_Label(Preview_Caption0_Lbl, {540, 1125, 870, 285}, "This is an...");
-  const Settings& values = stored_.Values;
-  Make_Box(Preview_Style0_Lbl, Preview_Caption0_Lbl, values.Normal);
+  Make_Box(Preview_Style0_Lbl, Preview_Caption0_Lbl);
   Make_Label(Preview_Style1_Lbl, {1665, 1080, 825, 915}, " 1");
   Make_Label(Preview_Caption1_Lbl, {1710, 1350, 735, 600}, "This is an example.");
-  Make_Box(Preview_Style1_Lbl, Preview_Caption1_Lbl, values.Normal);
+  Make_Box(Preview_Style1_Lbl, Preview_Caption1_Lbl);
   Preview_Caption1_Lbl.Alignment = toolkit::Alignment::Centre;
   Make_Label(Preview_Today_Lbl, {180, 1620, 1275, 330}, " ?)");
   Make_Label(Preview_Caption_Today_Lbl, {540, 1665, 870, 285}, "This is an...");
-  Make_Box(Preview_Today_Lbl, Preview_Caption_Today_Lbl, values.Today);
+  Make_Box(Preview_Today_Lbl, Preview_Caption_Today_Lbl);
 }
 
 void Colours_Tab::Tie_Events() {

@@ -2,14 +2,13 @@
 import shutil
 import time
 
-from harness.desktop import WHITE, Desktop_Test
+from harness.desktop import Desktop_Test
 from harness.geometry import Rect
 from harness.prefix import ROOT
 from harness.settings import BUTTON, DROP_DOWN, SLIDER, STRIP, Settings_Window
 from harness.waiting import wait_for
 
 SEASONS = ROOT / "packs/Seasons"
-BLACK = (0, 0, 0)
 DESKTOP_KEY = "HKCU\\Control Panel\\Desktop"
 
 
@@ -199,36 +198,6 @@ class Settings_Visit(Desktop_Test):
         desktop.screen.key("F8")
         window.wait_for_it()
         self.assertEqual(sum(each.title == "Meridex Settings" for each in desktop.windows()), 1)
-
-
-class High_Contrast(Desktop_Test):
-    SCHEME = {"ButtonFace": "0 0 0", "ButtonText": "255 255 255", "Window": "0 0 0", "WindowText": "255 255 255"}
-
-    def opened(self, tab, **world):
-        desktop = self.desktop(settings={"Settings Tab": tab}, scheme=self.SCHEME, **world)
-        desktop.started()
-        window = Settings_Window(desktop).open()
-        desktop.screen.rest_pointer()
-        return window, desktop.screen.picture_at_rest()
-
-    def test_captions_of_check_boxes_and_options_are_in_its_colours(self):
-        for tab, place, frame in ((3, (135, 360, 1680, 195), (0, 1305)), (2, (90, 405, 1770, 195), (0, 2250))):
-            window, picture = self.opened(tab)
-            caption = window.place(*place, frame)._replace(left=window.place(*place, frame).left + 18)
-            self.assertGreater(picture.count(caption, WHITE, 60), 30, f"tab {tab}")
-            self.assertGreater(picture.share(caption, BLACK), 0.5, f"tab {tab}")
-            window.desktop.close()
-
-    def test_the_numbers_of_the_colours_miniature_can_be_read_on_every_ground(self):
-        boxes = {"thin": (195, 1095, 300, 285), "square": (1680, 1095, 300, 225), "today": (195, 1635, 300, 285)}
-        for colours, grounds in (({}, (WHITE, WHITE, (192, 192, 255))), ({"Normal": 0, "Today": 0}, (BLACK, BLACK, BLACK))):
-            window, picture = self.opened(2, colours=colours)
-            for (name, place), ground in zip(boxes.items(), grounds):
-                number = window.place(*place, (2475, 0))
-                self.assertGreater(picture.share(number, ground), 0.5, name)
-                text = BLACK if ground != BLACK else WHITE
-                self.assertGreater(picture.count(number, text, 60), 5, name)
-            window.desktop.close()
 
 
 class Settings_Packs(Desktop_Test):
