@@ -49,6 +49,24 @@ class Newer_Shells(Shell_Test):
         self.assertTrue(calendar["ex_style"] & LAYERED)
         self.turns_the_month(desktop)
 
+    def test_a_desktop_that_keeps_none_and_refuses_layers_is_left_after_one_trial(self):
+        for modern in (False, True):
+            desktop = self.shell("raised", settings={"Alignment": 4}, events=["6/3/2004=Choir"], modern=modern)
+            report = desktop.folder / "report.txt"
+            desktop.prefix.environment.update(MERIDEX_DESKTOP_LAYERS="refused", MERIDEX_DESKTOP_REPORT="C:\\Meridex\\report.txt")
+            desktop.start()
+            lone = wait_for(desktop.lone_calendar, "the calendar before the desktop")
+            desktop.screen.focus("Wine desktop")
+            self.assert_near(lone["rect"], desktop.place(), what="place")
+            self.assertFalse(lone["ex_style"] & LAYERED)
+            self.turns_the_month(desktop)
+            desktop.set_clock("2004-03-05 23:59:57")  # the box comes after more than one look for a desktop
+            self.assertIn("Choir", desktop.message_box().text)
+            self.assertEqual(report.read_text().count("layers refused"), 1)
+            self.assertIsNotNone(desktop.lone_calendar())
+            desktop.answer("Return")
+            desktop.close()
+
     def test_a_desktop_that_keeps_one_gets_a_plain_calendar(self):
         desktop = self.shell()
         desktop.started()

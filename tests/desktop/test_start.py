@@ -1,5 +1,7 @@
 """The program's start and its ends."""
-from harness.desktop import PROGRAM, Desktop_Test, record
+import shutil
+
+from harness.desktop import BUILD, PROGRAM, Desktop_Test, record
 from harness.hands import TITLE_COLOURS, wait_for_title
 from harness.prefix import ROOT
 from harness.waiting import wait_for
@@ -71,6 +73,30 @@ class Start(Desktop_Test):
         picture = desktop.screen.picture_at_rest()
         self.assertGreater(picture.ink(desktop.caption_rect(10).shrunk(1), (255, 255, 255)), 30)
         self.assertEqual(picture.ink(desktop.caption_rect(11).shrunk(1), (255, 255, 255)), 0)
+
+
+class Uncaught_Failures(Desktop_Test):
+    """A failure that comes out of the middle of another one, or where none may come out, ends the program at once."""
+
+    def ends_with(self, way, text):
+        desktop = self.desktop()
+        shutil.copy2(BUILD / "tests/desktop/desktop_uncaught.exe", desktop.folder / PROGRAM)
+        program = desktop.prefix.start(f"C:\\Meridex\\{PROGRAM}", way)
+        desktop.programs.append(program)
+        box = desktop.message_box()
+        self.assertEqual((box.text, box.buttons), (text, ["OK"]))
+        self.assertIsNone(program.poll(), "it waits for its box")
+        desktop.answer("Return")
+        self.assertEqual(desktop.exit_status(program), 1)
+
+    def test_out_of_a_function_that_lets_none_out(self):
+        self.ends_with("noexcept", "Error 61: Disk full")
+
+    def test_in_the_middle_of_another_failure(self):
+        self.ends_with("within", "Error 70: Permission denied")
+
+    def test_an_end_without_a_failure(self):
+        self.ends_with("nothing", "Unknown error")
 
 
 class Title_Row(Desktop_Test):
