@@ -2,13 +2,14 @@
 import shutil
 import time
 
-from harness.desktop import Desktop_Test
+from harness.desktop import WHITE, Desktop_Test
 from harness.geometry import Rect
 from harness.prefix import ROOT
 from harness.settings import BUTTON, DROP_DOWN, SLIDER, STRIP, Settings_Window
 from harness.waiting import wait_for
 
 SEASONS = ROOT / "packs/Seasons"
+BLACK = (0, 0, 0)
 DESKTOP_KEY = "HKCU\\Control Panel\\Desktop"
 
 
@@ -198,6 +199,25 @@ class Settings_Visit(Desktop_Test):
         desktop.screen.key("F8")
         window.wait_for_it()
         self.assertEqual(sum(each.title == "Meridex Settings" for each in desktop.windows()), 1)
+
+
+class High_Contrast(Desktop_Test):
+    SCHEME = {"ButtonFace": "0 0 0", "ButtonText": "255 255 255", "Window": "0 0 0", "WindowText": "255 255 255"}
+
+    def opened(self, tab):
+        desktop = self.desktop(settings={"Settings Tab": tab}, scheme=self.SCHEME)
+        desktop.started()
+        window = Settings_Window(desktop).open()
+        desktop.screen.rest_pointer()
+        return window, desktop.screen.picture_at_rest()
+
+    def test_captions_of_check_boxes_and_options_are_in_its_colours(self):
+        for tab, place, frame in ((3, (135, 360, 1680, 195), (0, 1305)), (2, (90, 405, 1770, 195), (0, 2250))):
+            window, picture = self.opened(tab)
+            caption = window.place(*place, frame)._replace(left=window.place(*place, frame).left + 18)
+            self.assertGreater(picture.count(caption, WHITE, 60), 30, f"tab {tab}")
+            self.assertGreater(picture.share(caption, BLACK), 0.5, f"tab {tab}")
+            window.desktop.close()
 
 
 class Settings_Packs(Desktop_Test):

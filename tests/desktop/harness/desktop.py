@@ -43,12 +43,12 @@ def record(line):
 class Desktop:
     def __init__(self, now="2004-03-05 09:00:00", events=(), data=None, settings=None, colours=None, language="en_GB",
                  keyboard="us", shell=False, permissions=False, size=SIZE,
-                 density=96, modern=False, refused=None, program=BUILD / "src/main" / PROGRAM):
+                 density=96, modern=False, refused=None, scheme=None, program=BUILD / "src/main" / PROGRAM):
         """events: lines such as "5/3/2004=Dentist"; data: the file's bytes instead; settings, colours: stored values;
         shell: with the stand-in for the desktop's own windows, under which the calendar then lives; permissions: what is
         read-only is so for root too; size: the screen's, in pixels; density: its dots per inch; modern: with
-        the user's consent to today's desktops; refused: a section of the settings in which nothing can be stored; program:
-        the executable."""
+        the user's consent to today's desktops; refused: a section of the settings in which nothing can be stored; scheme: colours
+        of the system by their names in the registry; program: the executable."""
         geometry.set_density(density)
         self.settings = {"Style": 1, "Alignment": 0, "Start Day": 2, "Show Splash": 0, **(settings or {})}
         self.shell = shell
@@ -77,6 +77,8 @@ class Desktop:
                 self.prefix.preset("Software\\Meridex\\Desktop", {"Modern": 1})
             if refused:
                 self.prefix.preset_refusal(f"Software\\Meridex\\{refused}")
+            if scheme:
+                self.prefix.preset("Control Panel\\Colors", scheme)
             if colours:
                 self.prefix.preset("Software\\Meridex\\Colours", colours)
             self.prefix.boot(self._desktop_stands)
