@@ -88,7 +88,8 @@ void Desktop_Embedding::Keep_Desktop_Text_Clear() {
     --ticks_left_alone_;
     return;
   }
-  if (settings_.Trans_Icons != 1 || iconlist_hwnd_ == 0) return;
+  // Icons that have gone are no silent ones: the calendar comes back to the new ones at the next look.
+  if (settings_.Trans_Icons != 1 || iconlist_hwnd_ == 0 || !shell_.Exists(iconlist_hwnd_)) return;
   if (!Clear_Text()) ticks_left_alone_ = ticks_without_questions;
 }
 
@@ -96,10 +97,11 @@ void Desktop_Embedding::Keep_Desktop_Text_Clear() {
 bool Desktop_Embedding::Clear_Text() {
   const auto back = shell_.Send(iconlist_hwnd_, platform::get_text_back_colour, 0, patience_on_tick);
   if (back == platform::no_colour) return true;
-  if (!back || !shell_.Send(iconlist_hwnd_, platform::set_text_back_colour, platform::no_colour, patience_on_tick))
-    return false;
+  if (!back) return false;
+  const auto set = shell_.Send(iconlist_hwnd_, platform::set_text_back_colour, platform::no_colour, patience_on_tick);
+  // Without an answer too: the message still waits there, and once it is served nothing else tells that it was.
   shell_.Invalidate(iconlist_hwnd_);
-  return shell_.Update(iconlist_hwnd_, patience_on_tick);
+  return set && shell_.Update(iconlist_hwnd_, patience_on_tick);
 }
 
 }  // namespace presentation

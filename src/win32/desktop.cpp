@@ -34,8 +34,7 @@ platform::Window_Handle Shell_Windows::Find_Child(platform::Window_Handle parent
 std::optional<int> Shell_Windows::Send(platform::Window_Handle window, unsigned message, int parameter, int patience) {
   DWORD_PTR result = 0;
   const auto limit = static_cast<UINT>(patience);
-  const bool answered =
-      SendMessageTimeoutA(To_Window(window), message, 0, parameter, SMTO_ABORTIFHUNG, limit, &result) != 0;
+  const bool answered = SendMessageTimeoutA(To_Window(window), message, 0, parameter, SMTO_NORMAL, limit, &result) != 0;
   return answered ? std::optional(static_cast<int>(result)) : std::nullopt;
 }
 

@@ -38,6 +38,17 @@ TEST_F(Date_Watch_Test, With_the_consent_the_calendar_returns_within_a_second_of
   }
 }
 
+TEST_F(Date_Watch_Test, So_it_does_where_the_icons_texts_are_kept_clear) {
+  Consent();
+  Platform.Store.Save("Meridex", "Settings", "Trans Icons", "1");
+  Start();
+  for (int restart = 1; restart <= 11; ++restart) {
+    Platform.Shell.Restart();
+    Pass(1.1);
+    EXPECT_TRUE(On_Desktop()) << restart;
+  }
+}
+
 TEST_F(Date_Watch_Test, The_new_desktops_colours_show_at_once) {
   Consent();
   Platform.Store.Save("Meridex", "Colours", "Menu Colour Source", "0");

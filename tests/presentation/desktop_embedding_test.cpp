@@ -173,6 +173,19 @@ TEST_F(Desktop_Embedding_Test, A_later_look_at_a_shell_that_hangs_is_short_and_r
   EXPECT_EQ(Shell.Moves(), 0);
 }
 
+TEST_F(Desktop_Embedding_Test, Icons_that_were_told_but_did_not_answer_are_painted_when_they_go_on) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Set_Icon_Colours(123, 456);
+  Settings.Trans_Icons = 1;
+  Embedding.No_ShowDesktop_and_IconColours();
+  Shell.Hang_After(1);
+  Embedding.Keep_Desktop_Text_Clear();
+  Shell.Hang(false);
+  const auto view = Shell.Find_Child(Shell.Find_Top_Window("Progman", "Program Manager"), "SHELLDLL_DefView");
+  Shell.Update(Shell.Find_Child(view, "SysListView32"), 200);
+  EXPECT_EQ(Shell.Take_Repaints(), 1);
+}
+
 TEST_F(Desktop_Embedding_Test, Icons_that_do_not_answer_are_left_alone_for_five_seconds) {
   Shell.Set_Chain(Shell_Chain::Icon_List);
   Shell.Set_Icon_Colours(123, 456);
