@@ -98,7 +98,7 @@ RECT Form_Window::Place_In_Parent() {
 }
 
 /// The shell's window covers all screens. When one is added or taken away at the left or above, its corner moves, and
-/// this window with it, which the system tells nobody.
+/// this window moves with it. No message reports that.
 void Form_Window::Follow_Parent() {
   RECT now = {};
   if (GetWindowRect(parent_, &now) != 0 && EqualRect(&now, &parent_place_) == 0) Put_In_Place();

@@ -7,16 +7,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class Event_File_Failures : public ::testing::Test, public Event_File_World {
- protected:
-  /// Whether the one file number is taken.
-  bool Is_Taken() {
-    return Error_Of([this] {
-             Channel.Open_For_Reading(path);
-             Channel.Close();
-           }) == 55;
-  }
-};
+class Event_File_Failures : public ::testing::Test, public Event_File_World {};
 
 }  // namespace
 

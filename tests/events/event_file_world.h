@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "events/event_file.h"
+#include "tests/basic/error_of.h"
 #include "tests/basic/fake_disk.h"
 
 /// The disk as the calendar sees it, with calendar.dat alone on it.
@@ -112,5 +113,13 @@ class Event_File_World {
     std::vector<std::string> shown;
     shown.swap(Message_Box.Shown);
     return shown;
+  }
+
+  /// Whether the one file number is taken.
+  bool Is_Taken() {
+    return Error_Of([this] {
+             Channel.Open_For_Reading(path);
+             Channel.Close();
+           }) == 55;
   }
 };

@@ -47,15 +47,7 @@ class Safe_Saving_World : public Event_File_World {
   }
 };
 
-class Safe_Saving : public ::testing::Test, public Safe_Saving_World {
- protected:
-  bool Is_Taken() {
-    return Error_Of([this] {
-             Channel.Open_For_Reading(path);
-             Channel.Close();
-           }) == 55;
-  }
-};
+class Safe_Saving : public ::testing::Test, public Safe_Saving_World {};
 
 /// Cuts the power at every step of the work, on file systems of each kind. Gives how many cuts there were.
 template <class Work>
@@ -90,6 +82,19 @@ int Cut_At_Every_Step(const Work& work, const std::string& old_content, const st
   return cuts;
 }
 
+constexpr const char* backup = "D:\\backup";
+
+/// The same of a work that puts a backup into the file's place.
+template <class Work>
+void Cut_With_Backup(const Work& work) {
+  const auto with_backup = [&work](Safe_Saving_World& world) {
+    world.Files.Disk.Contents[backup] = Safe_Saving_World::Record("new");
+    work(world);
+    world.Files.Disk.Contents.erase(backup);
+  };
+  Cut_At_Every_Step(with_backup, Safe_Saving_World::Old_Content(), Safe_Saving_World::Record("new"));
+}
+
 }  // namespace
 
 TEST_F(Safe_Saving, The_new_file_is_in_the_old_ones_place_and_nothing_beside_it) {
@@ -122,31 +127,18 @@ TEST_F(Safe_Saving, A_power_cut_at_any_step_leaves_the_old_or_the_new_file) {
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_leaves_the_old_or_the_new_file) {
-  const auto copy = [](Safe_Saving_World& world) {
-    world.Files.Disk.Contents["D:\\backup"] = Record("new");
-    world.Files.Copy_Over("D:\\backup", path);
-    world.Files.Disk.Contents.erase("D:\\backup");
-  };
-  Cut_At_Every_Step(copy, Old_Content(), Record("new"));
+  Cut_With_Backup([](Safe_Saving_World& world) { world.Files.Copy_Over(backup, path); });
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_taking_back_a_backup_leaves_the_old_or_the_new_file) {
-  const auto take_back = [](Safe_Saving_World& world) {
-    world.Files.Disk.Contents["D:\\backup"] = Record("new");
-    world.Files.Replace("D:\\backup", path);
-    world.Files.Disk.Contents.erase("D:\\backup");
-  };
-  Cut_At_Every_Step(take_back, Old_Content(), Record("new"));
+  Cut_With_Backup([](Safe_Saving_World& world) { world.Files.Replace(backup, path); });
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_of_a_read_only_file_leaves_nothing_beside_the_file) {
-  const auto copy = [](Safe_Saving_World& world) {
-    world.Files.Disk.Contents["D:\\backup"] = Record("new");
-    world.Files.Disk.Read_Only.insert("D:\\backup");
-    world.Files.Copy_Over("D:\\backup", path);
-    world.Files.Disk.Contents.erase("D:\\backup");
-  };
-  Cut_At_Every_Step(copy, Old_Content(), Record("new"));
+  Cut_With_Backup([](Safe_Saving_World& world) {
+    world.Files.Disk.Read_Only.insert(backup);
+    world.Files.Copy_Over(backup, path);
+  });
 }
 
 TEST_F(Safe_Saving, A_new_file_that_a_power_cut_has_left_alone_takes_the_place_if_it_ends_behind_a_record) {
