@@ -116,6 +116,7 @@ void Csv::Read_CSV_Record(std::string_view line) {
 std::string Csv::Backup_Path() const { return transfer_.Files.Program_Folder() + "\\data.bak"; }
 
 void Csv::Backup_Data() {
+  event_file_.Recover();  // lest a backup of long ago stands for events that have only another name
   if (event_file_.Exists()) transfer_.Copy(event_file_.Path(), Backup_Path());
 }
 

@@ -179,6 +179,11 @@ void Memory_Files::Allow_Writing(const std::string& path) {
   file.Hidden = false;
 }
 
+void Memory_Files::Bring_To_Disk(const std::string& path) {
+  Check_Changeable(path);
+  if (!File_Exists(path)) throw Run_Error(Error_Number::File_Not_Found);
+}
+
 bool Memory_Files::Move_Over(const std::string& from, const std::string& to) {
   Move(from, to);
   return true;

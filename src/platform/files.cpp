@@ -4,7 +4,10 @@ namespace platform {
 
 namespace {
 
-// No user gives a file the name of this or of the one beside: what bears it is ours to write over and to take away.
+// No user gives a file one of these names: what bears it is ours to write over and to take away.
+
+/// The new file from the moment on when all of it is on the disk. Whatever else is there then, it belongs at the path.
+std::string Whole_Name(const std::string& path) { return path + ".~whole"; }
 
 /// Where the old file is for the moment between two renamings, on systems that can't replace it by one.
 std::string Old_Name(const std::string& path) { return path + ".~bak"; }
@@ -30,67 +33,86 @@ std::unique_ptr<basic::Output_File> Create_Own(Files& files, const std::string& 
   return files.Create(path);
 }
 
-/// A new file has come to its end if its last line has one: each record ends so.
-bool Is_Whole(Files& files, const std::string& path) {
-  std::string bytes;
-  files.Read_Whole(path, bytes);
-  return bytes.ends_with("\r\n");
+/// Whether a power cut has left what belongs at the path under another name.
+bool Is_Left(Files& files, const std::string& path) {
+  if (files.File_Exists(Whole_Name(path))) return true;
+  return !files.File_Exists(path) && files.File_Exists(Old_Name(path));
 }
 
-/// The name under which a power cut has left what belongs at the path; empty if it has its own, or nothing whole is there.
-std::string Left_Name(Files& files, const std::string& path) {
-  if (files.File_Exists(path)) return {};
-  const std::string old = Old_Name(path), beside = Files::Name_Beside(path);
-  if (files.File_Exists(old)) return old;
-  return files.File_Exists(beside) && Is_Whole(files, beside) ? beside : std::string();
+/// What belongs at the path but has another name can't have been read: what would take its place has nothing of what it
+/// holds. It gets its name back, and is there for the next reading.
+void Refuse_If_Left(Files& files, const std::string& path) {
+  if (!Is_Left(files, path)) return;
+  files.Put_Back(path);
+  throw basic::Run_Error(basic::Error_Number::Path_File_Access);
 }
 
-/// A file that has only another name can't have been read: what would take its place has nothing of what it holds. It
-/// gets its name back, and is there for the next reading.
-void Check_Replacing(Files& files, const std::string& path) {
-  if (!Left_Name(files, path).empty()) {
-    files.Put_Back(path);
-    throw basic::Run_Error(basic::Error_Number::Path_File_Access);
-  }
-  files.Check_Writing(path);
-}
-
-/// By two renamings, between which only the old file's second name is there.
-void Rename_Over(Files& files, const std::string& from, const std::string& to) {
-  if (!files.File_Exists(to)) return files.Rename(from, to);
-  const std::string old = Old_Name(to);
-  if (files.File_Exists(old)) Delete_Own(files, old);
-  files.Rename(to, old);
+/// Runs `work`. Returns false, with nothing changed, if that fails for a file that another program holds.
+template <class Work>
+bool Unless_Held(Work&& work) {
   try {
-    files.Rename(from, to);
+    return work();
+  } catch (const basic::Run_Error& failure) {
+    if (failure.Number() != static_cast<int>(basic::Error_Number::Permission_Denied)) throw;
+    return false;
+  }
+}
+
+/// Writes what the whole new file holds into the old one. While it does, the new one stays; only on a disk that is full
+/// it makes room.
+void Write_Into(Files& files, const std::string& path) {
+  const std::string whole = Whole_Name(path);
+  std::string bytes;
+  files.Read_Whole(whole, bytes);
+  {
+    const std::unique_ptr<basic::Output_File> file = files.Create(path);
+    std::size_t done = file->Write(bytes);
+    if (done < bytes.size()) {
+      Delete_If_There(files, whole);
+      done += file->Write(std::string_view(bytes).substr(done));
+    }
+    if (done < bytes.size()) throw basic::Run_Error(basic::Error_Number::Disk_Full);
+  }
+  files.Bring_To_Disk(path);
+  Delete_If_There(files, whole);
+}
+
+/// The whole new file takes the place by two renamings, between which the old one has its second name. Returns false,
+/// with nothing changed, if another program keeps the old one from that.
+bool Rename_Over(Files& files, const std::string& path) {
+  const std::string whole = Whole_Name(path), old = Old_Name(path);
+  const bool replaces = files.File_Exists(path);
+  if (replaces) {
+    if (files.File_Exists(old)) Delete_Own(files, old);
+    const auto rename = [&] {
+      files.Rename(path, old);
+      return true;
+    };
+    if (!Unless_Held(rename)) return false;
+  }
+  try {
+    files.Rename(whole, path);
   } catch (const basic::Run_Error&) {
-    files.Rename(old, to);
+    if (replaces) files.Rename(old, path);
     throw;
   }
   Delete_If_There(files, old);
+  return true;
 }
 
-/// Writes what the new file holds into the old one, as if there had been no new one: it makes room first.
-void Write_Into(Files& files, const std::string& path) {
-  const std::string beside = Files::Name_Beside(path);
-  std::string bytes;
-  files.Read_Whole(beside, bytes);
-  const std::unique_ptr<basic::Output_File> file = files.Create(path);
-  Delete_If_There(files, beside);
-  if (file->Write(bytes) < bytes.size()) throw basic::Run_Error(basic::Error_Number::Disk_Full);
-}
-
-/// The new file beside the path takes its place. After any failure but that of a file that another program holds, such as
-/// a disk's, the old file isn't touched.
+/// The whole new file takes the place of the old one or of none, in the best way that there is. After any failure before
+/// a byte is written into the old file that is as it was.
 void Take_Place(Files& files, const std::string& path) {
-  const std::string beside = Files::Name_Beside(path);
-  files.Allow_Writing(beside);
-  try {
-    if (!files.Move_Over(beside, path)) Rename_Over(files, beside, path);
-  } catch (const basic::Run_Error& failure) {
-    if (failure.Number() != static_cast<int>(basic::Error_Number::Permission_Denied)) throw;
-    Write_Into(files, path);
-  }
+  if (Unless_Held([&] { return files.Move_Over(Whole_Name(path), path); })) return;
+  if (!Rename_Over(files, path)) Write_Into(files, path);
+}
+
+/// Brings a file to the disk, and has it take the place under the name that tells so.
+void Replace_By(Files& files, const std::string& from, const std::string& path) {
+  files.Allow_Writing(from);
+  files.Bring_To_Disk(from);
+  files.Rename(from, Whole_Name(path));
+  Take_Place(files, path);
 }
 
 /// Runs `work`; takes the new file away if that fails.
@@ -100,6 +122,7 @@ void Or_Nothing_New(Files& files, const std::string& path, Work&& work) {
     work();
   } catch (const basic::Run_Error&) {
     Delete_If_There(files, Files::Name_Beside(path));
+    Delete_If_There(files, Whole_Name(path));
     throw;
   }
 }
@@ -125,7 +148,7 @@ class Replacement final : public basic::Output_File {
   void Finish() override {
     if (file_ == nullptr) throw basic::Run_Error(basic::Error_Number::Disk_Full);
     file_.reset();
-    Or_Nothing_New(files_, path_, [this] { Take_Place(files_, path_); });
+    Or_Nothing_New(files_, path_, [this] { Replace_By(files_, Files::Name_Beside(path_), path_); });
   }
 
  private:
@@ -145,38 +168,37 @@ class Replacement final : public basic::Output_File {
 std::string Files::Name_Beside(const std::string& path) { return path + ".~new"; }
 
 std::unique_ptr<basic::Output_File> Files::Create_Beside(const std::string& path) {
-  Check_Replacing(*this, path);
+  Refuse_If_Left(*this, path);
+  Check_Writing(path);
   return std::make_unique<Replacement>(*this, path);
 }
 
 void Files::Replace(const std::string& from, const std::string& to) {
-  const std::string beside = Name_Beside(to);
-  Delete_If_There(*this, beside);
-  Allow_Writing(from);
-  Rename(from, beside);
+  Refuse_If_Left(*this, to);
+  const std::string whole = Whole_Name(to);
   try {
-    Take_Place(*this, to);
+    Replace_By(*this, from, to);
   } catch (const basic::Run_Error&) {
-    if (File_Exists(beside)) Rename(beside, from);
+    if (File_Exists(whole)) Rename(whole, from);
     throw;
   }
 }
 
 void Files::Copy_Over(const std::string& from, const std::string& to) {
-  Check_Replacing(*this, to);
+  Refuse_If_Left(*this, to);
+  Check_Writing(to);
+  const std::string beside = Name_Beside(to);
   Or_Nothing_New(*this, to, [&] {
-    Allow_Writing(Name_Beside(to));
-    Copy(from, Name_Beside(to));
-    Take_Place(*this, to);
+    Allow_Writing(beside);
+    Copy(from, beside);
+    Replace_By(*this, beside, to);
   });
 }
 
 bool Files::Put_Back(const std::string& path) {
   try {
-    const std::string left = Left_Name(*this, path);
-    if (left.empty()) return true;
-    if (left == Name_Beside(path)) Allow_Writing(left);
-    Rename(left, path);
+    if (File_Exists(Whole_Name(path))) Take_Place(*this, path);
+    else if (Is_Left(*this, path)) Rename(Old_Name(path), path);
     return true;
   } catch (const basic::Run_Error&) {
     return false;  // the file is there under its other name, and the next start tries again

@@ -29,10 +29,13 @@ class Files : public basic::Disk {
   /// Takes from a file what keeps it from being written or deleted: that it is read-only or hidden. A failure is silent.
   virtual void Allow_Writing(const std::string& path) = 0;
 
-  /// Brings the bytes of a file to the disk, and then puts it into the place of `to` or of nothing. That is on the disk
-  /// on return, and one step to all programs; on a file system without a journal it is two, between which a power cut
-  /// leaves the new file alone, under its own name. Returns false, with nothing changed, on a system that can't do it by
-  /// one. Throws error 53, 61, 70, 75 or 76, with nothing changed; 70 where another program holds one of the two.
+  /// Returns when the bytes of a file are on the disk. Throws error 53, 61, 70, 75 or 76.
+  virtual void Bring_To_Disk(const std::string& path) = 0;
+
+  /// Puts a file into the place of `to` or of nothing. That is on the disk on return, and one step to all programs; on a
+  /// file system without a journal it is two, between which a power cut leaves the new file alone, under its own name.
+  /// Returns false, with nothing changed, on a system that can't do it by one. Throws error 53, 61, 70, 75 or 76, with
+  /// nothing changed; 70 where another program holds one of the two.
   virtual bool Move_Over(const std::string& from, const std::string& to) = 0;
 
   /// Gives a file another name, which no file has yet. Throws error 53, 70, 75 or 76; 70 where another program holds it.
@@ -51,8 +54,8 @@ class Files : public basic::Disk {
   std::unique_ptr<basic::Output_File> Create_Beside(const std::string& path) final;
 
   // Whenever the power goes in one of these, or while a file created beside is finished, the old or the new file is
-  // there whole after Recover. Only where another program lets the old one be written, but neither deleted nor renamed,
-  // the new bytes are written into it.
+  // there whole after Recover, also where another program lets the old one be written, but neither deleted nor renamed.
+  // They throw error 75 for a file that only Recover brings back.
 
   /// Puts a file, be it read-only, into the place of another or of none. Takes no room on the disk. Throws as Move_Over.
   void Replace(const std::string& from, const std::string& to);
@@ -60,11 +63,11 @@ class Files : public basic::Disk {
   /// The same as Copy, by a new file that takes the place of `to`.
   void Copy_Over(const std::string& from, const std::string& to);
 
-  /// Gives a file its name that a power cut has left without it: the old one between two renamings, or the new one if it
-  /// is whole and all that is there. Returns false after a failure.
+  /// Ends a replacement where a power cut has left the file without its name, or a new one that is whole. Returns false
+  /// after a failure.
   bool Put_Back(const std::string& path);
 
-  /// Ends what a power cut has left half done of a replacement of that file. Called before the first look for it.
+  /// The same, and takes away what is left of a replacement. Called before the first look for the file.
   void Recover(const std::string& path);
 
   /// The local time of a file's last change. Throws error 53 if it isn't there.

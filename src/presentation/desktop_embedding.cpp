@@ -13,7 +13,8 @@ constexpr char view_class[] = "SHELLDLL_DefView", list_class[] = "SysListView32"
 // feel it.
 constexpr int patience_at_start = 10'000, patience_on_tick = 200;
 
-constexpr int ticks_without_questions = 50;  // five seconds
+// A shell that is only busy answers within a few ticks; one that hangs isn't asked for five seconds.
+constexpr int misses_of_a_busy_shell = 2, ticks_without_questions = 50;
 
 }  // namespace
 
@@ -78,9 +79,9 @@ bool Desktop_Embedding::Embed_Again() {
   iconlist_hwnd_ = 0;
   const platform::Window_Handle progman = shell_.Find_Top_Window(top_class, top_caption);
   if (progman == 0 || !Find_Icons(progman) || icons_top_hwnd_ == refused_) return false;
-  if (Learn_Colours(patience_on_tick)) return Enter_Desktop();
-  ticks_left_alone_ = ticks_without_questions;
-  return false;
+  const bool answers = Learn_Colours(patience_on_tick);
+  Count_Misses(answers);
+  return answers && Enter_Desktop();
 }
 
 void Desktop_Embedding::Keep_Desktop_Text_Clear() {
@@ -90,7 +91,12 @@ void Desktop_Embedding::Keep_Desktop_Text_Clear() {
   }
   // Icons that have gone are no silent ones: the calendar comes back to the new ones at the next look.
   if (settings_.Trans_Icons != 1 || iconlist_hwnd_ == 0 || !shell_.Exists(iconlist_hwnd_)) return;
-  if (!Clear_Text()) ticks_left_alone_ = ticks_without_questions;
+  Count_Misses(Clear_Text());
+}
+
+void Desktop_Embedding::Count_Misses(bool answered) {
+  if (answered) misses_ = 0;
+  else if (++misses_ > misses_of_a_busy_shell) ticks_left_alone_ = ticks_without_questions;
 }
 
 /// Returns false where the icons don't answer.

@@ -36,7 +36,8 @@ class Desktop_Embedding {
   void Set_Transparent_Icon_Stuff() {}
 
   /// Called on each tick: if the setting wants it, removes the background of the icons' text again if it has one. Icons
-  /// that don't answer, here or to Embed_Again, hold the tick up for a fifth of a second and are then left alone for five.
+  /// that don't answer, here or to Embed_Again, hold the tick up for a fifth of a second; after the third time in a row
+  /// they are left alone for five seconds.
   void Keep_Desktop_Text_Clear();
 
  private:
@@ -44,6 +45,7 @@ class Desktop_Embedding {
   bool Learn_Colours(int patience);
   bool Enter_Desktop();
   bool Clear_Text();
+  void Count_Misses(bool answered);
 
   platform::Desktop_Shell& shell_;
   Main_Frm& main_frm_;
@@ -55,6 +57,7 @@ class Desktop_Embedding {
   platform::Window_Handle iconlist_hwnd_ = 0;
   platform::Window_Handle embedded_ = 0;  // the calendar's window as it was moved; 0 if it wasn't
   platform::Window_Handle refused_ = 0;   // the window that couldn't show it
+  int misses_ = 0;                        // how often in a row the icons gave no answer
   int ticks_left_alone_ = 0;              // how many more the icons aren't asked anything
 };
 

@@ -77,18 +77,6 @@ bool Not_For_That_Disk() {
   return failure == ERROR_INVALID_FUNCTION || failure == ERROR_NOT_SUPPORTED;
 }
 
-/// Has the system bring to the disk what it holds back of a file.
-void Bring_To_Disk(const std::string& path) {
-  Handle_Owner file;
-  const bool opened = Patiently([&] {
-    file.Reset(Valid_Or_None(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
-    return static_cast<bool>(file);
-  });
-  if (!opened) Throw_File_Error();
-  if (FlushFileBuffers(file.Get()) == 0 && !Not_For_That_Disk()) Throw_File_Error();
-}
-
 DWORD Attributes(const std::string& path) { return GetFileAttributesA(path.c_str()); }
 
 /// Throws the error of a move that has failed. A file that another program holds is refused as if it were read-only.
@@ -203,8 +191,18 @@ void Disk_Files::Allow_Writing(const std::string& path) {
   if (Marked(path)) SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
+void Disk_Files::Bring_To_Disk(const std::string& path) {
+  Handle_Owner file;
+  const bool opened = Patiently([&] {
+    file.Reset(Valid_Or_None(CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    return static_cast<bool>(file);
+  });
+  if (!opened) Throw_File_Error();
+  if (FlushFileBuffers(file.Get()) == 0 && !Not_For_That_Disk()) Throw_File_Error();
+}
+
 bool Disk_Files::Move_Over(const std::string& from, const std::string& to) {
-  Bring_To_Disk(from);
   // Windows 98 has the function, which does nothing there but fail.
   const auto move =
       Find_Function<BOOL WINAPI(const char*, const char*, DWORD)>(GetModuleHandleA("kernel32.dll"), "MoveFileExA");

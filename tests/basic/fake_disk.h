@@ -25,6 +25,9 @@ class Fake_Disk : public basic::Disk {
   enum class Replacing { By_One_Step, By_Two_Steps, Never } Replaces = Replacing::By_One_Step;
   std::optional<basic::Error_Number> Move_Failure;  ///< why no file takes another's place
 
+  /// Written, but not on the disk yet: a power cut leaves as many bytes of it, and all of them 0.
+  std::set<std::string> Unflushed;
+
   /// After so many steps that change the disk the power goes: nothing changes any more, only the step in which it goes
   /// comes halfway if it is a write.
   int Steps_To_Power_Cut = std::numeric_limits<int>::max();
@@ -56,7 +59,19 @@ class Fake_Disk : public basic::Disk {
     Refuse_If_Read_Only(path);
   }
 
+  void Bring_To_Disk(const std::string& path) {
+    Refuse_If_Blocked(path);
+    if (Step()) Unflushed.erase(path);
+  }
+
+  void Cut_Power() {
+    for (const std::string& path : Unflushed) Contents[path].assign(Contents[path].size(), '\0');
+    Unflushed.clear();
+  }
+
   bool Move_Over(const std::string& from, const std::string& to) {
+    Refuse_If_Blocked(from);
+    Refuse_If_Held(from);
     Refuse_If_Held(to);
     if (Move_Failure) throw basic::Run_Error(*Move_Failure);
     if (Replaces == Replacing::Never) return false;
@@ -78,6 +93,7 @@ class Fake_Disk : public basic::Disk {
     if (!Step()) return;
     Room += Contents[path].size();
     Contents.erase(path);
+    Unflushed.erase(path);
   }
 
  private:
@@ -88,6 +104,7 @@ class Fake_Disk : public basic::Disk {
 
     std::size_t Write(std::string_view bytes) override {
       ++disk_.Writes;
+      if (disk_.Steps_To_Power_Cut >= 0) disk_.Unflushed.insert(path_);
       const std::size_t taken = std::min(bytes.size(), disk_.Room);
       if (disk_.Steps_To_Power_Cut == 0) Content() += bytes.substr(0, taken / 2);
       if (disk_.Step()) Content() += bytes.substr(0, taken);
@@ -116,6 +133,8 @@ class Fake_Disk : public basic::Disk {
     Contents[to] = Contents.at(from);
     Contents.erase(from);
     if (Read_Only.erase(from) != 0) Read_Only.insert(to);
+    Unflushed.erase(to);
+    if (Unflushed.erase(from) != 0) Unflushed.insert(to);
   }
 
   void Refuse_If_Blocked(const std::string& path) const {

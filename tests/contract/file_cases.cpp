@@ -238,20 +238,27 @@ TEST_F(File_Cases, A_file_between_two_renamings_is_found_again) {
   EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
 }
 
-TEST_F(File_Cases, A_new_file_that_is_left_alone_is_found_if_it_ends_with_a_line) {
-  Write("file.~new", "\"8/3/2004=Te");
+TEST_F(File_Cases, A_new_file_that_is_left_takes_the_place_if_it_is_whole) {
+  Write("file", "half");
+  Write("file.~whole", "new");
   Files.Recover(In_Case("file"));
-  EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{});
-  Write("file.~new", "\"8/3/2004=Tea\"\r\n");
+  EXPECT_EQ(Read("file"), "new");
+  Write("file.~new", "newer");
   Files.Recover(In_Case("file"));
-  EXPECT_EQ(Read("file"), "\"8/3/2004=Tea\"\r\n");
+  EXPECT_EQ(Read("file"), "new");
   EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});
 }
 
-TEST_F(File_Cases, A_file_takes_the_place_of_another_and_of_what_is_left_beside_it) {
+TEST_F(File_Cases, A_file_that_is_brought_to_the_disk_stays_as_it_is) {
+  Write("file", "x");
+  Files.Bring_To_Disk(In_Case("file"));
+  EXPECT_EQ(Read("file"), "x");
+  EXPECT_EQ(Error_Of([&] { Files.Bring_To_Disk(In_Case("none")); }), 53);
+}
+
+TEST_F(File_Cases, A_backup_takes_the_place_of_a_file) {
   Write("backup", "new");
   Write("file", "old");
-  Write("file.~new", "left");
   Files.Replace(In_Case("backup"), In_Case("file"));
   EXPECT_EQ(Read("file"), "new");
   EXPECT_EQ(Files.File_Names(Path("Case")), std::vector<std::string>{"file"});

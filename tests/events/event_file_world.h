@@ -25,6 +25,7 @@ class Fake_Files : public platform::Files {
   std::vector<std::string> Folder_Names(const std::string&) override { return {}; }
   void Check_Writing(const std::string& path) override { Disk.Check_Writing(path); }
   void Allow_Writing(const std::string& path) override { Disk.Read_Only.erase(path); }
+  void Bring_To_Disk(const std::string& path) override { Disk.Bring_To_Disk(path); }
   bool Move_Over(const std::string& from, const std::string& to) override { return Disk.Move_Over(from, to); }
   void Rename(const std::string& from, const std::string& to) override { Disk.Rename(from, to); }
   void Delete(const std::string& path) override { Disk.Delete(path); }

@@ -8,6 +8,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+constexpr const char* backup = "D:\\backup";
+
 class Safe_Saving_World : public Event_File_World {
  public:
   Safe_Saving_World() {
@@ -38,10 +40,13 @@ class Safe_Saving_World : public Event_File_World {
   /// The power is back and the program starts anew: all that is on the disk then.
   std::map<std::string, std::string> After_The_Next_Start() {
     Files.Disk.Steps_To_Power_Cut = std::numeric_limits<int>::max();
+    Files.Disk.Cut_Power();
     Event_File_World later;
     later.Desktop.Load();
     later.Files.Disk.Contents = All_Files();
     later.Files.Disk.Read_Only = Files.Disk.Read_Only;
+    later.Files.Disk.Held = Files.Disk.Held;
+    later.Files.Disk.Replaces = Files.Disk.Replaces;
     later.File.Recover();
     return later.Files.Disk.Contents;
   }
@@ -49,40 +54,48 @@ class Safe_Saving_World : public Event_File_World {
 
 class Safe_Saving : public ::testing::Test, public Safe_Saving_World {};
 
-/// Cuts the power at every step of the work, on file systems of each kind. Gives how many cuts there were.
+using Replacing = Fake_Disk::Replacing;
+constexpr Replacing all_ways[] = {Replacing::By_One_Step, Replacing::By_Two_Steps, Replacing::Never};
+
+/// Cuts the power at each of so many steps of the work, and behind it. Gives how many cuts left the old file.
 template <class Work>
-int Cut_At_Every_Step(const Work& work, const std::string& old_content, const std::string& new_content) {
-  int new_ones = 0, cuts = 0;
-  using enum Fake_Disk::Replacing;
-  for (const Fake_Disk::Replacing replaces : {By_One_Step, By_Two_Steps, Never}) {
-    for (int steps = 0;; ++steps) {
-      Safe_Saving_World world;
-      world.Files.Disk.Replaces = replaces;
-      world.Files.Disk.Steps_To_Power_Cut = steps;
-      work(world);
-      const bool whole_work = world.Files.Disk.Steps_To_Power_Cut >= 0;
-      const auto files = world.After_The_Next_Start();
-      EXPECT_EQ(files.size(), 1U) << "nothing but the file itself is left, step " << steps;
-      const auto found = files.find(Event_File_World::path);
-      if (found == files.end()) {
-        ADD_FAILURE() << "no file, step " << steps;
-        break;
-      }
-      const bool is_new = found->second == new_content;
-      EXPECT_TRUE(is_new || found->second == old_content) << found->second.size() << " bytes, step " << steps;
-      if (whole_work) {
-        EXPECT_TRUE(is_new);
-        break;
-      }
-      ++cuts;
-      new_ones += is_new ? 1 : 0;
+int Cut_At_Every_Step(const Work& work, const std::string& old_content, const std::string& new_content,
+                      Replacing replaces, bool held) {
+  int old_ones = 0;
+  for (int steps = 0;; ++steps) {
+    Safe_Saving_World world;
+    world.Files.Disk.Replaces = replaces;
+    if (held) world.Files.Disk.Held.insert(Event_File_World::path);
+    world.Files.Disk.Steps_To_Power_Cut = steps;
+    const int failure = Error_Of([&] { work(world); });
+    const bool whole_work = world.Files.Disk.Steps_To_Power_Cut >= 0;
+    EXPECT_TRUE(failure == 0 || !whole_work) << failure;
+    world.All_Files().erase(backup);
+    const auto files = world.After_The_Next_Start();
+    EXPECT_EQ(files.size(), 1U) << "nothing but the file itself is left, step " << steps;
+    const auto found = files.find(Event_File_World::path);
+    if (found == files.end()) {
+      ADD_FAILURE() << "no file, step " << steps;
+      return old_ones;
     }
+    const bool is_new = found->second == new_content;
+    EXPECT_TRUE(is_new || found->second == old_content) << found->second.size() << " bytes, step " << steps;
+    EXPECT_TRUE(is_new || !whole_work);
+    if (whole_work) return old_ones;
+    old_ones += is_new ? 0 : 1;
   }
-  EXPECT_GT(cuts, new_ones) << "some steps come before the new file is in its place";
-  return cuts;
 }
 
-constexpr const char* backup = "D:\\backup";
+/// The same on file systems of each kind, and while another program keeps the old file from being deleted.
+template <class Work>
+void Cut_At_Every_Step(const Work& work, const std::string& old_content, const std::string& new_content,
+                       int steps_before_the_place) {
+  for (const Replacing replaces : all_ways) {
+    for (const bool held : {false, true}) {
+      EXPECT_GE(Cut_At_Every_Step(work, old_content, new_content, replaces, held), steps_before_the_place);
+    }
+  }
+}
 
 /// The same of a work that puts a backup into the file's place.
 template <class Work>
@@ -90,9 +103,8 @@ void Cut_With_Backup(const Work& work) {
   const auto with_backup = [&work](Safe_Saving_World& world) {
     world.Files.Disk.Contents[backup] = Safe_Saving_World::Record("new");
     work(world);
-    world.Files.Disk.Contents.erase(backup);
   };
-  Cut_At_Every_Step(with_backup, Safe_Saving_World::Old_Content(), Safe_Saving_World::Record("new"));
+  Cut_At_Every_Step(with_backup, Safe_Saving_World::Old_Content(), Safe_Saving_World::Record("new"), 2);
 }
 
 }  // namespace
@@ -122,8 +134,9 @@ TEST_F(Safe_Saving, The_old_file_is_there_whole_until_the_new_one_is_complete) {
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_leaves_the_old_or_the_new_file) {
-  const int cuts = Cut_At_Every_Step([](Safe_Saving_World& world) { world.Save(); }, Old_Content(), New_Content());
-  EXPECT_GT(cuts, 10) << "creating, writing four times, renaming";
+  const int creating_writing_flushing_renaming = 7;
+  Cut_At_Every_Step([](Safe_Saving_World& world) { world.Save(); }, Old_Content(), New_Content(),
+                    creating_writing_flushing_renaming);
 }
 
 TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_leaves_the_old_or_the_new_file) {
@@ -141,25 +154,16 @@ TEST_F(Safe_Saving, A_power_cut_at_any_step_of_a_copy_of_a_read_only_file_leaves
   });
 }
 
-TEST_F(Safe_Saving, A_new_file_that_a_power_cut_has_left_alone_takes_the_place_if_it_ends_behind_a_record) {
-  const std::string beside = std::string(path) + ".~new";
-  const auto after_the_start_with = [&](const std::string& bytes) {
-    Safe_Saving_World world;
-    world.All_Files() = {{beside, bytes}};
-    world.Files.Disk.Read_Only.insert(beside);
-    return world.After_The_Next_Start();
-  };
-  using Found = std::map<std::string, std::string>;
-  EXPECT_EQ(after_the_start_with(New_Content()), (Found{{path, New_Content()}}));
-  for (const std::size_t missing : {1, 2, 3, 10})
-    EXPECT_EQ(after_the_start_with(New_Content().substr(0, New_Content().size() - missing)), Found{}) << missing;
-  EXPECT_EQ(after_the_start_with(""), Found{});
+TEST_F(Safe_Saving, A_new_file_takes_the_place_at_the_start_if_all_of_it_was_on_the_disk) {
+  const std::string whole = std::string(path) + ".~whole", beside = std::string(path) + ".~new";
+  All_Files() = {{path, "half"}, {whole, "9/3/2004=Choir"}};
+  EXPECT_EQ(After_The_Next_Start(), (std::map<std::string, std::string>{{path, "9/3/2004=Choir"}}));
+  All_Files() = {{beside, Record("9/3/2004=Choir")}};
+  EXPECT_TRUE(After_The_Next_Start().empty());
 }
 
 TEST_F(Safe_Saving, A_new_file_that_took_the_place_at_the_start_can_be_written) {
-  const std::string beside = std::string(path) + ".~new";
-  All_Files() = {{beside, Record("9/3/2004=Choir")}};
-  Files.Disk.Read_Only.insert(beside);
+  All_Files() = {{std::string(path) + ".~whole", Record("9/3/2004=Choir")}};
   File.Recover();
   Save();
   EXPECT_EQ(Messages(), Lines{});
@@ -179,15 +183,15 @@ TEST_F(Safe_Saving, What_a_power_cut_has_left_read_only_is_written_over) {
 }
 
 TEST_F(Safe_Saving, A_copy_is_put_over_what_a_power_cut_has_left_read_only) {
-  All_Files()["D:\\backup"] = "new";
+  All_Files()[backup] = "new";
   All_Files()[std::string(path) + ".~new"] = "left";
   Files.Disk.Read_Only.insert(std::string(path) + ".~new");
-  Files.Copy_Over("D:\\backup", path);
+  Files.Copy_Over(backup, path);
   EXPECT_EQ(Content(), "new");
 }
 
 TEST_F(Safe_Saving, A_file_that_cannot_get_its_name_back_at_the_start_is_not_lost_to_a_save) {
-  for (const char* const left : {".~bak", ".~new"}) {
+  for (const char* const left : {".~bak", ".~whole"}) {
     Safe_Saving_World world;
     const std::string other = std::string(path) + left;
     world.All_Files() = {{other, Old_Content()}};
@@ -218,7 +222,7 @@ TEST_F(Safe_Saving, A_power_cut_at_any_step_of_an_import_leaves_the_old_file_or_
     }
     world.Channel.Close();
   };
-  Cut_At_Every_Step(import, Old_Content(), Record("first") + Record("last"));
+  Cut_At_Every_Step(import, Old_Content(), Record("first") + Record("last"), 10);
 }
 
 TEST_F(Safe_Saving, A_disk_that_is_full_at_any_byte_leaves_the_old_file_and_no_other) {
@@ -252,8 +256,7 @@ TEST_F(Safe_Saving, A_file_that_may_not_be_written_fails_before_anything_is_done
 }
 
 TEST_F(Safe_Saving, A_file_that_may_be_written_but_not_replaced_is_written_in_its_place) {
-  using enum Fake_Disk::Replacing;
-  for (const Fake_Disk::Replacing replaces : {By_One_Step, Never}) {
+  for (const Replacing replaces : all_ways) {
     Safe_Saving_World world;
     world.Files.Disk.Replaces = replaces;
     world.Files.Disk.Held.insert(path);
@@ -261,14 +264,40 @@ TEST_F(Safe_Saving, A_file_that_may_be_written_but_not_replaced_is_written_in_it
     EXPECT_EQ(world.Messages(), Lines{});
     EXPECT_EQ(world.Content(), New_Content());
     EXPECT_EQ(world.All_Files().size(), 1U);
-    world.All_Files()["D:\\backup"] = "new";
-    world.Files.Copy_Over("D:\\backup", path);
+    world.All_Files()[backup] = "new";
+    world.Files.Copy_Over(backup, path);
     EXPECT_EQ(world.Content(), "new");
-    world.All_Files()["D:\\backup"] = "newer";
-    world.Files.Replace("D:\\backup", path);
+    world.All_Files()[backup] = "newer";
+    world.Files.Replace(backup, path);
     EXPECT_EQ(world.Content(), "newer");
     EXPECT_EQ(world.All_Files().size(), 1U);
   }
+}
+
+TEST_F(Safe_Saving, A_new_file_that_is_held_leaves_the_old_one_as_it_is) {
+  for (const Replacing replaces : all_ways) {
+    for (const bool there : {true, false}) {
+      Safe_Saving_World world;
+      if (!there) world.All_Files().clear();
+      world.All_Files()[backup] = "new";
+      world.Files.Disk.Replaces = replaces;
+      world.Files.Disk.Held.insert(std::string(path) + ".~whole");
+      EXPECT_EQ(Error_Of([&] { world.Files.Copy_Over(backup, path); }), 70);
+      EXPECT_EQ(world.Is_There(), there);
+      if (there) {
+        EXPECT_EQ(world.Content(), Old_Content());
+      }
+    }
+  }
+}
+
+TEST_F(Safe_Saving, A_backup_does_not_take_the_place_of_a_file_that_has_only_another_name) {
+  const std::string old = std::string(path) + ".~bak";
+  All_Files() = {{old, Old_Content()}, {backup, "older"}};
+  Files.Disk.Blocked.insert(old);
+  EXPECT_EQ(Error_Of([&] { Files.Replace(backup, path); }), 75);
+  EXPECT_EQ(All_Files()[old], Old_Content());
+  EXPECT_EQ(All_Files()[backup], "older");
 }
 
 TEST_F(Safe_Saving, A_file_that_cannot_be_replaced_needs_no_room_for_two) {
@@ -292,13 +321,13 @@ TEST_F(Safe_Saving, A_new_file_that_can_neither_take_the_place_nor_be_written_th
 }
 
 TEST_F(Safe_Saving, What_fails_to_take_the_place_for_another_reason_leaves_the_old_file_and_no_other) {
-  All_Files()["D:\\backup"] = "new";
+  All_Files()[backup] = "new";
   for (const basic::Error_Number failure : {basic::Error_Number::Disk_Full, basic::Error_Number::Path_File_Access}) {
     Files.Disk.Move_Failure = failure;
-    EXPECT_EQ(Error_Of([&] { Files.Copy_Over("D:\\backup", path); }), static_cast<int>(failure));
-    EXPECT_EQ(Error_Of([&] { Files.Replace("D:\\backup", path); }), static_cast<int>(failure));
+    EXPECT_EQ(Error_Of([&] { Files.Copy_Over(backup, path); }), static_cast<int>(failure));
+    EXPECT_EQ(Error_Of([&] { Files.Replace(backup, path); }), static_cast<int>(failure));
     EXPECT_EQ(Content(), Old_Content());
-    EXPECT_EQ(All_Files()["D:\\backup"], "new");
+    EXPECT_EQ(All_Files()[backup], "new");
     EXPECT_EQ(All_Files().size(), 2U);
   }
 }
@@ -326,7 +355,7 @@ TEST_F(Safe_Saving, Without_the_consent_the_file_is_written_in_its_place_and_not
 }
 
 TEST_F(Safe_Saving, Events_that_a_power_cut_has_left_under_another_name_are_there_when_the_consent_is_withdrawn) {
-  for (const char* const left : {".~bak", ".~new"}) {
+  for (const char* const left : {".~bak", ".~whole"}) {
     Event_File_World world;
     world.Files.Disk.Contents[std::string(path) + left] = Record("9/3/2004=Choir");
     world.File.Recover();

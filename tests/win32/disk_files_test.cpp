@@ -20,12 +20,12 @@ BOOL WINAPI Fail_To_Flush(HANDLE) {
 class Held_Files : public ::testing::Test {
  protected:
   Held_Files() {
-    for (const char* const left : {"", ".~new", ".~bak"}) Remove(File + left);
+    for (const char* const left : {"", ".~new", ".~whole", ".~bak"}) Remove(File + left);
     Remove(Other);
     Write(File, "old");
   }
   ~Held_Files() override {
-    for (const char* const left : {"", ".~new", ".~bak"}) Remove(File + left);
+    for (const char* const left : {"", ".~new", ".~whole", ".~bak"}) Remove(File + left);
     Remove(Other);
   }
 
@@ -120,7 +120,8 @@ TEST_F(Held_Files, A_file_that_another_program_keeps_from_being_deleted_is_writt
     Files.Replace(Other, File);
     EXPECT_EQ(Read(File), "newest");
   }
-  for (const std::string& left : {File + ".~new", File + ".~bak", Other}) EXPECT_FALSE(Files.File_Exists(left)) << left;
+  for (const std::string& left : {File + ".~new", File + ".~whole", File + ".~bak", Other})
+    EXPECT_FALSE(Files.File_Exists(left)) << left;
 }
 
 TEST_F(Held_Files, A_disk_that_knows_nothing_of_flushing_is_flushed) {

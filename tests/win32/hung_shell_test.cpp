@@ -1,4 +1,6 @@
 // A shell that is slow or hangs, seen from the calendar.
+#include <thread>
+
 #include "presentation/desktop_embedding.h"
 #include "tests/win32/shell_thread.h"
 #include "tests/win32/window_on_screen.h"
@@ -59,6 +61,19 @@ TEST_F(Hung_Shell, A_start_waits_for_a_shell_that_is_slow) {
   Embedding.No_ShowDesktop_and_IconColours();
   EXPECT_EQ(State.Desktop_Back_Colour, 123);
   EXPECT_EQ(State.Desktop_Text_Colour, 456);
+  EXPECT_TRUE(On_Desktop());
+}
+
+// The system takes a thread for hung that has served no message for five seconds.
+TEST_F(Hung_Shell, A_start_waits_for_a_shell_that_has_long_been_silent) {
+  Desktop.Hang();
+  Sleep(5500);
+  const std::jthread later([this] {
+    Sleep(500);
+    Desktop.Go_On();
+  });
+  Embedding.No_ShowDesktop_and_IconColours();
+  EXPECT_EQ(State.Desktop_Back_Colour, 123);
   EXPECT_TRUE(On_Desktop());
 }
 
