@@ -79,7 +79,8 @@ int Accessible_Form::Number_In_Form(const toolkit::Control& control) {
 }
 
 void Accessible_Form::Fulfil(const toolkit::Control& control, int part, Wish wish) {
-  Post(control.Window, Number_In_Form(control), part, wish);
+  // Without a number it would be a wish for the window.
+  if (const int number = Number_In_Form(control)) Post(control.Window, number, part, wish);
 }
 
 void Accessible_Form::Post(const toolkit::Form& form, int number, int part, Wish wish) {

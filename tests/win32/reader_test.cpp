@@ -221,6 +221,20 @@ TEST_F(Readers, The_focus_that_a_window_gets_makes_it_active) {
   EXPECT_EQ(Backend.Active_Form(), &Window);
 }
 
+TEST_F(Readers, The_focus_that_a_control_without_a_number_gets_leaves_its_window_as_it_is) {
+  const Object box = Read(Child("Button"));
+  Box.Heard_With = &Title;
+  toolkit::Form other(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog);
+  other.Move(9000, 1500);
+  other.Set_Client_Size(3000, 3000);
+  other.Show();
+  Wait(100);
+  ASSERT_EQ(Backend.Active_Form(), &other);
+  EXPECT_EQ(box.Get()->accSelect(SELFLAG_TAKEFOCUS, Numbered(0)), S_OK);
+  Wait(100);
+  EXPECT_EQ(Backend.Active_Form(), &other);
+}
+
 TEST_F(Readers, An_item_that_is_scrolled_out_of_its_list_is_told_as_such) {
   for (int i = 4; i <= 40; ++i) List.Add_Item(std::to_string(i));
   Wait(50);
