@@ -45,6 +45,11 @@ class Item_List : public Control, public Font_Properties {
 
   [[nodiscard]] bool Takes_Focus() const override { return true; }
 
+  [[nodiscard]] int Part_Count() const override { return ListCount(); }
+  [[nodiscard]] std::string Part_Text(int part) const override { return List(part); }
+  [[nodiscard]] int Selected_Part() const override { return ListIndex(); }
+  void Select_Part(int part) override { User_Select(part); }
+
   /// Up, Down, Home, End and the pages move the selection.
   bool Key_Down(const Key& key) override;
 
@@ -69,10 +74,6 @@ class List_Box : public Item_List {
   explicit List_Box(const Container& container, std::string name, Order order = Order::As_Added, int index = -1);
 
   [[nodiscard]] Role Kind() const override { return Role::List; }
-  [[nodiscard]] int Part_Count() const override { return ListCount(); }
-  [[nodiscard]] std::string Part_Text(int part) const override { return List(part); }
-  [[nodiscard]] int Selected_Part() const override { return ListIndex(); }
-  void Select_Part(int part) override { User_Select(part); }
 
  private:
   [[nodiscard]] int Page() const override;

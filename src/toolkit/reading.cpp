@@ -130,7 +130,8 @@ Heard Hear_Part(const Control& control, int part) {
   heard.Available = control.Usable() && control.Window.Accepts_Input();
   heard.Focusable = heard.Selectable = true;
   heard.Selected = control.Selected_Part() == part;
-  heard.Focused = heard.Selected && Has_Focus(control);
+  // A drop-down list keeps the focus to itself.
+  heard.Focused = heard.Selected && control.Kind() != Role::Drop_Down && Has_Focus(control);
   return heard;
 }
 

@@ -79,7 +79,8 @@ int Accessible_Form::Number_In_Form(const toolkit::Control& control) {
 }
 
 void Accessible_Form::Fulfil(const toolkit::Control& control, int part, Wish wish) {
-  Post(control.Window, Number_In_Form(control), part, wish);
+  // Without a number it would be a wish for the window.
+  if (const int number = Number_In_Form(control)) Post(control.Window, number, part, wish);
 }
 
 void Accessible_Form::Post(const toolkit::Form& form, int number, int part, Wish wish) {
@@ -92,10 +93,18 @@ void Accessible_Form::Do(WPARAM w, LPARAM l) const {
   const bool focus = l % 2 == static_cast<LPARAM>(Wish::Focus);
   if (w == 0 && focus) toolkit::Give_Focus(form_);
   if (control == nullptr) return;
-  if (focus) toolkit::Give_Focus(*control);
-  else if (part >= 0) toolkit::Select_Part(*control, part);
-  else if (control->Kind() == toolkit::Role::Drop_Down) Open_List(*control);
-  else toolkit::Act_On(*control);
+  const bool drop_down = control->Kind() == toolkit::Role::Drop_Down;
+  if (focus) {
+    toolkit::Give_Focus(*control);
+  } else if (part >= 0) {
+    // The list closes with the pick, as under the user's hand.
+    if (drop_down) SendMessageA(To_Window(form_.Handle_Of(*control)), CB_SHOWDROPDOWN, FALSE, 0);
+    toolkit::Select_Part(*control, part);
+  } else if (drop_down) {
+    Open_List(*control);
+  } else {
+    toolkit::Act_On(*control);
+  }
 }
 
 /// The list is the system's own, and opens where the focus is.

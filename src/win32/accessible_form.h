@@ -31,6 +31,7 @@ class Accessible_Form final : public Accessible_Window {
   static int Number_In_Form(const toolkit::Control& control);
 
   /// Asks the window of the control's form to do it for the control, or for a part of it; -1: for it as a whole.
+  /// Nothing is done for a control that is heard with another one.
   static void Fulfil(const toolkit::Control& control, int part, Wish wish);
 
   /// Does what was asked by the message reader_wishes. **A handler may destroy the window: touch no member after it.**

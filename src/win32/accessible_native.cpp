@@ -9,13 +9,20 @@ HWND Accessible_Native::Window() const { return native_.Window(); }
 
 int Accessible_Native::Count() const { return native_.Control().Part_Count(); }
 
+/// What the user sees of a part, in pixels of the window in which it lies; empty if it is scrolled out of that.
+RECT Accessible_Native::Seen_Place(int part) const {
+  const RECT place = native_.Part_Place(part);
+  RECT client = {}, seen = {};
+  GetClientRect(native_.Parts_Window(), &client);
+  IntersectRect(&seen, &place, &client);
+  return seen;
+}
+
 toolkit::Heard Accessible_Native::Hear(int number) const {
   if (number == 0) return toolkit::Hear(native_.Control());
   toolkit::Heard heard = toolkit::Hear_Part(native_.Control(), number - 1);
-  const RECT place = native_.Part_Place(number - 1);
-  RECT client = {}, seen = {};
-  GetClientRect(Window(), &client);
-  heard.Scrolled_Out = IntersectRect(&seen, &place, &client) == 0;
+  const RECT seen = Seen_Place(number - 1);
+  heard.Scrolled_Out = IsRectEmpty(&seen) != 0;
   return heard;
 }
 
@@ -26,15 +33,15 @@ RECT Accessible_Native::Place(int number) const {
     return place;
   }
   place = native_.Part_Place(number - 1);
-  MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
+  MapWindowPoints(native_.Parts_Window(), nullptr, reinterpret_cast<POINT*>(&place), 2);
   return place;
 }
 
 int Accessible_Native::At(POINT on_screen) const {
-  ScreenToClient(Window(), &on_screen);
+  ScreenToClient(native_.Parts_Window(), &on_screen);
   for (int part = 0; part < Count(); ++part) {
-    const RECT place = native_.Part_Place(part);
-    if (PtInRect(&place, on_screen) != 0) return part + 1;
+    const RECT seen = Seen_Place(part);
+    if (PtInRect(&seen, on_screen) != 0) return part + 1;
   }
   return 0;
 }
@@ -48,8 +55,9 @@ int Accessible_Native::Beside(int number, toolkit::Way way) const {
 }
 
 int Accessible_Native::Focused() const {
-  if (!toolkit::Hear(native_.Control()).Focused) return -1;
-  return Selected();
+  const int selected = Selected();
+  if (selected > 0 && Hear(selected).Focused) return selected;
+  return Hear(0).Focused ? 0 : -1;
 }
 
 int Accessible_Native::Selected() const { return native_.Control().Selected_Part() + 1; }

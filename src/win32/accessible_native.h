@@ -26,6 +26,8 @@ class Accessible_Native final : public Accessible_Window {
   void Fulfil(int number, Wish wish) const override;
 
  private:
+  [[nodiscard]] RECT Seen_Place(int part) const;
+
   const Native_Control& native_;
 };
 

@@ -1,5 +1,7 @@
 #include "win32/accessible_object.h"
 
+#include "win32/guard.h"
+
 namespace win32 {
 
 namespace {
@@ -58,7 +60,7 @@ void Set_Number(VARIANT* to, LONG number) {
 /// Puts a question to the window: `work` gets it and the number that is asked for.
 template <class Work>
 HRESULT Accessible_Object::Ask(const VARIANT& number, Work work) const {
-  if (window_ == nullptr) return CO_E_OBJNOTCONNECTED;
+  if (window_ == nullptr || Guard::Broken_Off()) return CO_E_OBJNOTCONNECTED;
   try {
     if (number.vt != VT_I4 || number.lVal < 0 || number.lVal > window_->Count()) return E_INVALIDARG;
     return work(*window_, static_cast<int>(number.lVal));

@@ -4,6 +4,7 @@
 
 #include <exception>
 #include <functional>
+#include <utility>
 
 namespace win32 {
 
@@ -13,10 +14,10 @@ class Guard {
   std::function<void()> Afterwards;
 
   /// Runs `work`, as a callback of the system asks. Returns false if it threw, or wasn't run since the program is
-  /// ending.
+  /// ending or broken off.
   template <class Work>
   bool Run(Work&& work) noexcept {
-    if (ending_) return false;
+    if (ending_ || broken_) return false;
     try {
       work();
       if (Afterwards) Afterwards();
@@ -37,9 +38,15 @@ class Guard {
   /// The exception that ended the program; none after an ordinary end.
   [[nodiscard]] std::exception_ptr Failure() const noexcept { return failure_; }
 
+  /// A failure that can't be caught has broken the program off: from now on no callback runs anything of it. Returns false
+  /// if that was so already.
+  static bool Break_Off() noexcept { return !std::exchange(broken_, true); }
+  [[nodiscard]] static bool Broken_Off() noexcept { return broken_; }
+
  private:
   void Caught() noexcept;
 
+  inline static bool broken_ = false;
   bool ending_ = false;
   std::exception_ptr failure_;
 };

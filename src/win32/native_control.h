@@ -36,7 +36,9 @@ class Native_Control {
   virtual void Notified(UINT /*code*/) {}
   virtual void Draw(const DRAWITEMSTRUCT& /*item*/) {}
 
-  /// The place of a part of a list or a strip of tabs, in pixels of the window; empty for any other control.
+  /// The window in which the parts of a list or a strip of tabs lie; nullptr while they aren't shown anywhere.
+  [[nodiscard]] virtual HWND Parts_Window() const { return window_; }
+  /// The place of a part, in pixels of that window; empty without one, and for any other control.
   [[nodiscard]] virtual RECT Part_Place(int /*part*/) const { return {}; }
 
   /// Whether the keys are the system's at this moment.

@@ -114,6 +114,20 @@ void Native_Combo_Box::Show_Widest(int pixels) {
 
 bool Native_Combo_Box::Keeps_Keys() const { return Send(CB_GETDROPPEDSTATE) != 0; }
 
+// A system that lacks the function has no readers either.
+HWND Native_Combo_Box::Parts_Window() const {
+  const auto ask = Find_Function<BOOL WINAPI(HWND, COMBOBOXINFO*)>(GetModuleHandleA("user32.dll"), "GetComboBoxInfo");
+  COMBOBOXINFO box = {};
+  box.cbSize = sizeof box;
+  return Keeps_Keys() && ask != nullptr && ask(Window(), &box) != 0 ? box.hwndList : nullptr;
+}
+
+RECT Native_Combo_Box::Part_Place(int part) const {
+  RECT place = {};
+  SendMessageA(Parts_Window(), LB_GETITEMRECT, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(&place));
+  return place;
+}
+
 // What the user goes over while the list is dropped isn't picked yet.
 void Native_Combo_Box::Command(WORD code) {
   const int selected = Selected();

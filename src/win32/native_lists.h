@@ -60,6 +60,10 @@ class Native_Combo_Box final : public Native_Item_List {
   /// While the list is dropped.
   [[nodiscard]] bool Keeps_Keys() const override;
 
+  /// The list, while it is dropped.
+  [[nodiscard]] HWND Parts_Window() const override;
+  [[nodiscard]] RECT Part_Place(int part) const override;
+
  private:
   void Show_Widest(int pixels) override;
   [[nodiscard]] RECT Wanted_Place() const override;

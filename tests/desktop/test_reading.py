@@ -172,6 +172,23 @@ class Reading_The_Settings(Desktop_Test):
         splash = settings.one(reader.CHECK_BOX, "Splash Screen")
         self.assert_near(splash.rect, window.place(1890, 360, 1635, 240, (0, 1305)), 1, "its place")
 
+    def test_the_items_of_a_drop_down_list_stand_where_they_are_picked_while_it_is_open(self):
+        window, heard = self.opened(3)
+        screen = window.desktop.screen
+
+        def dates():
+            return heard.read().one(reader.DROP_DOWN, "Date:")
+
+        box = dates()
+        self.assertEqual([item.name for item in box.children][:2], ["mm/yyyy", "dd/mm/yyyy"])
+        self.assertEqual([item.name for item in box.children if item.state & reader.SELECTED], [box.value])
+        self.assertTrue(all(item.state & reader.OFF_SCREEN for item in box.children), "it is closed")
+        screen.click(box.rect.right - 8, box.rect.centre[1])
+        wait_for(lambda: not any(item.state & reader.OFF_SCREEN for item in dates().children), "the open list")
+        screen.click(*dates().children[1].rect.centre)
+        wait_for(lambda: dates().value == "dd/mm/yyyy", "the date's form that was picked")
+        self.assertTrue(all(item.state & reader.OFF_SCREEN for item in dates().children), "it is closed again")
+
     def test_a_reader_that_has_hold_of_a_closed_window_hears_that_it_is_gone(self):
         window, heard = self.opened(3)
         told = heard.hold()

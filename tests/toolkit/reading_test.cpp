@@ -196,6 +196,19 @@ TEST_F(Reading, The_parts_of_a_strip_are_tabs_and_those_of_a_list_items) {
   EXPECT_EQ(Hear_Part(list, 0).Name, "one");
 }
 
+TEST_F(Reading, The_items_of_a_drop_down_list_are_heard_and_leave_the_focus_to_it) {
+  toolkit::Combo_Box box(Window, "Combo1");
+  for (const char* const item : {"Red", "Green"}) box.Add_Item(item);
+  box.Select(1);
+  Window.Set_Focus(box);
+  EXPECT_EQ(box.Part_Count(), 2);
+  EXPECT_EQ(Hear_Part(box, 0).Role, Role::List_Item);
+  EXPECT_EQ(Hear_Part(box, 1).Name, "Green");
+  EXPECT_TRUE(Hear_Part(box, 1).Selected);
+  EXPECT_TRUE(Hear(box).Focused);
+  EXPECT_FALSE(Hear_Part(box, 1).Focused);
+}
+
 TEST_F(Reading, A_control_that_another_speaks_for_isnt_heard_by_itself) {
   Label number(Window, "Box_Lbl"), caption(Window, "Box_Caption_Lbl"), other(Window, "Label1");
   caption.Heard_With = &number;

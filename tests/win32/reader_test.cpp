@@ -20,6 +20,8 @@ VARIANT Numbered(LONG number) {
   return variant;
 }
 
+constexpr LONG either = STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
+
 class Readers : public Window_On_Screen {
  protected:
   Readers() {
@@ -68,6 +70,14 @@ class Readers : public Window_On_Screen {
     const HRESULT found =
         object.Get()->accHitTest((place.left + place.right) / 2, (place.top + place.bottom) / 2, &hit);
     return found == S_OK && hit.vt == VT_I4 ? hit.lVal : -1;
+  }
+
+  /// Drops the list of Choice, filled to forty items, or closes it.
+  Object Dropped(bool open) {
+    for (int i = Choice.ListCount(); i < 40; ++i) Choice.Add_Item(std::to_string(i + 1));
+    Wait(50);
+    SendMessageA(Child("ComboBox"), CB_SHOWDROPDOWN, open, 0);
+    return Read(Child("ComboBox"));
   }
 
   toolkit::Label Title{Window, "Title"};                             // 1
@@ -211,8 +221,21 @@ TEST_F(Readers, The_focus_that_a_window_gets_makes_it_active) {
   EXPECT_EQ(Backend.Active_Form(), &Window);
 }
 
+TEST_F(Readers, The_focus_that_a_control_without_a_number_gets_leaves_its_window_as_it_is) {
+  const Object box = Read(Child("Button"));
+  Box.Heard_With = &Title;
+  toolkit::Form other(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog);
+  other.Move(9000, 1500);
+  other.Set_Client_Size(3000, 3000);
+  other.Show();
+  Wait(100);
+  ASSERT_EQ(Backend.Active_Form(), &other);
+  EXPECT_EQ(box.Get()->accSelect(SELFLAG_TAKEFOCUS, Numbered(0)), S_OK);
+  Wait(100);
+  EXPECT_EQ(Backend.Active_Form(), &other);
+}
+
 TEST_F(Readers, An_item_that_is_scrolled_out_of_its_list_is_told_as_such) {
-  constexpr LONG either = STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
   for (int i = 4; i <= 40; ++i) List.Add_Item(std::to_string(i));
   Wait(50);
   const Object list = Read(Child("ListBox"));
@@ -279,6 +302,54 @@ TEST_F(Readers, A_drop_down_list_is_opened) {
   choice.Get()->accDoDefaultAction(Numbered(0));
   Wait(50);
   EXPECT_FALSE(open());
+}
+
+TEST_F(Readers, The_items_of_an_open_drop_down_list_stand_where_the_user_picks_them) {
+  const Object choice = Dropped(true);
+  EXPECT_EQ(State(choice, 2) & either, 0);
+  EXPECT_EQ(State(choice, 40) & either, STATE_SYSTEM_OFFSCREEN);
+  const RECT place = Place(choice, 2);
+  SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  Wait(50);
+  mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+  Wait(50);
+  EXPECT_EQ(Choice.Text(), "late");
+}
+
+TEST_F(Readers, An_item_above_the_part_of_an_open_list_that_is_seen_doesnt_stand_over_the_closed_box) {
+  Choice.Select(1);
+  const Object choice = Dropped(true);
+  Choice.Select(39);
+  EXPECT_EQ(State(choice, 40) & either, 0);
+  EXPECT_EQ(State(choice, 1) & either, STATE_SYSTEM_OFFSCREEN);
+  EXPECT_EQ(At_Middle_Of(choice, Place(choice)), 0);
+}
+
+TEST_F(Readers, The_readers_pick_closes_an_open_drop_down_list) {
+  const Object choice = Dropped(true);
+  EXPECT_EQ(choice.Get()->accDoDefaultAction(Numbered(2)), S_OK);
+  Wait(50);
+  EXPECT_EQ(Choice.Text(), "late");
+  EXPECT_EQ(SendMessageA(Child("ComboBox"), CB_GETDROPPEDSTATE, 0, 0), 0);
+}
+
+TEST_F(Readers, A_drop_down_list_keeps_the_focus_to_itself) {
+  Choice.Select(1);
+  Window.Set_Focus(Choice);
+  const Object choice = Read(Child("ComboBox"));
+  VARIANT focused = {};
+  ASSERT_EQ(choice.Get()->get_accFocus(&focused), S_OK);
+  EXPECT_EQ(focused.lVal, 0);
+  EXPECT_EQ(State(choice, 2) & STATE_SYSTEM_FOCUSED, 0);
+}
+
+TEST_F(Readers, The_items_of_a_closed_drop_down_list_are_off_the_screen_and_have_no_place) {
+  Dropped(true);
+  const Object choice = Dropped(false);
+  EXPECT_EQ(State(choice, 1) & either, STATE_SYSTEM_OFFSCREEN);
+  const RECT place = Place(choice, 1);
+  EXPECT_NE(IsRectEmpty(&place), 0);
 }
 
 TEST_F(Readers, What_was_held_of_a_window_that_has_gone_answers_that_it_isnt_connected) {

@@ -10,7 +10,7 @@ READER = f"Z:{BUILD}/tests/desktop/desktop_reader.exe".replace("/", "\\")
 # Roles and states, by the system's numbers.
 CLIENT, DIALOG, CELL, COLUMN_HEADER, GROUP, TEXT, PUSH_BUTTON, CHECK_BOX, OPTION, TEXT_BOX, DROP_DOWN, TABS, TAB = (
     10, 18, 29, 25, 20, 41, 43, 44, 45, 42, 46, 60, 37)
-UNAVAILABLE, SELECTED, FOCUSED, CHECKED, INVISIBLE = 1, 2, 4, 0x10, 0x8000
+UNAVAILABLE, SELECTED, FOCUSED, CHECKED, INVISIBLE, OFF_SCREEN = 1, 2, 4, 0x10, 0x8000, 0x10000
 
 
 class Thing:
