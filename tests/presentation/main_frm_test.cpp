@@ -27,6 +27,8 @@ void Expect_Font(const Label& label, const std::string& name, double size, bool 
 }  // namespace
 
 TEST_F(Main_Frm_Test, Is_made_as_the_square_box) {
+  EXPECT_EQ(Made.Window.Width(), 6450);
+  EXPECT_EQ(Made.Window.Height(), 6725);
   for (int i = 0; i < 37; ++i) {
     const double left = 90 + i % 7 * 900;
     const double top = 810 + i / 7 * 990;

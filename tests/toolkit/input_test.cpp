@@ -297,6 +297,21 @@ TEST_F(Input_Test, A_window_that_went_is_not_told_that_it_lost_the_activity) {
   EXPECT_EQ(Take(), Words{});
 }
 
+TEST_F(Input_Test, A_window_that_went_hears_of_its_activity_anew_and_the_others_do_not) {
+  Form other(Backend, "Tip");
+  other.Show(false);
+  Window.On_Activate = [&] { Heard.emplace_back("active"); };
+  other.Unload();
+  In.Activity_Came(Window);
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), Words{});
+  Window.Unload();
+  Window.Show(false);
+  Window.Activate();
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), Words{"active"});
+}
+
 TEST_F(Input_Test, An_owner_becomes_active_when_its_active_window_unloads) {
   Form owned(Backend, "frmBalloon", toolkit::Form_Border::None, &Window);
   Form third(Backend, "Edit_Frm");

@@ -329,6 +329,9 @@ TEST_F(Reading, The_reader_turns_to_a_tab_as_the_user_does) {
   EXPECT_EQ(strip.Selected(), 2);
   toolkit::Select_Part(strip, 2);
   EXPECT_EQ(strip.Selected(), 2) << "there is no third one";
+  toolkit::Select_Part(strip, 0);
+  EXPECT_EQ(strip.Selected(), 1);
+  toolkit::Select_Part(strip, 1);
   strip.Enabled = false;
   toolkit::Select_Part(strip, 0);
   EXPECT_EQ(strip.Selected(), 2);
