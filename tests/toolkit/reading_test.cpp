@@ -300,8 +300,11 @@ TEST_F(Reading, The_reader_makes_a_window_active_where_the_user_could) {
     toolkit::Give_Focus(Window);
   }
   EXPECT_EQ(Backend.Active, &other);
+  int told = 0;
+  Window.On_Activate = [&] { ++told; };
   toolkit::Give_Focus(Window);
   EXPECT_EQ(Backend.Active, &Window);
+  EXPECT_EQ(told, 1);
 }
 
 TEST_F(Reading, The_focus_that_the_reader_gives_is_told) {
