@@ -40,6 +40,9 @@ TEST_F(Main_Frm_Test, Is_made_as_the_square_box) {
   EXPECT_EQ(Made.Next_Month_Lbl.In_Twips(), (Bounds{6030, 90, 285, 285}));
   EXPECT_EQ(Made.Which_Month_Lbl.In_Twips(), (Bounds{495, 90, 5435, 285}));
   EXPECT_EQ(Made.DotDotDot_Lbl.In_Twips(), (Bounds{4410, 6435, 1170, 195}));
+  for (const toolkit::Picture_Box* const picture :
+       {&Made.Clear_Pic, &Made.File_Pic, &Made.Settings_Pic, &Made.Exit_Pic})
+    EXPECT_EQ(picture->In_Twips(), (Bounds{0, 0, 195, 195})) << picture->Name;
 }
 
 TEST_F(Main_Frm_Test, Has_37_boxes_and_7_headers) {

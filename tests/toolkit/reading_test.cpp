@@ -226,6 +226,9 @@ TEST_F(Reading, From_a_box_of_a_grid_the_four_ways_lead_to_the_boxes_around_it) 
   EXPECT_EQ(Name(Neighbour(Window, boxes[4].get(), Way::Up)), "box1");
   EXPECT_EQ(Name(Neighbour(Window, boxes[4].get(), Way::Down)), "box7");
   EXPECT_EQ(Name(Neighbour(Window, boxes[5].get(), Way::Right)), "none");
+  Label same(Window, "same");
+  Put(same, 2, 1);
+  EXPECT_EQ(Name(Neighbour(Window, boxes[4].get(), Way::Right)), "box5") << "of two as near the first one";
 }
 
 TEST_F(Reading, The_readers_click_takes_the_road_of_the_users) {
