@@ -1,8 +1,8 @@
 #include "basic/find_byte.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
-#include <cstring>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -27,7 +27,10 @@ std::uint64_t Hits_In_64(const char* at, __m128i sample) {
 
 }  // namespace
 
+#endif
+
 const char* Find_Byte(const char* at, const char* end, char wanted) {
+#ifdef __SSE2__
   const __m128i sample = _mm_set1_epi8(wanted);
   for (; end - at >= 64; at += 64) {
     const std::uint64_t hits = Hits_In_64(at, sample);
@@ -37,17 +40,8 @@ const char* Find_Byte(const char* at, const char* end, char wanted) {
     const std::uint64_t hits = Hits_In_16(at, sample);
     if (hits != 0) return at + std::countr_zero(hits);
   }
-  while (at != end && *at != wanted) ++at;
-  return at;
-}
-
-#else
-
-const char* Find_Byte(const char* at, const char* end, char wanted) {
-  const void* const hit = at == end ? nullptr : std::memchr(at, wanted, static_cast<std::size_t>(end - at));
-  return hit == nullptr ? end : static_cast<const char*>(hit);
-}
-
 #endif
+  return std::find(at, end, wanted);
+}
 
 }  // namespace basic

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 #include <vector>
 
 #include "basic/text.h"
@@ -81,16 +82,14 @@ bool Is_Weekday(std::string_view word, const Date_Words& words) {
          std::any_of(words.Short_Weekdays.begin(), words.Short_Weekdays.end(), is_it);
 }
 
-/// The name takes its place among the numbers, between the day and the year.
+/// The name takes its place among the numbers, between the day and the year. Without a name there is no month.
 std::optional<Serial_Day> Read_Named_Date(std::string_view text, const Date_Rules& rules, const Date_Words& words) {
   std::vector<std::string_view> pieces = Words_Of(text);
   if (pieces.size() == 4 && Is_Weekday(pieces.front(), words)) pieces.erase(pieces.begin());
   if (pieces.size() != 3) return std::nullopt;
-  const auto name = std::find_if(pieces.begin(), pieces.begin() + 2,
-                                 [&](std::string_view piece) { return Month_Of_Name(piece, words) != 0; });
-  if (name == pieces.begin() + 2) return std::nullopt;
-  std::string numbers(pieces[name == pieces.begin() ? 1 : 0]);
-  numbers.append("/").append(std::to_string(Month_Of_Name(*name, words))).append("/").append(pieces[2]);
+  if (Month_Of_Name(pieces[0], words) != 0) std::swap(pieces[0], pieces[1]);
+  std::string numbers(pieces[0]);
+  numbers.append("/").append(std::to_string(Month_Of_Name(pieces[1], words))).append("/").append(pieces[2]);
   return Read_Numeric_Date(numbers, {Date_Order::Day_First, rules.Newest_Short_Year});
 }
 

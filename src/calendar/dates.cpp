@@ -19,10 +19,9 @@ bool Gives(basic::Serial_Day day, const Reading& read) {
 }  // namespace
 
 basic::Weekday Dates::First_Day_Of_Week(const settings::Settings& settings) const {
-  if (settings.Start_Day == 0) return locale_.First_Weekday();
   if (settings.Start_Day < 0 || settings.Start_Day > 7)
     throw basic::Run_Error(basic::Error_Number::Invalid_Procedure_Call);
-  return static_cast<basic::Weekday>(settings.Start_Day.Value());
+  return settings.Start_Day == 0 ? locale_.First_Weekday() : static_cast<basic::Weekday>(settings.Start_Day.Value());
 }
 
 void Dates::Append_Readable_Date(std::string& to, basic::Serial_Day day) const {

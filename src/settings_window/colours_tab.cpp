@@ -167,14 +167,9 @@ void Colours_Tab::ShowColors(Colour colour) {
   if (toolkit::Is_System_Colour(colour)) return;
   lbColor.Cls();
   lbColor.BackColor = colour;
-  Write_Form(0, basic::To_Text(colour));
-  Write_Form(1, Hexadecimal_Form(colour));
-  Write_Form(2, Decimal_Form(colour));
-}
-
-/// Only the forms for which the window has a text box are written.
-void Colours_Tab::Write_Form(int index, const std::string& form) const {
-  if (index < txCol.Count()) txCol[index].Text = form;
+  // Only the forms for which the window has a text box are written.
+  const Colour_Forms forms = Forms_Of(colour);
+  for (int i = 0; i < txCol.Count(); ++i) txCol[i].Text = forms[static_cast<std::size_t>(i)];
 }
 
 void Colours_Tab::ShowGradient(Colour from, Colour to) {

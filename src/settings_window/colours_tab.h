@@ -71,7 +71,6 @@ class Colours_Tab {
 
   void ShowColors(toolkit::Colour colour);
   void ShowGradient(toolkit::Colour from, toolkit::Colour to);
-  void Write_Form(int index, const std::string& form) const;
   void Reset_Labels();
 
   void Pal_MouseMove(const toolkit::Mouse_Event& event);

@@ -88,14 +88,10 @@ Colour_Parts Split(toolkit::Colour colour) {
   return {rest % 256, rest / 256, blue};
 }
 
-std::string Hexadecimal_Form(toolkit::Colour colour) {
-  const Colour_Parts parts = Split(colour);
-  return "#" + Hexadecimal(parts.Red) + Hexadecimal(parts.Green) + Hexadecimal(parts.Blue);
-}
-
-std::string Decimal_Form(toolkit::Colour colour) {
-  const Colour_Parts parts = Split(colour);
-  return basic::To_Text(parts.Red) + "," + basic::To_Text(parts.Green) + "," + basic::To_Text(parts.Blue);
+Colour_Forms Forms_Of(toolkit::Colour colour) {
+  const auto [red, green, blue] = Split(colour);
+  return {basic::To_Text(colour), "#" + Hexadecimal(red) + Hexadecimal(green) + Hexadecimal(blue),
+          basic::To_Text(red) + "," + basic::To_Text(green) + "," + basic::To_Text(blue)};
 }
 
 void Draw_Ramp(Picture_Box& strip, toolkit::Colour from, toolkit::Colour to) {

@@ -1,6 +1,7 @@
 // The colours to choose from, as one picture, and what is drawn of a colour in the strip below it.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "platform/pictures.h"
@@ -28,11 +29,11 @@ struct Colour_Parts {
 
 Colour_Parts Split(toolkit::Colour colour);
 
-/// "#" and the parts as hexadecimal numbers. One that is all digits has two of them at least; a letter alone stays alone.
-std::string Hexadecimal_Form(toolkit::Colour colour);
+using Colour_Forms = std::array<std::string, 3>;
 
-/// The parts as decimal numbers, joined by commas.
-std::string Decimal_Form(toolkit::Colour colour);
+/// A colour as a text: its decimal number; "#" and the parts as hexadecimal numbers, where one that is all digits has two
+/// of them at least and a letter alone stays alone; and the parts as decimal numbers, joined by commas.
+Colour_Forms Forms_Of(toolkit::Colour colour);
 
 /// Draws a ramp of 256 columns, each a pixel wide, from one colour to another; what doesn't find room is cut off.
 void Draw_Ramp(toolkit::Picture_Box& strip, toolkit::Colour from, toolkit::Colour to);

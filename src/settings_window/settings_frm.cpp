@@ -56,7 +56,6 @@ void Settings_Frm::Place_Controls() {
     Settings_Fra[i].Place({0, 0, 5145, 3840});
     Settings_Fra[i].Bordered = false;
   }
-  None_Vis();
   Ok_Btn.Place({1755, 4680, 1140, 330});
   Ok_Btn.Caption = "OK";
   Ok_Btn.Default = true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <cstddef>
 
 namespace toolkit {
@@ -55,10 +56,9 @@ unsigned short Place(char c) { return places[static_cast<unsigned char>(c)]; }
 }  // namespace
 
 bool Sorts_Before(std::string_view a, std::string_view b) {
-  const std::size_t shorter = std::min(a.size(), b.size());
-  for (std::size_t i = 0; i < shorter; ++i)
-    if (Place(a[i]) != Place(b[i])) return Place(a[i]) < Place(b[i]);
-  if (a.size() != b.size()) return a.size() < b.size();
+  const auto order = std::lexicographical_compare_three_way(a.begin(), a.end(), b.begin(), b.end(),
+                                                            [](char x, char y) { return Place(x) <=> Place(y); });
+  if (std::is_neq(order)) return std::is_lt(order);
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
     return Capital(static_cast<unsigned char>(x)) < Capital(static_cast<unsigned char>(y));
   });

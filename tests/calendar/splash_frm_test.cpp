@@ -36,6 +36,18 @@ TEST_F(Splash_Frm_Test, Shows_the_program_for_a_second_and_a_half_without_becomi
   EXPECT_EQ(Splash.Label9.Caption(), "Meridex");
 }
 
+TEST_F(Splash_Frm_Test, Has_the_icon_beside_the_name_on_white) {
+  using toolkit::Bounds;
+  EXPECT_EQ(Splash.Window.BackColor(), toolkit::white);
+  EXPECT_EQ(Splash.Image1.In_Twips(), (Bounds{360, 308, 720, 720}));
+  EXPECT_EQ(Splash.Image1.Picture(), platform::Stock_Picture::Program_Icon);
+  EXPECT_EQ(Splash.Label9.In_Twips(), (Bounds{1365, 368, 3900, 600}));
+  EXPECT_EQ(Splash.Label9.FontName(), "Arial");
+  EXPECT_EQ(Splash.Label9.FontSize(), 24);
+  EXPECT_TRUE(Splash.Label9.FontBold());
+  EXPECT_TRUE(Splash.Label9.Transparent());
+}
+
 TEST_F(Splash_Frm_Test, Goes_at_the_first_tick) {
   Splash.Show();
   Backend.Running->On_Tick();

@@ -128,6 +128,20 @@ TEST_F(Desktop_Embedding_Test, A_desktop_that_refuses_the_calendar_is_asked_once
   EXPECT_TRUE(Embedding.Embed_Again()) << "another shell";
 }
 
+TEST_F(Desktop_Embedding_Test, Icons_that_come_later_than_their_shell_are_found_at_the_next_look) {
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  Shell.Refuse_Children(true);
+  Embedding.No_ShowDesktop_and_IconColours();
+  Shell.Refuse_Children(false);
+  Shell.Restart();
+  for (const Shell_Chain without_icons : {Shell_Chain::Progman, Shell_Chain::Def_View}) {
+    Shell.Set_Chain(without_icons);
+    EXPECT_FALSE(Embedding.Embed_Again());
+  }
+  Shell.Set_Chain(Shell_Chain::Icon_List);
+  EXPECT_TRUE(Embedding.Embed_Again());
+}
+
 TEST_F(Desktop_Embedding_Test, A_start_waits_for_answers_that_take_their_time) {
   Shell.Set_Chain(Shell_Chain::Icon_List);
   Shell.Set_Icon_Colours(123, 456);

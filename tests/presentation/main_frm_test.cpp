@@ -27,6 +27,8 @@ void Expect_Font(const Label& label, const std::string& name, double size, bool 
 }  // namespace
 
 TEST_F(Main_Frm_Test, Is_made_as_the_square_box) {
+  EXPECT_EQ(Made.Window.Width(), 6450);
+  EXPECT_EQ(Made.Window.Height(), 6725);
   for (int i = 0; i < 37; ++i) {
     const double left = 90 + i % 7 * 900;
     const double top = 810 + i / 7 * 990;
@@ -38,6 +40,9 @@ TEST_F(Main_Frm_Test, Is_made_as_the_square_box) {
   EXPECT_EQ(Made.Next_Month_Lbl.In_Twips(), (Bounds{6030, 90, 285, 285}));
   EXPECT_EQ(Made.Which_Month_Lbl.In_Twips(), (Bounds{495, 90, 5435, 285}));
   EXPECT_EQ(Made.DotDotDot_Lbl.In_Twips(), (Bounds{4410, 6435, 1170, 195}));
+  for (const toolkit::Picture_Box* const picture :
+       {&Made.Clear_Pic, &Made.File_Pic, &Made.Settings_Pic, &Made.Exit_Pic})
+    EXPECT_EQ(picture->In_Twips(), (Bounds{0, 0, 195, 195})) << picture->Name;
 }
 
 TEST_F(Main_Frm_Test, Has_37_boxes_and_7_headers) {

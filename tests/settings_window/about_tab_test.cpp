@@ -26,7 +26,7 @@ class About_Tab_Test : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(About_Tab_Test, All_its_labels_are_of_bold_Arial) {
+TEST_F(About_Tab_Test, All_its_labels_are_lines_of_bold_Arial) {
   for (const toolkit::Label* const label : {&About.Label9, &About.Label10, &About.Label1, &About.Label5, &About.Label7,
                                             &About.Label8, &About.Link_Lbl, &About.Label11, &About.Label12}) {
     EXPECT_EQ(label->FontName(), "Arial") << label->Name;
@@ -35,6 +35,7 @@ TEST_F(About_Tab_Test, All_its_labels_are_of_bold_Arial) {
     EXPECT_EQ(label->FontSize(), size) << label->Name;
     EXPECT_EQ(label->FontItalic(), label == &About.Label9) << label->Name;
     EXPECT_EQ(label->FontUnderline(), label == &About.Label9 || label == &About.Link_Lbl) << label->Name;
+    EXPECT_FALSE(label->Word_Wrap()) << label->Name;
   }
 }
 

@@ -91,14 +91,15 @@ TEST(Colour_Forms_Test, A_colour_is_split_into_its_parts) {
 }
 
 TEST(Colour_Forms_Test, Hexadecimal_parts_of_digits_alone_have_two_of_them_and_a_letter_stays_alone) {
-  EXPECT_EQ(settings_window::Hexadecimal_Form(0), "#000000");
-  EXPECT_EQ(settings_window::Hexadecimal_Form(16777215), "#FFFFFF");
-  EXPECT_EQ(settings_window::Hexadecimal_Form(Rgb(5, 31, 10)), "#051FA");
-  EXPECT_EQ(settings_window::Hexadecimal_Form(Rgb(16, 99, 161)), "#1063A1");
+  EXPECT_EQ(settings_window::Forms_Of(0)[1], "#000000");
+  EXPECT_EQ(settings_window::Forms_Of(16777215)[1], "#FFFFFF");
+  EXPECT_EQ(settings_window::Forms_Of(Rgb(5, 31, 10))[1], "#051FA");
+  EXPECT_EQ(settings_window::Forms_Of(Rgb(16, 99, 161))[1], "#1063A1");
 }
 
-TEST(Colour_Forms_Test, Decimal_parts_are_joined_by_commas) {
-  EXPECT_EQ(settings_window::Decimal_Form(Rgb(5, 31, 10)), "5,31,10");
+TEST(Colour_Forms_Test, Decimal_forms_are_the_number_and_the_parts_joined_by_commas) {
+  EXPECT_EQ(settings_window::Forms_Of(Rgb(5, 31, 10))[0], "663301");
+  EXPECT_EQ(settings_window::Forms_Of(Rgb(5, 31, 10))[2], "5,31,10");
 }
 
 TEST_F(Strip_Test, A_ramp_has_256_columns_over_the_whole_height) {

@@ -51,8 +51,11 @@ TEST_F(Dialog_Test, To_focus_a_control_of_a_visible_window_makes_it_active) {
   Form other(Backend, "Tip");
   other.Show(false);
   other.Activate();
+  int told = 0;
+  Window.On_Activate = [&] { ++told; };
   Window.Set_Focus(Every);
   EXPECT_EQ(Backend.Active, &Window);
+  EXPECT_EQ(told, 1);
   EXPECT_EQ(Focus(), "Every_Chk");
   other.Activate();
   Window.Hide();

@@ -297,6 +297,34 @@ TEST_F(Input_Test, A_window_that_went_is_not_told_that_it_lost_the_activity) {
   EXPECT_EQ(Take(), Words{});
 }
 
+TEST_F(Input_Test, Windows_hear_of_the_activity_by_the_end_of_each_step_that_may_move_it) {
+  Form other(Backend, "Edit_Frm");
+  other.Load();
+  other.On_Activate = [&] { Heard.emplace_back("active"); };
+  other.On_Deactivate = [&] { Heard.emplace_back("inactive"); };
+  In.Activity_Came(other);
+  other.Show();
+  EXPECT_EQ(Take(), Words{"active"});
+  In.Activity_Went(other);
+  other.Set_Minimised(true);
+  EXPECT_EQ(Take(), Words{"inactive"});
+}
+
+TEST_F(Input_Test, A_window_that_went_hears_of_its_activity_anew_and_the_others_do_not) {
+  Form other(Backend, "Tip");
+  other.Show(false);
+  Window.On_Activate = [&] { Heard.emplace_back("active"); };
+  other.Unload();
+  In.Activity_Came(Window);
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), Words{});
+  Window.Unload();
+  Window.Show(false);
+  Window.Activate();
+  In.Tell_Of_Activity();
+  EXPECT_EQ(Take(), Words{"active"});
+}
+
 TEST_F(Input_Test, An_owner_becomes_active_when_its_active_window_unloads) {
   Form owned(Backend, "frmBalloon", toolkit::Form_Border::None, &Window);
   Form third(Backend, "Edit_Frm");

@@ -239,6 +239,9 @@ TEST_F(Reading, From_a_box_of_a_grid_the_four_ways_lead_to_the_boxes_around_it) 
   EXPECT_EQ(Name(Neighbour(Window, boxes[4].get(), Way::Up)), "box1");
   EXPECT_EQ(Name(Neighbour(Window, boxes[4].get(), Way::Down)), "box7");
   EXPECT_EQ(Name(Neighbour(Window, boxes[5].get(), Way::Right)), "none");
+  Label same(Window, "same");
+  Put(same, 2, 1);
+  EXPECT_EQ(Name(Neighbour(Window, boxes[4].get(), Way::Right)), "box5") << "of two as near the first one";
 }
 
 TEST_F(Reading, The_readers_click_takes_the_road_of_the_users) {
@@ -313,8 +316,11 @@ TEST_F(Reading, The_reader_makes_a_window_active_where_the_user_could) {
     toolkit::Give_Focus(Window);
   }
   EXPECT_EQ(Backend.Active, &other);
+  int told = 0;
+  Window.On_Activate = [&] { ++told; };
   toolkit::Give_Focus(Window);
   EXPECT_EQ(Backend.Active, &Window);
+  EXPECT_EQ(told, 1);
 }
 
 TEST_F(Reading, The_focus_that_the_reader_gives_is_told) {
@@ -342,6 +348,9 @@ TEST_F(Reading, The_reader_turns_to_a_tab_as_the_user_does) {
   EXPECT_EQ(strip.Selected(), 2);
   toolkit::Select_Part(strip, 2);
   EXPECT_EQ(strip.Selected(), 2) << "there is no third one";
+  toolkit::Select_Part(strip, 0);
+  EXPECT_EQ(strip.Selected(), 1);
+  toolkit::Select_Part(strip, 1);
   strip.Enabled = false;
   toolkit::Select_Part(strip, 0);
   EXPECT_EQ(strip.Selected(), 2);

@@ -40,7 +40,17 @@ TEST_F(Frm_Balloon_Test, Is_a_hidden_pale_yellow_window_before_it_is_set) {
   EXPECT_EQ(Balloon.Window.Outline_Corner(), 26);
   EXPECT_EQ(Balloon.lblTitle.In_Twips(), (toolkit::Bounds{480, 90, 3735, 255}));
   EXPECT_EQ(Balloon.imgDisplayIcon.In_Twips(), (toolkit::Bounds{120, 120, 240, 240}));
+  EXPECT_EQ(Balloon.lblText.In_Twips().Left, 135);
+  EXPECT_EQ(Balloon.lblText.In_Twips().Top, 480);
   EXPECT_EQ(Balloon.lblText.In_Twips().Width, 1845);
+  EXPECT_TRUE(Balloon.lblText.AutoSize());
+  for (const toolkit::Label* const label : {&Balloon.lblTitle, &Balloon.lblText}) {
+    EXPECT_EQ(label->ForeColor(), toolkit::System_Colour(23)) << label->Name;
+    EXPECT_TRUE(label->Transparent()) << label->Name;
+    EXPECT_TRUE(label->Word_Wrap()) << label->Name;
+    EXPECT_EQ(label->FontBold(), label == &Balloon.lblTitle) << label->Name;
+  }
+  EXPECT_EQ(Balloon.imgIconXP[0].In_Twips(), (toolkit::Bounds{0, 0, 240, 240}));
   EXPECT_FALSE(Balloon.imgIconXP[0].Visible());
 }
 
