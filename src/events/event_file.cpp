@@ -19,18 +19,36 @@ Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, pla
       path_(files.Program_Folder() + "\\calendar.dat") {}
 
 void Event_File::Recover() {
-  if (desktop_.Modern()) files_.Recover(path_);
-  else files_.Put_Back(path_);  // before a new file is made in its place
+  // Without the consent too, before a new file is made in its place.
+  recovered_ = desktop_.Modern() ? files_.Recover(path_) : files_.Put_Back(path_);
+}
+
+void Event_File::Refuse_If_Left() {
+  if (recovered_) return;
+  Recover();
+  throw basic::Run_Error(basic::Error_Number::Path_File_Access);
+}
+
+void Event_File::Refuse_If_Unread() {
+  Refuse_If_Left();
+  if (desktop_.Modern() && !loaded_) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
+}
+
+void Event_File::Open_For_Writing() {
+  Refuse_If_Unread();
+  channel_.Open_For_Writing(path_, Saving());
 }
 
 void Event_File::Load_File() {
-  if (!Exists()) return;
+  loaded_ = !Exists();
+  if (loaded_) return;
   try {
     temp_lst_.Clear();
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));
     std::string_view record;
     while (reader.Next(record)) temp_lst_.Append(record);
     channel_.Close();
+    loaded_ = true;
   } catch (const basic::Run_Error&) {
     Report_Failure(loading_failed);
   }
@@ -88,7 +106,7 @@ void Event_File::Check_For_Pre(const std::string& text, const Day_Event& editor)
 
 void Event_File::Write_ALL() {
   try {
-    channel_.Open_For_Writing(path_, Saving());
+    Open_For_Writing();
     Write_Temp_Lst();
     channel_.Close();
   } catch (const basic::Run_Error&) {
@@ -99,7 +117,7 @@ void Event_File::Write_ALL() {
 void Event_File::Write_New_Line(const Day_Event& editor) {
   if (editor.Text.empty()) return;
   try {
-    channel_.Open_For_Writing(path_, Saving());
+    Open_For_Writing();
     Write_Temp_Lst();
     channel_.Write_Record(Key_To_Write(editor.Every_Year) + "=" + editor.Text);
     channel_.Close();

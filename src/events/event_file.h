@@ -30,8 +30,15 @@ class Event_File {
   Event_File(platform::Files& files, basic::File_Channel& channel, platform::Message_Box& message_box,
              const state::Calendar_State& calendar, const settings::Desktop_Mode& desktop);
 
-  /// Called once, at the start, before the file is looked for.
+  /// Called once, at the start, before the file is looked for: ends a save that a power cut has left half done.
   void Recover();
+
+  /// Throws error 75 if that has failed, and tries it again.
+  void Refuse_If_Left();
+
+  /// The same; with the consent also if the last Load_File has failed. What would be written then has nothing of the
+  /// events that weren't read.
+  void Refuse_If_Unread();
 
   /// How the file is to be written, also by an import.
   [[nodiscard]] basic::Saving Saving() const {
@@ -66,6 +73,7 @@ class Event_File {
   void Check_For_Pre(const std::string& text, const Day_Event& editor);
 
  private:
+  void Open_For_Writing();
   void Write_ALL();
   void Write_New_Line(const Day_Event& editor);
   void Write_Temp_Lst();
@@ -81,6 +89,7 @@ class Event_File {
   const settings::Desktop_Mode& desktop_;
   const std::string path_;
   Temp_List temp_lst_;
+  bool recovered_ = true, loaded_ = true;
 };
 
 }  // namespace events

@@ -64,14 +64,15 @@ void Csv::Write_Rows() {
 }
 
 void Csv::Import_CSV() {
+  bool backed_up = false;
   try {
-    Backup_Data();
+    backed_up = Backup_Data();
     if (!transfer_.Choose_Input(csv_in)) return;
     if (Import_Chosen_File()) return;
   } catch (const basic::Run_Error&) {
     // What went wrong isn't told.
   }
-  Undo_Import();
+  Undo_Import(backed_up);
 }
 
 bool Csv::Import_Chosen_File() {
@@ -115,21 +116,29 @@ void Csv::Read_CSV_Record(std::string_view line) {
 
 std::string Csv::Backup_Path() const { return transfer_.Files.Program_Folder() + "\\data.bak"; }
 
-void Csv::Backup_Data() {
-  event_file_.Recover();  // lest a backup of long ago stands for events that have only another name
-  if (event_file_.Exists()) transfer_.Copy(event_file_.Path(), Backup_Path());
+/// Returns false if there is nothing to back up.
+bool Csv::Backup_Data() {
+  event_file_.Refuse_If_Left();
+  if (!event_file_.Exists()) return false;
+  transfer_.Copy(event_file_.Path(), Backup_Path());
+  return true;
 }
 
-void Csv::Restore_Data() {
+/// With the consent a failed import has changed nothing that an older backup would mend.
+void Csv::Restore_Data(bool backed_up) {
   const std::string backup = Backup_Path();
+  if (event_file_.Saving() == basic::Saving::Beside) {
+    if (backed_up) transfer_.Files.Replace(backup, event_file_.Path());
+    return;
+  }
   if (!transfer_.Files.File_Exists(backup)) return;
-  if (event_file_.Saving() == basic::Saving::Beside) return transfer_.Files.Replace(backup, event_file_.Path());
   transfer_.Copy(backup, event_file_.Path());
   transfer_.Files.Delete(backup);
 }
 
 void Csv::Merge_Imported() {
   event_file_.Load_File();
+  event_file_.Refuse_If_Unread();
   const Busy busy(transfer_.Window.System());
   Line_Merge lines(event_file_.Temp_Lst(), transfer_.Channel, event_file_.Path(), event_file_.Saving());
   const toolkit::List_Box& staged = lists_.Events();
@@ -143,9 +152,9 @@ void Csv::Merge_Imported() {
 }
 
 /// What fails here fails the program: there is nothing left to go back to.
-void Csv::Undo_Import() {
+void Csv::Undo_Import(bool backed_up) {
   transfer_.Channel.Give_Up();
-  Restore_Data();
+  Restore_Data(backed_up);
   transfer_.Window.MousePointer = toolkit::Pointer::Default;
   transfer_.Warn("Error when importing from CSV file.");
 }

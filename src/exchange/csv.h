@@ -26,10 +26,10 @@ class Csv {
   bool Read_CSV_Headings(std::string_view line);
   void Read_CSV_Record(std::string_view line);
 
-  void Backup_Data();
-  void Restore_Data();
+  [[nodiscard]] bool Backup_Data();
+  void Restore_Data(bool backed_up);
   void Merge_Imported();
-  void Undo_Import();
+  void Undo_Import(bool backed_up);
 
   [[nodiscard]] std::string Backup_Path() const;
 

@@ -61,13 +61,18 @@ void Data_Files::Import_Data() {
     if (!transfer_.Choose_Input(data_in, event_file_.Path())) return;
     const bool meant = !event_file_.Exists() || Replacing_Is_Meant();
     if (!transfer_.Window.Loaded()) return;
-    if (meant) transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path(), event_file_.Saving());
+    if (meant) Replace_Data();
     desk_.Rebuild_Boxes();
     // Said of a refusal too.
     transfer_.Tell_With_File("Successfully imported data file from...");
   } catch (const basic::Run_Error&) {
     transfer_.Warn("Error when importing data file.");
   }
+}
+
+void Data_Files::Replace_Data() {
+  event_file_.Refuse_If_Left();
+  transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path(), event_file_.Saving());
 }
 
 bool Data_Files::Replacing_Is_Meant() {

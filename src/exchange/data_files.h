@@ -9,7 +9,7 @@ namespace exchange {
 
 class Data_Files {
  public:
-  Data_Files(Transfer& transfer, Overview_Lists& lists, const events::Event_File& event_file, calendar::Desk& desk,
+  Data_Files(Transfer& transfer, Overview_Lists& lists, events::Event_File& event_file, calendar::Desk& desk,
              const calendar::Dates& dates)
       : transfer_(transfer), lists_(lists), event_file_(event_file), desk_(desk), dates_(dates) {}
 
@@ -20,12 +20,13 @@ class Data_Files {
 
  private:
   void Write_Text();
+  void Replace_Data();
   bool Replacing_Is_Meant();
   [[nodiscard]] std::string Date_Of_File(const std::string& path) const;
 
   Transfer& transfer_;
   Overview_Lists& lists_;
-  const events::Event_File& event_file_;
+  events::Event_File& event_file_;
   calendar::Desk& desk_;
   const calendar::Dates& dates_;
 };

@@ -58,27 +58,30 @@ bool Unless_Held(Work&& work) {
   }
 }
 
-/// Writes what the whole new file holds into the old one. While it does, the new one stays; only on a disk that is full
-/// it makes room.
-void Write_Into(Files& files, const std::string& path) {
+/// Writes what the whole new file holds into the old one; where there is no room for that the old bytes come back, and
+/// error 61 is thrown. As long as the file has neither, `torn` is true, and the new one must stay.
+void Write_Into(Files& files, const std::string& path, bool& torn) {
   const std::string whole = Whole_Name(path);
-  std::string bytes;
+  std::string bytes, old;
   files.Read_Whole(whole, bytes);
-  {
-    const std::unique_ptr<basic::Output_File> file = files.Create(path);
-    std::size_t done = file->Write(bytes);
-    if (done < bytes.size()) {
-      Delete_If_There(files, whole);
-      done += file->Write(std::string_view(bytes).substr(done));
-    }
-    if (done < bytes.size()) throw basic::Run_Error(basic::Error_Number::Disk_Full);
+  files.Read_Whole(path, old);
+  std::unique_ptr<basic::Output_File> file = files.Create(path);
+  torn = true;
+  const bool room = file->Write(bytes) == bytes.size();
+  if (!room) {
+    file->Cut(0);
+    if (file->Write(old) < old.size()) throw basic::Run_Error(basic::Error_Number::Disk_Full);
   }
+  file.reset();
   files.Bring_To_Disk(path);
+  torn = false;
+  if (!room) throw basic::Run_Error(basic::Error_Number::Disk_Full);
   Delete_If_There(files, whole);
 }
 
 /// The whole new file takes the place by two renamings, between which the old one has its second name. Returns false,
-/// with nothing changed, if another program keeps the old one from that.
+/// with nothing changed, if another program keeps the old one from that. After a failure the old one has one of its
+/// two names.
 bool Rename_Over(Files& files, const std::string& path) {
   const std::string whole = Whole_Name(path), old = Old_Name(path);
   const bool replaces = files.File_Exists(path);
@@ -100,19 +103,28 @@ bool Rename_Over(Files& files, const std::string& path) {
   return true;
 }
 
-/// The whole new file takes the place of the old one or of none, in the best way that there is. After any failure before
-/// a byte is written into the old file that is as it was.
-void Take_Place(Files& files, const std::string& path) {
+/// The whole new file takes the place of the old one or of none, in the best way that there is. After a failure the new
+/// one is there under its name, and the old one under one of its own, as it was unless it is torn.
+void Take_Place(Files& files, const std::string& path, bool& torn) {
   if (Unless_Held([&] { return files.Move_Over(Whole_Name(path), path); })) return;
-  if (!Rename_Over(files, path)) Write_Into(files, path);
+  if (!Rename_Over(files, path)) Write_Into(files, path, torn);
 }
 
-/// Brings a file to the disk, and has it take the place under the name that tells so.
+/// Brings a file to the disk, and has it take the place under the name that tells so. After a failure it has its own name
+/// again if that can be had, and need not stay.
 void Replace_By(Files& files, const std::string& from, const std::string& path) {
+  const std::string whole = Whole_Name(path);
   files.Allow_Writing(from);
   files.Bring_To_Disk(from);
-  files.Rename(from, Whole_Name(path));
-  Take_Place(files, path);
+  files.Rename(from, whole);
+  bool torn = false;
+  try {
+    files.Bring_To_Disk(whole);  // its name too
+    Take_Place(files, path, torn);
+  } catch (const basic::Run_Error&) {
+    if (!torn) files.Rename(whole, from);
+    throw;
+  }
 }
 
 /// Runs `work`; takes the new file away if that fails.
@@ -122,7 +134,6 @@ void Or_Nothing_New(Files& files, const std::string& path, Work&& work) {
     work();
   } catch (const basic::Run_Error&) {
     Delete_If_There(files, Files::Name_Beside(path));
-    Delete_If_There(files, Whole_Name(path));
     throw;
   }
 }
@@ -175,13 +186,7 @@ std::unique_ptr<basic::Output_File> Files::Create_Beside(const std::string& path
 
 void Files::Replace(const std::string& from, const std::string& to) {
   Refuse_If_Left(*this, to);
-  const std::string whole = Whole_Name(to);
-  try {
-    Replace_By(*this, from, to);
-  } catch (const basic::Run_Error&) {
-    if (File_Exists(whole)) Rename(whole, from);
-    throw;
-  }
+  Replace_By(*this, from, to);
 }
 
 void Files::Copy_Over(const std::string& from, const std::string& to) {
@@ -197,7 +202,8 @@ void Files::Copy_Over(const std::string& from, const std::string& to) {
 
 bool Files::Put_Back(const std::string& path) {
   try {
-    if (File_Exists(Whole_Name(path))) Take_Place(*this, path);
+    bool torn = false;
+    if (File_Exists(Whole_Name(path))) Take_Place(*this, path, torn);
     else if (Is_Left(*this, path)) Rename(Old_Name(path), path);
     return true;
   } catch (const basic::Run_Error&) {
@@ -205,10 +211,11 @@ bool Files::Put_Back(const std::string& path) {
   }
 }
 
-void Files::Recover(const std::string& path) {
-  if (!Put_Back(path)) return;
+bool Files::Recover(const std::string& path) {
+  if (!Put_Back(path)) return false;
   Delete_If_There(*this, Old_Name(path));
   Delete_If_There(*this, Name_Beside(path));
+  return true;
 }
 
 }  // namespace platform

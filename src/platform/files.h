@@ -44,9 +44,9 @@ class Files : public basic::Disk {
   /// Throws error 53, 70 or 75.
   virtual void Delete(const std::string& path) = 0;
 
-  /// Puts a copy of a file in the place of `to`, or makes that; the copy keeps the time of the last change,
-  /// but isn't read-only where its source is. Throws error 53, 75 or 76, error 70 for a file that is being written or that is to be copied onto itself, and error 61 on a full disk,
-  /// which leaves nothing of the copy.
+  /// Puts a copy of a file in the place of `to`, or makes that; the copy keeps the time of the last change, but isn't
+  /// read-only where its source is. Throws error 53, 75 or 76, error 70 for a file that is being written or that is to be
+  /// copied onto itself, and error 61 on a full disk, which leaves nothing of the copy.
   virtual void Copy(const std::string& from, const std::string& to) = 0;
 
   /// The name of the new file for as long as it is being written.
@@ -55,12 +55,12 @@ class Files : public basic::Disk {
 
   // Whenever the power goes in one of these, or while a file created beside is finished, the old or the new file is
   // there whole after Recover, also where another program lets the old one be written, but neither deleted nor renamed.
-  // They throw error 75 for a file that only Recover brings back.
+  // They throw error 75 where a file has only another name, which they then try to give it.
 
   /// Puts a file, be it read-only, into the place of another or of none. Takes no room on the disk. Throws as Move_Over.
   void Replace(const std::string& from, const std::string& to);
 
-  /// The same as Copy, by a new file that takes the place of `to`.
+  /// The same as Copy, by a new file that takes the place of `to`. A second spelling of a path isn't known as such.
   void Copy_Over(const std::string& from, const std::string& to);
 
   /// Ends a replacement where a power cut has left the file without its name, or a new one that is whole. Returns false
@@ -68,7 +68,7 @@ class Files : public basic::Disk {
   bool Put_Back(const std::string& path);
 
   /// The same, and takes away what is left of a replacement. Called before the first look for the file.
-  void Recover(const std::string& path);
+  bool Recover(const std::string& path);
 
   /// The local time of a file's last change. Throws error 53 if it isn't there.
   virtual basic::Moment Last_Change(const std::string& path) = 0;

@@ -157,7 +157,7 @@ void Disk_Files::Read_Whole(const std::string& path, std::string& buffer) {
   buffer.resize(size);
   DWORD read = 0;
   if (ReadFile(file.Get(), buffer.data(), size, &read, nullptr) == 0) Throw_File_Error();
-  buffer.resize(read);
+  if (read < size) throw Run_Error(Error_Number::Path_File_Access);  // it was cut meanwhile
 }
 
 std::unique_ptr<basic::Output_File> Disk_Files::Create(const std::string& path) {

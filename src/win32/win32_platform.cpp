@@ -130,10 +130,11 @@ Win32_Platform::End Win32_Platform::Run(const std::function<void()>& start) {
 /// The end of a program in which a failure can't be caught, since it comes out of the middle of another. Stands for the
 /// run-time library's own handler, which would write where nobody reads, and bring 46 kB along to spell names.
 void __gnu_cxx::__verbose_terminate_handler() {
-  // The box serves messages; nothing of the program runs under it. What fails there for want of memory isn't told.
-  if (win32::Guard::Break_Off()) {
-    const std::exception_ptr failure = std::current_exception();
-    win32::Last_Box(failure == nullptr ? "Unknown error" : win32::Report_Of(failure), MB_OK | MB_ICONHAND);
-  }
+  // The box serves messages; nothing of the program runs under it.
+  if (win32::Guard::Break_Off()) try {
+      const std::exception_ptr failure = std::current_exception();
+      win32::Last_Box(failure == nullptr ? "Unknown error" : win32::Report_Of(failure), MB_OK | MB_ICONHAND);
+    } catch (...) {  // there is no memory left to tell it
+    }
   TerminateProcess(GetCurrentProcess(), 1);
 }

@@ -25,6 +25,9 @@ class Fake_Disk : public basic::Disk {
   enum class Replacing { By_One_Step, By_Two_Steps, Never } Replaces = Replacing::By_One_Step;
   std::optional<basic::Error_Number> Move_Failure;  ///< why no file takes another's place
 
+  bool Cut_Makes_Room = false;  ///< else others take at once what a file gives up
+  std::string Not_Flushed;      ///< the file that can't be brought to the disk
+
   /// Written, but not on the disk yet: a power cut leaves as many bytes of it, and all of them 0.
   std::set<std::string> Unflushed;
 
@@ -43,7 +46,7 @@ class Fake_Disk : public basic::Disk {
   std::unique_ptr<basic::Output_File> Create(const std::string& path) override {
     Refuse_If_Blocked(path);
     Refuse_If_Read_Only(path);
-    if (Step()) Contents[path].clear();
+    if (Step()) Empty(path, 0);
     return std::make_unique<File>(*this, path);
   }
 
@@ -61,6 +64,7 @@ class Fake_Disk : public basic::Disk {
 
   void Bring_To_Disk(const std::string& path) {
     Refuse_If_Blocked(path);
+    if (path == Not_Flushed) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
     if (Step()) Unflushed.erase(path);
   }
 
@@ -113,7 +117,7 @@ class Fake_Disk : public basic::Disk {
     }
 
     void Cut(std::size_t size) override {
-      if (disk_.Step()) Content().resize(std::min(size, Content().size()));
+      if (disk_.Step()) disk_.Empty(path_, size);
     }
 
     void Finish() override { disk_.Finished.push_back(path_); }
@@ -127,6 +131,14 @@ class Fake_Disk : public basic::Disk {
 
   /// Returns true while there is power.
   bool Step() { return Steps_To_Power_Cut-- > 0; }
+
+  /// What is cut off makes room.
+  void Empty(const std::string& path, std::size_t from) {
+    std::string& content = Contents[path];
+    if (content.size() <= from) return;
+    if (Cut_Makes_Room) Room += content.size() - from;
+    content.resize(from);
+  }
 
   void Put_In_Place(const std::string& from, const std::string& to) {
     if (!Step()) return;

@@ -300,12 +300,78 @@ TEST_F(Safe_Saving, A_backup_does_not_take_the_place_of_a_file_that_has_only_ano
   EXPECT_EQ(All_Files()[backup], "older");
 }
 
-TEST_F(Safe_Saving, A_file_that_cannot_be_replaced_needs_no_room_for_two) {
-  Files.Disk.Room = New_Content().size();
+TEST_F(Safe_Saving, A_file_that_cannot_be_replaced_keeps_its_events_on_a_disk_that_is_full) {
   Files.Disk.Held.insert(path);
+  Files.Disk.Cut_Makes_Room = true;
+  for (std::size_t short_by = New_Content().size() - Old_Content().size(); short_by > 0; --short_by) {
+    Files.Disk.Room = New_Content().size() * 2 - Old_Content().size() - short_by;
+    Save();
+    EXPECT_EQ(Messages(), Lines{saving_failed});
+    EXPECT_EQ(Content(), Old_Content());
+    EXPECT_EQ(All_Files().size(), 1U);
+    Channel.Give_Up();
+  }
+  Files.Disk.Room = New_Content().size() * 2 - Old_Content().size();
   Save();
   EXPECT_EQ(Messages(), Lines{});
   EXPECT_EQ(Content(), New_Content());
+}
+
+TEST_F(Safe_Saving, A_new_file_stays_for_the_next_start_where_neither_it_nor_the_old_one_finds_room) {
+  Files.Disk.Held.insert(path);
+  Files.Disk.Room = New_Content().size();
+  Save();
+  EXPECT_EQ(Messages(), Lines{saving_failed});
+  EXPECT_TRUE(All_Files().contains(std::string(path) + ".~whole"));
+  Files.Disk.Held.clear();
+  EXPECT_EQ(After_The_Next_Start(), (std::map<std::string, std::string>{{path, New_Content()}}));
+}
+
+TEST_F(Safe_Saving, What_is_not_brought_to_the_disk_in_its_place_stays_beside_it_for_the_next_start) {
+  Files.Disk.Held.insert(path);
+  Files.Disk.Not_Flushed = path;
+  Save();
+  EXPECT_EQ(Messages(), Lines{saving_failed});
+  EXPECT_EQ(After_The_Next_Start(), (std::map<std::string, std::string>{{path, New_Content()}}));
+}
+
+TEST_F(Safe_Saving, What_was_not_read_is_not_written_over) {
+  Event_File_World without;
+  without.Put({"9/3/2004=Choir"});
+  without.Editor.Text = "Tea";
+  for (Event_File_World* const world : {static_cast<Event_File_World*>(this), &without}) {
+    world->Calendar.Selected_Date = "8/3/2004";
+    world->Files.Disk.Blocked.insert(path);
+    world->File.Load_File();
+    world->Files.Disk.Blocked.clear();
+    world->File.Check_For_Pre("Tea", world->Editor);
+  }
+  EXPECT_EQ(Messages(), (Lines{loading_failed, saving_failed}));
+  EXPECT_EQ(Content(), Old_Content());
+  EXPECT_EQ(without.Messages(), Lines{loading_failed}) << "as ever";
+  EXPECT_EQ(without.Content(), Record("8/3/2004=Tea"));
+  Save();
+  EXPECT_EQ(Content(), New_Content());
+}
+
+TEST_F(Safe_Saving, Without_the_consent_too_nothing_is_saved_until_the_events_have_their_name_again) {
+  for (const char* const left : {".~bak", ".~whole"}) {
+    Event_File_World world;
+    const std::string other = std::string(path) + left;
+    world.Files.Disk.Contents = {{other, Record("9/3/2004=Choir")}};
+    world.Files.Disk.Blocked.insert(other);
+    world.File.Recover();
+    world.Editor.Text = "Tea";
+    world.Change("8/3/2004", "Tea");
+    EXPECT_EQ(world.Messages(), Lines{saving_failed});
+    EXPECT_EQ(world.Files.Disk.Contents, (std::map<std::string, std::string>{{other, Record("9/3/2004=Choir")}}));
+    world.Files.Disk.Blocked.clear();
+    world.Change("8/3/2004", "Tea");
+    EXPECT_EQ(world.Messages(), Lines{saving_failed}) << "what was read had nothing of it";
+    world.Change("8/3/2004", "Tea");
+    EXPECT_EQ(world.Messages(), Lines{});
+    EXPECT_EQ(world.Content(), Record("9/3/2004=Choir") + Record("8/3/2004=Tea"));
+  }
 }
 
 TEST_F(Safe_Saving, A_new_file_that_can_neither_take_the_place_nor_be_written_there_is_taken_away) {
