@@ -40,7 +40,7 @@ fi
 configure windows-x64
 configure windows-x86
 build windows-x64 meridex  # the packages hold both programs
-build windows-x86
+build windows-x86 meridex tests/desktop/all tools/desktop/all
 
 # Two commands that the tests take for Wine's own: they start it in that Debian, where the folders of this one lie too.
 wine32=$root/build/wine32
