@@ -156,8 +156,8 @@ class Package(Desktop_Test):
         self.addCleanup(uninstaller.kill)
 
         def in_front(child_text):
-            """Whether the active window has a child of that text."""
-            return any(window["active"] and any(child_text in child["text"] for child in window["children"])
+            """Whether the active window has a child of that text that takes keys."""
+            return any(window["active"] and any(child_text in child["text"] and child["enabled"] for child in window["children"])
                        for window in desktop.probe())
 
         for text in "&Uninstall", "delete your events", "&Close":
