@@ -2,10 +2,12 @@
 ;   RELEASE, MAJOR, MINOR  the version
 ;   ARCHITECTURE           x64 or x86
 ;   CONTENTS               the folder that the portable zip holds
+;   REMOVAL                a file of lines that delete what lies in the folders of guide and packs, by name
 ;   OUTPUT                 the installer to write
 ;
-; /S installs in silence, /D=FOLDER (last, without quotes) into that folder, /MODERN=1 with the mode for today's desktops.
-; The uninstaller keeps calendar.dat and the settings; in silence too, unless it is given /FORGET=1.
+; /S installs in silence, /D=FOLDER (last, without quotes) into that folder, /MODERN=1 with the mode for today's desktops,
+; /MODERN=0 without it; an upgrade leaves the mode as it is unless told. The uninstaller keeps calendar.dat and the settings; in
+; silence too, unless it is given /FORGET=1. Where the program can't be closed both end with status 2, and nothing has changed.
 
 !if ${ARCHITECTURE} == x64
   Target amd64-unicode
@@ -15,6 +17,7 @@
 SetCompressor /SOLID lzma
 SetDateSave off  ; the same bytes whenever it is built
 RequestExecutionLevel user
+AllowSkipFiles off
 
 !include MUI2.nsh
 !include LogicLib.nsh
@@ -23,6 +26,9 @@ RequestExecutionLevel user
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Meridex"
 !define RUN_KEY "Software\Microsoft\Windows\CurrentVersion\Run"
+!define DESKTOP_KEY "Software\Meridex\Desktop"
+!define SET_WALLPAPER 20
+!define STORE_AND_TELL 3
 !define START_MENU "$SMPROGRAMS\Meridex"
 
 Name "Meridex ${RELEASE}"
@@ -45,7 +51,8 @@ VIAddVersionKey "LegalCopyright" ""
 !define MUI_COMPONENTSPAGE_SMALLDESC
 !define MUI_FINISHPAGE_RUN "$INSTDIR\meridex.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Start the calendar"
-!define MUI_DIRECTORYPAGE_TEXT_TOP "The calendar keeps its events in this folder, so it must be one that you may write to."
+!define MUI_DIRECTORYPAGE_TEXT_TOP "The calendar keeps its events in this folder, so it must be one that you may write to. In \
+  another folder than before it begins without events; those that you have stay where they are."
 
 !insertmacro MUI_PAGE_COMPONENTS
 !insertmacro MUI_PAGE_DIRECTORY
@@ -55,16 +62,30 @@ VIAddVersionKey "LegalCopyright" ""
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
-; A running calendar is asked to close by the window by which its instances know each other. It gets five seconds.
+; A running calendar is asked to close by the window by which its instances know each other. It gets five seconds until its file
+; can be written. A program that shows a failure or a question has that window no more, and goes only when the user answers.
 !macro CLOSE_CALENDAR
+  SetFileAttributes "$INSTDIR\meridex.exe" NORMAL
   StrCpy $R1 50
   ${Do}
     FindWindow $R0 "Meridex_Instance"
-    ${If} $R0 == 0
-    ${OrIf} $R1 == 0
+    ${If} $R0 != 0
+      System::Call "user32::PostMessageA(p R0, i ${WM_CLOSE}, p 0, p 0)"
+    ${ElseIf} ${FileExists} "$INSTDIR\meridex.exe"
+      ClearErrors
+      FileOpen $R2 "$INSTDIR\meridex.exe" a
+      ${IfNot} ${Errors}
+        FileClose $R2
+        ${ExitDo}
+      ${EndIf}
+    ${Else}
       ${ExitDo}
     ${EndIf}
-    System::Call "user32::PostMessageA(p R0, i ${WM_CLOSE}, p 0, p 0)"
+    ${If} $R1 == 0
+      MessageBox MB_OK|MB_ICONSTOP "The calendar is still open. Please close it and its messages, then try again." /SD IDOK
+      SetErrorLevel 2
+      Abort "The calendar is still open."
+    ${EndIf}
     Sleep 100
     IntOp $R1 $R1 - 1
   ${Loop}
@@ -83,6 +104,24 @@ Section "Meridex" SECTION_PROGRAM
   CreateShortCut "${START_MENU}\Guide.lnk" "$INSTDIR\guide\guide.html"
   CreateShortCut "${START_MENU}\Uninstall Meridex.lnk" "$INSTDIR\uninstall.exe"
   WriteUninstaller "$INSTDIR\uninstall.exe"
+SectionEnd
+
+; What the user has made of a pack is the user's: an upgrade only adds what is missing.
+Section "Sample wallpaper packs" SECTION_PACKS
+  SetOverwrite off
+  SetOutPath "$INSTDIR\Default"
+  File "${CONTENTS}\Default\*.*"
+  SetOutPath "$INSTDIR\Seasons"
+  File "${CONTENTS}\Seasons\*.*"
+  SetOverwrite on
+SectionEnd
+
+Section /o "Mode for today's desktops" SECTION_MODERN
+  WriteRegStr HKCU "${DESKTOP_KEY}" "Modern" "1"
+SectionEnd
+
+; The entry among the programs that can be removed, of the size of what was installed; and the mode that isn't wanted any more.
+Section "-Entry"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "Meridex"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${RELEASE}"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\meridex.exe"
@@ -91,19 +130,16 @@ Section "Meridex" SECTION_PROGRAM
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
-  ${GetSize} "$INSTDIR" "/S=0K" $R0 $R1 $R2
+  SectionGetSize ${SECTION_PROGRAM} $R0
+  ${If} ${SectionIsSelected} ${SECTION_PACKS}
+    SectionGetSize ${SECTION_PACKS} $R1
+    IntOp $R0 $R0 + $R1
+  ${EndIf}
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $R0
-SectionEnd
-
-Section "Sample wallpaper packs" SECTION_PACKS
-  SetOutPath "$INSTDIR\Default"
-  File "${CONTENTS}\Default\*.*"
-  SetOutPath "$INSTDIR\Seasons"
-  File "${CONTENTS}\Seasons\*.*"
-SectionEnd
-
-Section /o "Mode for today's desktops" SECTION_MODERN
-  WriteRegStr HKCU "Software\Meridex\Desktop" "Modern" "1"
+  ${If} ${AtLeastWin7}
+  ${AndIfNot} ${SectionIsSelected} ${SECTION_MODERN}
+    DeleteRegValue HKCU "${DESKTOP_KEY}" "Modern"
+  ${EndIf}
 SectionEnd
 
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
@@ -113,15 +149,25 @@ SectionEnd
     calendar that outlives a power cut."
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
-; The mode is offered where the system is new enough for it.
+; The first systems have no folder for a user's own programs. The mode is offered where the system is new enough for it, and
+; chosen where it is on.
 Function .onInit
+  ${If} $LOCALAPPDATA == ""
+  ${AndIf} $INSTDIR == "\Programs\Meridex"
+    StrCpy $INSTDIR "$DOCUMENTS\Meridex"
+  ${EndIf}
   ${IfNot} ${AtLeastWin7}
     SectionSetText ${SECTION_MODERN} ""  ; hides it
     Return
   ${EndIf}
-  ${GetParameters} $R0
-  ${GetOptions} $R0 "/MODERN=" $R1
-  ${If} $R1 == 1
+  ReadRegStr $R0 HKCU "${DESKTOP_KEY}" "Modern"
+  ${GetParameters} $R1
+  ClearErrors
+  ${GetOptions} $R1 "/MODERN=" $R2
+  ${IfNot} ${Errors}
+    StrCpy $R0 $R2
+  ${EndIf}
+  ${If} $R0 == 1
     SectionSetFlags ${SECTION_MODERN} ${SF_SELECTED}
   ${EndIf}
 FunctionEnd
@@ -130,34 +176,46 @@ Section "Uninstall"
   ${GetParameters} $R0
   ${GetOptions} $R0 "/FORGET=" $R9
   ${IfNot} ${Silent}
+    StrCpy $R9 ""
     MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Do you want to delete your events and settings too?" IDNO keep
     StrCpy $R9 1
     keep:
   ${EndIf}
   !insertmacro CLOSE_CALENDAR
+  ; The value by which the calendar starts with the system may lead to another copy. Both paths as short ones, in which the
+  ; calendar stores names that its code page lacks.
+  ReadRegStr $R0 HKCU "${RUN_KEY}" "Meridex"
+  GetFullPathName /SHORT $R0 $R0
+  GetFullPathName /SHORT $R1 "$INSTDIR\meridex.exe"
+  ${If} $R0 == $R1
+    DeleteRegValue HKCU "${RUN_KEY}" "Meridex"
+  ${EndIf}
+  ReadRegStr $R3 HKCU "Control Panel\Desktop" "Wallpaper"
+  ${IfNot} ${FileExists} $R3
+    StrCpy $R3 ""
+  ${EndIf}
   Delete "$INSTDIR\meridex.exe"
-  RMDir /r "$INSTDIR\guide"
-  ; The pictures that were installed, and the bitmap that the calendar makes of one of them. What else lies there stays.
-  StrCpy $R1 12
-  ${DoWhile} $R1 > 0
-    Delete "$INSTDIR\Default\$R1.jpg"
-    Delete "$INSTDIR\Default\$R1.bmp"
-    Delete "$INSTDIR\Seasons\$R1.jpg"
-    Delete "$INSTDIR\Seasons\$R1.bmp"
-    IntOp $R1 $R1 - 1
-  ${Loop}
-  Delete "$INSTDIR\Default\settings.ini"
-  Delete "$INSTDIR\Seasons\settings.ini"
+  ; The guide, the pictures that were installed, and the bitmaps that the calendar makes of them. What else lies there stays.
+  !include "${REMOVAL}"
+  RMDir "$INSTDIR\guide"
   RMDir "$INSTDIR\Default"
   RMDir "$INSTDIR\Seasons"
+  ; A picture that is gone isn't the desktop's any more.
+  ${If} $R3 != ""
+  ${AndIfNot} ${FileExists} $R3
+    System::Call "user32::SystemParametersInfoA(i ${SET_WALLPAPER}, i 0, m '', i ${STORE_AND_TELL})"
+  ${EndIf}
   Delete "${START_MENU}\Meridex.lnk"
   Delete "${START_MENU}\Guide.lnk"
   Delete "${START_MENU}\Uninstall Meridex.lnk"
   RMDir "${START_MENU}"
-  DeleteRegValue HKCU "${RUN_KEY}" "Meridex"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
   ${If} $R9 == 1
+    ; With what a power cut has left of a save.
     Delete "$INSTDIR\calendar.dat"
+    Delete "$INSTDIR\calendar.dat.~new"
+    Delete "$INSTDIR\calendar.dat.~whole"
+    Delete "$INSTDIR\calendar.dat.~bak"
     Delete "$INSTDIR\data.bak"
     DeleteRegKey HKCU "Software\Meridex"
   ${EndIf}

@@ -15,11 +15,11 @@ cant() {
 }
 
 main_cases=(test_start test_placement test_styles test_shell test_living test_menus test_editor_keys test_message_boxes
-  test_tips test_settings_window test_exchange test_reading test_package)
+  test_tips test_settings_window test_exchange test_reading test_wallpaper test_package)
 
 [ "$(id -u)" -eq 0 ] || cant "this needs root"
 cd "$root"
-need_packages build wine package debian32
+need_packages build wine office package debian32 || cant "the packages that this needs can't be installed"
 unshare -m true 2>/dev/null || cant "this machine lets nobody mount a folder"
 
 cache=${XDG_CACHE_HOME:-${HOME:-/tmp}/.cache}/meridex
@@ -32,14 +32,15 @@ if [ ! -e "$debian/meridex-ready" ]; then
   quietly debootstrap --arch=i386 --variant=minbase --include=wine32,locales bookworm "$debian" "$mirror" ||
     cant "a 32-bit Debian can't be had from $mirror"
   for name in "${tried_locales[@]}"; do
-    chroot "$debian" localedef -i "$name" -f UTF-8 "$name.UTF-8"
+    chroot "$debian" localedef -i "$name" -f UTF-8 "$name.UTF-8" || cant "$name can't be made in $debian"
   done
   touch "$debian/meridex-ready"
 fi
 
 configure windows-x64
 configure windows-x86
-build windows-x86 meridex desktop_probe desktop_stand_in
+build windows-x64 meridex  # the packages hold both programs
+build windows-x86 meridex tests/desktop/all tools/desktop/all
 
 # Two commands that the tests take for Wine's own: they start it in that Debian, where the folders of this one lie too.
 wine32=$root/build/wine32
@@ -53,7 +54,8 @@ exec chroot "$debian" /usr/bin/env \${clock:+LD_PRELOAD="\$clock"} WINEARCH=win3
 END
   chmod +x "$wine32/$1"
 }
-gcc -m32 -O2 -fPIC -shared -nostdlib -o "$wine32/clock.so" tools/clock/clock.c
+gcc -m32 -O2 -fPIC -shared -nostdlib -o "$wine32/clock.so" tools/clock/clock.c ||
+  cant "the 32-bit clock can't be built"
 put_command wine /usr/lib/wine/wine
 put_command wineserver /usr/lib/wine/wineserver32
 

@@ -76,7 +76,7 @@ need_locales() {
   local name have
   have=$(locale -a)
   for name in "${tried_locales[@]}"; do
-    grep -qx "$name\.utf8" <<<"$have" || as_root localedef -i "$name" -f UTF-8 "$name.UTF-8"
+    grep -qx "$name\.utf8" <<<"$have" || as_root localedef -i "$name" -f UTF-8 "$name.UTF-8" || return
   done
 }
 
@@ -88,7 +88,7 @@ need_packages() {
     wanted+=("${!list}")
   done
   mapfile -t missing < <(missing_packages "${wanted[@]}")
-  [ ${#missing[@]} -eq 0 ] || install_packages "${missing[@]}"
+  [ ${#missing[@]} -eq 0 ] || install_packages "${missing[@]}" || return
   case " $* " in
     *" wine "*) need_locales ;;
   esac

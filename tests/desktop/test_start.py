@@ -1,9 +1,8 @@
 """The program's start and its ends."""
 import shutil
 
-from harness.desktop import BUILD, PROGRAM, Desktop_Test, record
+from harness.desktop import BUILD, PROGRAM, Desktop_Test
 from harness.hands import TITLE_COLOURS, wait_for_title
-from harness.prefix import ROOT
 from harness.waiting import wait_for
 
 
@@ -109,22 +108,3 @@ class Title_Row(Desktop_Test):
         desktop.programs.append(desktop.prefix.start("notepad"))
         wait_for(lambda: desktop.screen.windows("notepad.exe"), "another program's window")
         wait_for_title(desktop, "Inactive")
-
-
-class Second_Compiler(Desktop_Test):
-    def test_its_program_shows_an_alert_writes_an_event_and_ends(self):
-        desktop = self.desktop(events=["5/3/2004=Dentist"], settings={"Alignment": 3},
-                               program=ROOT / "build/windows-x64-clang/src/main" / PROGRAM)
-        program = desktop.start()
-        self.assertEqual(desktop.message_box().text, "Today: 05/03/2004\r\n\r\nDentist")
-        desktop.answer("Return")
-        desktop.calendar()
-        desktop.screen.double_click(*desktop.box_rect(12).centre)
-        desktop.find_window("Meridex - ")
-        desktop.screen.type("Choir")
-        desktop.screen.key("Return")
-        desktop.window_gone("Meridex - ")
-        self.assertEqual(desktop.data_file.read_bytes(), record("5/3/2004=Dentist") + record("12/3/2004=Choir"))
-        desktop.screen.click(*desktop.box_rect(12).centre, button=3)
-        desktop.menu_choose(4)
-        self.assertEqual(desktop.exit_status(program), 0)

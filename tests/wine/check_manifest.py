@@ -1,8 +1,9 @@
 """check_manifest.py PROGRAM: the manifest in a built program asks the system for what the calendar needs of it."""
 import pathlib
-import struct
 import sys
 import xml.etree.ElementTree as ElementTree
+
+from resources import Resources
 
 MANIFEST, OF_THE_PROGRAM = 24, 1  # the resource's type and number
 
@@ -16,32 +17,8 @@ SYSTEMS = {"{e2011457-1546-43c5-a5fe-008deee3d3f0}", "{35138b9a-5d96-4fbd-8e2d-a
            "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"}
 
 
-def resource(program, kind, number):
-    """The bytes of a program's resource of that type and number, in its first language."""
-    header, = struct.unpack_from("<I", program, 0x3C)
-    sections, header_size = struct.unpack_from("<H12xH", program, header + 6)
-    table = header + 24 + header_size
-    for at in range(table, table + 40 * sections, 40):
-        name, address, start = struct.unpack_from("<8s4xI4xI", program, at)
-        if name.rstrip(b"\0") == b".rsrc":
-            break
-    else:
-        raise SystemExit("The program has no resources")
-
-    def entry(directory, wanted=None):
-        named, numbered = struct.unpack_from("<HH", program, start + directory + 12)
-        entries = [struct.unpack_from("<II", program, start + directory + 16 + 8 * i) for i in range(named + numbered)]
-        found = [offset & 0x7FFFFFFF for key, offset in entries if wanted is None or key == wanted]
-        if not found:
-            raise SystemExit(f"The program has no resource {kind}, {number}")
-        return found[0]
-
-    at, size = struct.unpack_from("<II", program, start + entry(entry(entry(0, kind), number)))
-    return program[start + at - address:start + at - address + size]
-
-
 def main(path):
-    tree = ElementTree.fromstring(resource(pathlib.Path(path).read_bytes(), MANIFEST, OF_THE_PROGRAM))
+    tree = ElementTree.fromstring(Resources(pathlib.Path(path).read_bytes()).read(MANIFEST, OF_THE_PROGRAM))
 
     def texts(name):
         return [element.text.strip() for element in tree.iter(name)]
