@@ -107,15 +107,16 @@ def on_screen(data, programs, rounds):
     ]
 
 
-def list_time(desktop, programs, rounds):
+def list_time(events, programs, rounds):
     """From the release over "Events Overview" to the list on the screen; the other option takes it away each time."""
-    window = Settings_Window(desktop).open()
-    options = [next(child for child in window.natives(BUTTON) if child["text"] == text)["rect"]
-               for text in ("General Statistics", "Events Overview")]
-    places = [geometry.Rect(*rect).centre for rect in options]
-    times = click_times(desktop, programs, "release", places * rounds)[1::2]
-    if not window.natives(LIST):
-        raise RuntimeError("the list of all events isn't on view")
+    with contextlib.closing(Desktop(data=events, settings={"Settings Tab": 1})) as desktop:
+        desktop.started()
+        window = Settings_Window(desktop).open()
+        rects = {child["text"]: geometry.Rect(*child["rect"]) for child in window.natives(BUTTON)}
+        places = [rects[text].centre for text in ("General Statistics", "Events Overview")]
+        times = click_times(desktop, programs, "release", places * rounds)[1::2]
+        if not window.natives(LIST):
+            raise RuntimeError("the list of all events isn't on view")
     return statistics.median(times)
 
 
@@ -129,7 +130,7 @@ def settings_window(data, programs, rounds):
         opening = statistics.median(click_times(desktop, programs, "f8", [beside_all] * rounds)[1:])
         before = work(desktop, "settings", 20, seconds=240)
         after = work(desktop, "settings", 200, seconds=240)
-        listing = list_time(desktop, programs, rounds)
+    listing = list_time(events, programs, rounds)
     objects, windows, handles = gained(before, after, "200 openings")
     return [
         Figure("Wine: settings window on screen, after F8", opening, "ms", 400),
