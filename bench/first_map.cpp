@@ -1,6 +1,6 @@
 // From the start of a program to its first window on the display: bench_first_map COMMAND...
 // Prints the milliseconds from before the fork to the first new top window that is mapped and at least 32 pixels wide and
-// high, then ends the command. Fails after 30 seconds.
+// high, and its width, then ends the command. Fails after 30 seconds.
 #include <X11/Xlib.h>
 #include <poll.h>
 #include <signal.h>
@@ -21,10 +21,12 @@ double Milliseconds_Since(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-bool Stands_On_Screen(Display* display, Window window) {
+/// The width of the window if it stands on the screen, 0 if it doesn't.
+int Width_On_Screen(Display* display, Window window) {
   XWindowAttributes about;
-  return XGetWindowAttributes(display, window, &about) != 0 && about.map_state == IsViewable &&
-         about.width >= smallest && about.height >= smallest;
+  const bool stands = XGetWindowAttributes(display, window, &about) != 0 && about.map_state == IsViewable &&
+                      about.width >= smallest && about.height >= smallest;
+  return stands ? about.width : 0;
 }
 
 /// Windows that were there before don't move or change size meanwhile, so any window that does is a new one.
@@ -33,19 +35,21 @@ Window Window_Of(const XEvent& event) {
   return event.type == ConfigureNotify ? event.xconfigure.window : 0;
 }
 
-double Wait_For_Window(Display* display, Clock::time_point start) {
+/// Prints what was measured; false if no window comes.
+bool Wait_For_Window(Display* display, Clock::time_point start) {
   while (Milliseconds_Since(start) < patience) {
     while (XPending(display) > 0) {
       XEvent event;
       XNextEvent(display, &event);
       const double passed = Milliseconds_Since(start);
       const Window window = Window_Of(event);
-      if (window != 0 && Stands_On_Screen(display, window)) return passed;
+      const int width = window != 0 ? Width_On_Screen(display, window) : 0;
+      if (width > 0) return std::printf("%.1f %d\n", passed, width) > 0;
     }
     pollfd display_socket{ConnectionNumber(display), POLLIN, 0};
     poll(&display_socket, 1, 100);
   }
-  return -1;
+  return false;
 }
 
 /// In a process group of its own, so that all that it starts can be ended with it.
@@ -79,10 +83,8 @@ int main(int count, char** arguments) {
   XSync(display, False);
   const auto start = Clock::now();
   const pid_t process = Start(display, arguments + 1);
-  const double passed = Wait_For_Window(display, start);
+  const bool came = Wait_For_Window(display, start);
   End(process);
   XCloseDisplay(display);
-  if (passed < 0) return 1;
-  std::printf("%.1f\n", passed);
-  return 0;
+  return came ? 0 : 1;
 }

@@ -23,7 +23,7 @@ void Month_Change(benchmark::State& state) {
     program.Next_Month();
     state.SetIterationTime(bench::Processor_Seconds() - start);
   }
-  state.counters["boxes"] = program.Boxes_With_Events();
+  if (program.Boxes_With_Events() == 0) state.SkipWithError("the month on view shows no event");
 }
 
 void Fresh_Buffer_And_Memchr(benchmark::State& state) {
@@ -35,19 +35,8 @@ void Fresh_Buffer_And_Memchr(benchmark::State& state) {
   }
 }
 
-void Kept_Buffer_And_Sse2(benchmark::State& state) {
-  const std::string path = Folder_Of(state) + "/calendar.dat";
-  std::vector<char> buffer;
-  for (auto _ : state) {
-    const double start = bench::Processor_Seconds();
-    benchmark::DoNotOptimize(bench::Kept_Buffer_And_Sse2(path, buffer));
-    state.SetIterationTime(bench::Processor_Seconds() - start);
-  }
-}
-
 BENCHMARK(Month_Change)->Arg(1000)->Arg(32767)->UseManualTime();
-BENCHMARK(Fresh_Buffer_And_Memchr)->Arg(1000)->Arg(32767)->UseManualTime();
-BENCHMARK(Kept_Buffer_And_Sse2)->Arg(1000)->Arg(32767)->UseManualTime();
+BENCHMARK(Fresh_Buffer_And_Memchr)->Arg(32767)->UseManualTime();
 
 }  // namespace
 

@@ -18,18 +18,7 @@ void Sort_And_Show(benchmark::State& state) {
   state.counters["entries"] = entries;
 }
 
-void Open_And_Activate(benchmark::State& state) {
-  for (auto _ : state) {
-    state.PauseTiming();
-    bench::Posix_Files files(data_folder);
-    bench::Bench_Program program(files);
-    state.ResumeTiming();
-    program.Open_Settings();
-  }
-}
-
 BENCHMARK(Sort_And_Show)->Unit(benchmark::kMillisecond);
-BENCHMARK(Open_And_Activate)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 }  // namespace
 

@@ -62,6 +62,8 @@ void Posix_Files::Delete(const std::string&) { throw Run_Error(Error_Number::Pat
 
 void Posix_Files::Copy(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
+void Posix_Files::Bring_To_Disk(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
+
 basic::Moment Posix_Files::Last_Change(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
 bool Posix_Files::File_Exists(const std::string& path) {

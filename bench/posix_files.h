@@ -25,6 +25,7 @@ class Posix_Files final : public platform::Files {
   void Rename(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
   void Copy(const std::string& from, const std::string& to) override;
+  void Bring_To_Disk(const std::string& path) override;
   basic::Moment Last_Change(const std::string& path) override;
   bool Same_Path(const std::string& a, const std::string& b) override { return basic::Same_Letters(a, b); }
   std::string Program_Folder() override { return "C:\\Meridex"; }

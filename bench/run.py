@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
-"""Measures everything and prints the table; scripts/bench.sh builds what it needs.
-
-The groups: native, printed, size, months, start, idle, screen, settings, import, jpeg. The exit status is 1 if a goal isn't reached.
-"""
+"""Measures everything and prints the table; scripts/bench.sh builds what it needs. The exit status is 1 if a goal isn't
+reached."""
 import argparse
 import datetime
 import pathlib
@@ -11,6 +9,7 @@ import sys
 
 import figures
 import native
+import on_desktop
 import peers
 import report
 import wine
@@ -29,31 +28,20 @@ def make_data():
         subprocess.run([sys.executable, "-B", generator, str(count), DATA / folder, *options], check=True)
 
 
-def measure(group, quick):
-    if group == "native":
-        return (native.month_change(PROGRAMS, DATA, 9 if quick else 21) + native.tick(PROGRAMS, DATA) +
-                native.overview(PROGRAMS, DATA) + native.exchange(PROGRAMS))
-    if group == "printed":
-        return (peers.month_print(PROGRAMS, DATA / "100", 15 if quick else 41) +
-                peers.month_print(PROGRAMS, DATA / "32767", 3 if quick else 9))
-    if group == "size":
-        return wine.size()
-    if group == "months":
-        return wine.month_change(DATA, 3 if quick else 7)
-    if group == "start":
-        return wine.start(DATA, PROGRAMS, 5 if quick else 15)
-    if group == "idle":
-        return wine.idle(DATA, 15 if quick else 60) + wine.idle_display(DATA, 10)
-    if group == "screen":
-        return wine.on_screen(DATA, PROGRAMS, 4 if quick else 10)
-    if group == "settings":
-        return wine.settings_window(DATA, PROGRAMS, 4 if quick else 10)
-    if group == "import":
-        return wine.csv_import()
-    return wine.jpeg(DATA, 3 if quick else 9)
-
-
-GROUPS = ["native", "printed", "size", "months", "start", "idle", "screen", "settings", "import", "jpeg"]
+GROUPS = {  # what measures each, for a quick run or a whole one
+    "native": lambda quick: (native.month_change(PROGRAMS, DATA, 9 if quick else 21) + native.tick(PROGRAMS, DATA) +
+                             native.overview(PROGRAMS, DATA) + native.exchange(PROGRAMS)),
+    "printed": lambda quick: (peers.month_print(PROGRAMS, DATA / "100", 15 if quick else 41) +
+                              peers.month_print(PROGRAMS, DATA / "32767", 3 if quick else 9)),
+    "size": lambda quick: wine.size(),
+    "months": lambda quick: wine.month_change(DATA, 3 if quick else 7),
+    "start": lambda quick: wine.start(DATA, PROGRAMS, 5 if quick else 15),
+    "idle": lambda quick: wine.idle(DATA, 15 if quick else 60) + wine.idle_display(DATA, 10),
+    "screen": lambda quick: on_desktop.on_screen(DATA, PROGRAMS, 4 if quick else 10),
+    "settings": lambda quick: on_desktop.settings_window(DATA, PROGRAMS, 4 if quick else 10),
+    "import": lambda quick: on_desktop.csv_import(),
+    "jpeg": lambda quick: wine.jpeg(DATA, 3 if quick else 9),
+}
 
 
 def main():
@@ -70,7 +58,7 @@ def main():
     found = []
     for group in options.group or GROUPS:
         print(f"Measuring: {group}", file=sys.stderr, flush=True)
-        found += (of_group := measure(group, options.quick))
+        found += (of_group := GROUPS[group](options.quick))
         print(figures.table(of_group), file=sys.stderr, flush=True)  # a later group may fail
     print(f"\n{machine}\n\n{figures.table(found)}")
     over = sum(not figure.reached for figure in found)
