@@ -73,9 +73,9 @@ bool Pack_Fails(play::World& world, int error) {
     }
     return false;
   };
-  for (const std::string& name : platform.Files.Folder_Names(platform.Files.Program_Folder()))
-    if (name != "io" && fails(Memory_Files::Full_Path(name))) return true;
-  return false;
+  const auto folders = platform.Files.Folder_Names(platform.Files.Program_Folder());
+  return std::any_of(folders.begin(), folders.end(),
+                     [&](const std::string& name) { return name != "io" && fails(Memory_Files::Full_Path(name)); });
 }
 
 bool Desktop_Mode_Fails(play::World& world, int error) {

@@ -203,7 +203,7 @@ std::string Random_Actions::Restart(bool healed) {
   if (random_.Once_In(5)) lines += std::string("locale ") + random_.One_Of(locales) + "\n";
   if (random_.Once_In(5)) lines += std::string("shell ") + random_.One_Of(shells) + "\n";
   if (random_.Once_In(20))
-    lines += std::string("reg HKCU \"Control Panel\\\\Desktop\" WallpaperStyle ") + random_.One_Of(modes) + "\n";
+    lines += std::string(R"(reg HKCU "Control Panel\\Desktop" WallpaperStyle )") + random_.One_Of(modes) + "\n";
   if (random_.Once_In(20)) lines += random_.Once_In(2) ? "deny HKCU on\n" : "deny HKCU off\n";
   if (random_.Once_In(20)) lines += "instance Meridex\n";
   if (random_.Once_In(20)) lines += "window Meridex\n";
