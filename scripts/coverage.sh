@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
-# How much of the portable code the unit tests and scenarios run through: scripts/coverage.sh
+# How much of the portable code the tests that run natively run through: scripts/coverage.sh
 #
-# Prints lines and branches of each file that isn't whole, and of all together; the branches that only exceptions take don't
-# count. The pages in build/coverage/pages show each line. The exit status is 1 below 99% of the lines or 94% of the branches.
+# Those are the unit tests, which the fuzz seeds and three runs of the monkey are among, and the scenarios. Prints lines and
+# branches of each file that isn't whole, and of all together; branches that only exceptions take, and those of lines that hold no
+# code of ours, don't count. The pages in build/coverage/pages show each line. The exit status is 1 below 99% of the
+# lines or 94% of the branches, or if a test fails; the figures are printed then too.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/lib/packages.sh"
@@ -12,12 +14,14 @@ need_packages build coverage
 configure coverage
 build coverage
 find build/coverage -name '*.gcda' -delete
-quietly ctest --test-dir build/coverage -L 'unit|scenarios' -j "$(nproc)" --no-tests=error --output-on-failure
+status=0
+quietly ctest --test-dir build/coverage -L 'unit|scenarios' -j "$(nproc)" --no-tests=error --output-on-failure || status=1
 mkdir -p build/coverage/pages
-gcovr --root . --object-directory build/coverage --filter 'src/' --exclude 'src/win32/' --exclude 'src/memory/' --exclude 'src/main/main_win32' \
+# The plain search for a byte is compiled once more, as a function of the same name at another line: gcovr knows only one.
+gcovr --root . --object-directory build/coverage --exclude-directories '.*/find_byte_plain_test\.dir' --filter 'src/' --exclude 'src/win32/' --exclude 'src/memory/' --exclude 'src/main/main_win32' \
   --exclude-throw-branches --exclude-unreachable-branches -j "$(nproc)" --html-details build/coverage/pages/index.html \
   --json-summary build/coverage/summary.json >/dev/null
-python3 - build/coverage/summary.json <<'END'
+python3 - build/coverage/summary.json <<'END' || status=1
 import json
 import sys
 with open(sys.argv[1], encoding="utf-8") as file:
@@ -31,3 +35,5 @@ branches = 100 * summary["branch_covered"] / summary["branch_total"]
 print(f"lines {lines:.1f}% of {summary['line_total']}, branches {branches:.1f}% of {summary['branch_total']}")
 sys.exit(lines < 99 or branches < 94)
 END
+[ $status -eq 0 ] || echo "A test failed, or a goal isn't reached" >&2
+exit $status

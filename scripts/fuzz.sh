@@ -2,7 +2,8 @@
 # Builds the fuzz targets and runs one after the other: scripts/fuzz.sh [SECONDS]
 #
 # Each runs for SECONDS (300 unless told) over its seeds in fuzz/corpus/. New inputs are kept for the next time in
-# build/fuzz/found/, and an input that ends a target in build/fuzz/findings/. The exit status is 1 if there is one.
+# build/fuzz/found/, and an input that ends a target in build/fuzz/findings/. The exit status is 1 if there is one,
+# or if a target has no seeds.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/lib/packages.sh"
@@ -21,9 +22,19 @@ need_packages build lint
 configure fuzz
 build fuzz fuzz_targets
 
+mapfile -t targets < <(sed -n 's/^meridex_fuzz_target(\([a-z_]*\).*/\1/p' fuzz/CMakeLists.txt)
+if [ ${#targets[@]} -eq 0 ]; then
+  echo "fuzz/CMakeLists.txt names no target" >&2
+  exit 1
+fi
 status=0
-for corpus in fuzz/corpus/*/; do
-  name=$(basename "$corpus")
+for name in "${targets[@]}"; do
+  corpus=fuzz/corpus/$name
+  if [ ! -d "$corpus" ] || [ ! -f "fuzz/dictionaries/$name.txt" ]; then
+    echo "$name: no seeds or no dictionary"
+    status=1
+    continue
+  fi
   found=build/fuzz/found/$name findings=build/fuzz/findings/$name log=build/fuzz/$name.log
   mkdir -p "$found" "$findings"
   echo "$name: $seconds s"

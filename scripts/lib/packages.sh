@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Sourced: the Debian packages that building, testing and measuring need, installed when something is missing.
 #
-#   need_packages build wine      # groups: build, wine, office, lint, package, debian32, coverage, bench
+#   need_packages build wine      # groups: build, wine, office, lint, package, debian32, coverage, valgrind, bench
 #
 # Where everything is there, nothing is installed and the network isn't touched.
 
@@ -22,6 +22,8 @@ packages_package=(nsis zip git)
 packages_debian32=(debootstrap)
 # shellcheck disable=SC2034
 packages_coverage=(gcovr)
+# shellcheck disable=SC2034
+packages_valgrind=(valgrind)
 # shellcheck disable=SC2034
 packages_bench=(libbenchmark-dev libx11-dev libxdamage-dev libxtst-dev libjpeg-turbo-progs
   # the calendars that the month printed stands beside

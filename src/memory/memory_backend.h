@@ -41,6 +41,7 @@ class Memory_Backend : public toolkit::Backend {
 
   /// The width of one character in twips; CR and LF have none.
   void Set_Character_Width(double twips) { character_width_ = twips; }
+  [[nodiscard]] double Character_Width() const { return character_width_; }
 
   Memory_Windows Windows;
 

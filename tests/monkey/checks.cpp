@@ -16,6 +16,7 @@ namespace {
 using memory::Memory_Files;
 
 constexpr toolkit::Colour mark = 0x123456;
+constexpr int two_ticks = 200'000;  // microseconds
 
 /// Whether a failure that this box tells of may have left the file number taken.
 bool Leaves_File_Open(const memory::Memory_Message_Box::Shown& box) {
@@ -25,9 +26,14 @@ bool Leaves_File_Open(const memory::Memory_Message_Box::Shown& box) {
 
 std::string Told(const Box& box) {
   return std::string(box.visible ? "" : "hidden ") + play::Quoted(box.number) + " " + play::Quoted(box.caption) +
-         " back " + std::to_string(box.back) + (box.underline ? " underline" : "") + " tips " +
+         " back " + std::to_string(box.back) + " colours " + std::to_string(box.number_colour) + " " +
+         std::to_string(box.caption_colour) + " in " + box.fonts + (box.underline ? " underline" : "") + " tips " +
          play::Quoted(box.number_tip) + " " + play::Quoted(box.caption_tip) + " at " +
          play::Number_Text(box.place.Left) + " " + play::Number_Text(box.place.Top);
+}
+
+std::string Told(const Snapshot& snapshot) {
+  return play::Number_Text(snapshot.left) + " " + play::Number_Text(snapshot.top);
 }
 
 }  // namespace
@@ -112,7 +118,8 @@ void Checks::Check_Complaints(const Brought_Up& brought) {
 void Checks::Note_File(const std::string& lines, const Brought_Up& brought) {
   const bool put = lines.find("put calendar.dat") != std::string::npos;
   if (put || lines.find("remove calendar.dat") != std::string::npos) faulty_ = false;
-  if (lines.find("block calendar.dat") != std::string::npos || lines.find("full calendar.dat") != std::string::npos)
+  if (lines.find("block calendar.dat") != std::string::npos || lines.find("full calendar.dat") != std::string::npos ||
+      lines.find("readonly calendar.dat") != std::string::npos)
     faulty_ = true;
   const bool replaced = put || brought.Dialog_Got_File("Import Data File") || brought.Box_Said("Error when importing");
   if (replaced) malformed_ = !Well_Formed(File(), imported_ && !put);
@@ -150,11 +157,16 @@ void Checks::Note_What_May_Differ(const std::string& lines, const Brought_Up& br
     applied_ = false;
     fresh_key_.clear();  // the pack, the locale and the screen may be others
   }
+  const bool may_move = lines.find("Which_Month_Lbl") != std::string::npos ||
+                        lines.find("workarea") != std::string::npos || lines.find("screen") != std::string::npos;
+  if (may_move && !started) place_odd_ = true;
+  else if (drawn) place_odd_ = false;
   if (drawn) {
     odd_boxes_.clear();
     all_odd_ = false;
     drawn_on_ = world_.Platform.Time.Now().Day;
   }
+  ticked_ = brought.micros >= two_ticks && drawn_on_ == world_.Platform.Time.Now().Day;
   if (saved && !started) {
     odd_boxes_.insert(before_.current_box);
     odd_boxes_.insert(state.Current_Box.Value());
@@ -214,6 +226,8 @@ const std::optional<Snapshot>& Checks::Fresh() {
                     std::to_string(state.View_Month.Value()) + " " + std::to_string(world_.Platform.Time.Now().Day) +
                     "\n" + Label_Of(*world_.Find_Window("Main_Frm"), "Day_Lbl", 0).Caption();
   for (const auto& value : world_.Platform.Store.Values("Meridex")) key += value.Key + "=" + value.Text + "\n";
+  const auto area = world_.Platform.Screen.Work_Area();
+  for (const int edge : {area.Left, area.Top, area.Width, area.Height}) key += std::to_string(edge) + " ";
   if (key != fresh_key_) {
     fresh_ = Fresh_Snapshot(world_);
     fresh_key_ = key;
@@ -232,6 +246,33 @@ bool Checks::Style_Is_Known() const {
   return style >= presentation::thin_box && style <= presentation::small_box;
 }
 
+/// The time in the title goes on by itself, and of another month than the present one it has the name and the year alone.
+void Checks::Check_Title(const std::string& seen, const std::string& fresh, bool present_month) const {
+  auto& store = world_.Platform.Store;
+  if (!present_month) {
+    const auto& state = *world_.State();
+    const std::string wanted = world_.Platform.Locale.Words().Month_Name(state.View_Month.Value()) + " - " +
+                               play::Number_Text(state.View_Year.Value());
+    if (seen != wanted) throw Failed("the title of another month is " + play::Quoted(seen) + ", not " + wanted);
+    return;
+  }
+  const bool with_time = store.Get("Meridex", "Settings", "Bar Time", "False") != "False";
+  const auto date = [with_time](const std::string& title) {
+    const std::size_t end = with_time ? title.find(" - ") : std::string::npos;
+    return end == std::string::npos ? title : title.substr(end);
+  };
+  if (date(seen) != date(fresh))
+    throw Failed("the title is " + play::Quoted(seen) + ", in a fresh start " + play::Quoted(fresh));
+}
+
+/// Any other number places nothing: the window stays where it was.
+bool Checks::Position_Is_Known() const {
+  const bool by_pack = Packs_Are_On() && world_.Platform.Store.Get("Meridex", "Settings", "Use Theme Pos", "1") == "1";
+  const int position = by_pack ? world_.State()->Pack_Pos.Value()
+                               : basic::To_Int32(world_.Platform.Store.Get("Meridex", "Settings", "Alignment", "0"));
+  return position >= 0 && position <= 9;
+}
+
 void Checks::Check_Boxes() {
   if (applied_ && !Style_Is_Known()) return;
   if (Packs_Are_On() && (pack_odd_ || drawn_on_ != world_.Platform.Time.Now().Day)) return;
@@ -245,6 +286,9 @@ void Checks::Check_Boxes() {
   const bool present_month = world_.State()->View_Month == today.Month && world_.State()->View_Year == today.Year;
   if (seen.headers != fresh->headers) throw Failed("other weekday headers than a fresh start has");
   if (seen.width != fresh->width || seen.height != fresh->height) throw Failed("another size than a fresh start has");
+  if (!place_odd_ && Position_Is_Known() && (seen.left != fresh->left || seen.top != fresh->top))
+    throw Failed("the window is at " + Told(seen) + ", in a fresh start at " + Told(*fresh));
+  if (ticked_) Check_Title(seen.title, fresh->title, present_month);
   for (int i = 0; i < presentation::box_count; ++i) {
     Box box = seen.boxes.at(static_cast<std::size_t>(i));
     Box wanted = fresh->boxes.at(static_cast<std::size_t>(i));

@@ -10,7 +10,8 @@
 //   behind a removal can bring the old lines back, and then the same holds.
 // - After a message about the file, reading and writing may fail until the program is started again.
 // - In compact mode nothing is drawn; F9 brings the window back over a grid that may be that of another month.
-// - Today's mark follows the clock at the tick, not before.
+// - The window stays where it was dragged, and comes to a new work area's edges on the ticks, until the next drawing.
+// - Today's mark and the title follow the clock at the tick, not before.
 // - What the settings window applies is drawn in pieces, and may differ until the next drawing; a number that is no style
 //   leaves the boxes as they were before.
 // - A pack is read at the start, at a new day and when it is applied: one that was changed since may differ until the
@@ -73,6 +74,8 @@ class Checks {
   void Check_Editor() const;
   [[nodiscard]] bool Packs_Are_On() const;
   [[nodiscard]] bool Style_Is_Known() const;
+  [[nodiscard]] bool Position_Is_Known() const;
+  void Check_Title(const std::string& seen, const std::string& fresh, bool present_month) const;
   void Check_Boxes();
   const std::optional<Snapshot>& Fresh();
 
@@ -84,6 +87,8 @@ class Checks {
   bool malformed_ = false;     // the file, by no fault of the program
   bool imported_ = false;      // from a CSV file, whose texts come in as they stand
   bool faulty_ = false;        // the file, as a disk or a folder in its place makes it
+  bool ticked_ = false;        // within the last action, so that the title is up to date
+  bool place_odd_ = false;     // the window was dragged, or its work area has changed; until the next drawing
   bool applied_ = false;       // something in the settings window, since the start
   bool pack_odd_ = false;      // the pack isn't as it was when the calendar looked; until the next start
   basic::Serial_Day drawn_on_ = 0;

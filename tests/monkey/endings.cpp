@@ -1,5 +1,6 @@
 #include "endings.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 
@@ -72,9 +73,9 @@ bool Pack_Fails(play::World& world, int error) {
     }
     return false;
   };
-  for (const std::string& name : platform.Files.Folder_Names(platform.Files.Program_Folder()))
-    if (name != "io" && fails(Memory_Files::Full_Path(name))) return true;
-  return false;
+  const auto folders = platform.Files.Folder_Names(platform.Files.Program_Folder());
+  return std::any_of(folders.begin(), folders.end(),
+                     [&](const std::string& name) { return name != "io" && fails(Memory_Files::Full_Path(name)); });
 }
 
 bool Desktop_Mode_Fails(play::World& world, int error) {
@@ -120,9 +121,17 @@ bool First_Weekday_Is_None(play::World& world) {
   return day.size() != 1 || day < "0" || day > "7";
 }
 
+/// The user has consented to places beyond 16 bits.
+bool Consented(play::World& world) { return world.Platform.Store.Get("Meridex", "Desktop", "Modern", "") == "1"; }
+
+bool Drag_Overflows(const Last_Seen& seen) {
+  return std::abs(seen.left) > farthest_drag || std::abs(seen.top) > farthest_drag;
+}
+
 bool Work_Area_Overflows(play::World& world) {
   const auto area = world.Platform.Screen.Work_Area();
-  return area.Width > largest_work_area || area.Height > largest_work_area;
+  const int farthest = std::max({area.Left, area.Top, area.Width, area.Height});
+  return farthest > largest_work_area;
 }
 
 }  // namespace
@@ -142,8 +151,9 @@ std::string Cause_Of_End(play::World& world, const Last_Seen& seen, const Brough
   if (Stored_Value_Fails(world, error)) return "a stored value";
   if (error == invalid_call && First_Weekday_Is_None(world)) return "the first weekday";
   if (error == overflow && Idle_Time_Overflows(world)) return "the idle time";
-  if (error == overflow && Work_Area_Overflows(world)) return "the work area";
-  if (error == overflow && (std::abs(seen.left) > farthest_drag || std::abs(seen.top) > farthest_drag)) return "a drag";
+  const bool narrow = !Consented(world);
+  if (error == overflow && narrow && Work_Area_Overflows(world)) return "the work area";
+  if (error == overflow && narrow && Drag_Overflows(seen)) return "a drag";
   if (error == invalid_call && (seen.view_year < early_year || seen.view_year > late_year)) return "the year";
   if (Pack_Fails(world, error)) return "a pack";
   if (Desktop_Mode_Fails(world, error)) return "the desktop's display mode";

@@ -8,14 +8,24 @@
 
 namespace monkey {
 
+namespace {
+
+constexpr int actions_that_come_everywhere = 5000;
+
+}  // namespace
+
 bool Monkey::Play(const Limit& limit) {
   try {
+    Open_Log();
     Act(actions_.First());
     while (!At_End(limit)) Act(actions_.Next(Present_Situation()));
     Tell();
+    if (acted_ >= actions_that_come_everywhere) Check_Reach();
+    log_.reset();
+    std::remove(log_name_.c_str());
     return true;
   } catch (const std::exception& failure) {
-    Keep(failure.what());
+    Report(failure.what());
     return false;
   }
 }
@@ -31,7 +41,7 @@ Situation Monkey::Present_Situation() {
 }
 
 void Monkey::Act(const std::string& lines) {
-  log_ += lines + "\n";
+  Log(lines);
   ++acted_;
   const auto commands = play::Read_Scenario(lines);
   for (const auto& command : commands)
@@ -78,13 +88,28 @@ void Monkey::Tell() const {
               checks_.Compared(), checks_.Fresh_Starts(), settings_checks_.Applied(), settings_checks_.Listed());
 }
 
-void Monkey::Keep(const char* why) const {
-  const std::string name = "monkey_" + std::to_string(seed_) + ".scn";
-  std::fprintf(stderr, "seed %u, action %d: %s\nthe way there is in %s\n", seed_, acted_, why, name.c_str());
-  if (std::FILE* const file = std::fopen(name.c_str(), "wb")) {
-    std::fwrite(log_.data(), 1, log_.size(), file);
-    std::fclose(file);
-  }
+/// A run whose actions come to nothing shows nothing.
+void Monkey::Check_Reach() const {
+  std::string missed = watcher_.Missed();
+  if (checks_.Compared() == 0) missed += " comparisons of the boxes";
+  if (settings_checks_.Applied() == 0) missed += " comparisons of the stored values";
+  if (settings_checks_.Listed() == 0) missed += " comparisons of the overview";
+  if (!missed.empty()) throw Failed("in " + std::to_string(acted_) + " actions there were none of these:" + missed);
+}
+
+void Monkey::Open_Log() {
+  log_.reset(std::fopen(log_name_.c_str(), "wb"));
+  if (log_ == nullptr) throw Failed("can't write " + log_name_);
+}
+
+/// Before the lines are played, since that may end the process.
+void Monkey::Log(const std::string& lines) {
+  std::fprintf(log_.get(), "%s\n", lines.c_str());
+  std::fflush(log_.get());
+}
+
+void Monkey::Report(const char* why) const {
+  std::fprintf(stderr, "seed %u, action %d: %s\nthe way there is in %s\n", seed_, acted_, why, log_name_.c_str());
 }
 
 }  // namespace monkey

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 
@@ -26,7 +28,8 @@ class Monkey {
  public:
   explicit Monkey(unsigned seed) : seed_(seed), actions_(seed, world_) {}
 
-  /// Says whether all held. What went wrong is left as a scenario, monkey_SEED.scn, for meridex-play.
+  /// Says whether all held. The way to where it didn't is left as a scenario, monkey_SEED.scn, for meridex-play; also where
+  /// the process ends in the midst of an action, or has to be ended.
   bool Play(const Limit& limit);
 
  private:
@@ -37,8 +40,11 @@ class Monkey {
   void Check_End(const Brought_Up& brought);
   void Check(const std::string& lines, const Brought_Up& brought);
   [[nodiscard]] std::int64_t Elapsed() const { return world_.Platform.Time.Elapsed(); }
-  void Keep(const char* why) const;
+  void Open_Log();
+  void Log(const std::string& lines);
+  void Report(const char* why) const;
   void Tell() const;
+  void Check_Reach() const;
 
   const unsigned seed_;
   play::World world_{[this](const std::string& line) { watcher_.Hear(line); }};
@@ -48,7 +54,8 @@ class Monkey {
   Checks checks_{world_};
   Window_Checks window_checks_{world_};
   Settings_Checks settings_checks_{world_};
-  std::string log_;
+  const std::string log_name_ = "monkey_" + std::to_string(seed_) + ".scn";
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> log_{nullptr, std::fclose};
   int acted_ = -1;  // the setting of the scene is none
   bool failed_ = false;
   Last_Seen last_seen_;

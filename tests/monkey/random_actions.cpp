@@ -1,5 +1,7 @@
 #include "random_actions.h"
 
+#include <utility>
+
 #include "nasty.h"
 #include "nasty_files.h"
 #include "text_form.h"
@@ -9,6 +11,7 @@ namespace monkey {
 namespace {
 
 constexpr int seconds_of_a_day = 86400;
+constexpr const char* shells[] = {"on", "off", "workerw", "progman", "defview"};
 constexpr const char* buttons[] = {"left", "left", "left", "right", "middle"};
 
 std::string Number(int number) { return std::to_string(number); }
@@ -26,9 +29,11 @@ std::string Random_Actions::First() {
 
 std::string Random_Actions::Next(const Situation& situation) {
   if (!situation.running || (situation.trouble && random_.Once_In(10))) return Restart(situation.failed);
-  if (windows_.Any_Window() && random_.Once_In(2)) return windows_.Next();
-  // A held press in the last moments of a day is waited for until the next one; better not begin it.
-  const bool may_press = !situation.balloons || situation.second_of_the_day < seconds_of_a_day - 60;
+  // A held press in the last moments of a day is waited for until the next one; better not begin it. The settings window
+  // has one such place too.
+  const bool may_hold = situation.second_of_the_day < seconds_of_a_day - 60;
+  const bool may_press = !situation.balloons || may_hold;
+  if (windows_.Any_Window() && random_.Once_In(2)) return may_hold ? windows_.Next() : Wait();
   if (situation.balloons && may_press && random_.Once_In(4)) return windows_.Hold_An_Event();
   const int kind = random_.Below(1000);
   if (kind < 620) return Of_The_User(may_press);
@@ -38,7 +43,8 @@ std::string Random_Actions::Next(const Situation& situation) {
   if (kind < 820) return windows_.Open_Settings();
   if (kind < 860) return Clock();
   if (kind < 900) return Disk();
-  if (kind < 930) return Screen();
+  if (kind < 915) return Screen();
+  if (kind < 930) return Desktop();
   return Restart(false);
 }
 
@@ -138,7 +144,8 @@ std::string Random_Actions::Clock() {
 }
 
 std::string Random_Actions::Disk() {
-  switch (random_.Below(25)) {
+  switch (random_.Below(26)) {
+    case 9: return "put calendar.dat " + play::Quoted(Good_File(random_)) + "\nreadonly calendar.dat";
     case 5:
     case 6:
     case 7:
@@ -155,9 +162,28 @@ std::string Random_Actions::Disk() {
 std::string Random_Actions::Screen() {
   static constexpr const char* screens[] = {"1280 1024", "1280 1024", "640 480", "1024 768", "2184 1200", "800 1280"};
   if (random_.Once_In(60)) return "workarea 0 0 1280 2185";
+  if (large_ && random_.Once_In(2))
+    return "workarea " + Number(random_.Below(2500)) + " " + Number(random_.Below(2500)) + " " +
+           Number(random_.Below(4000)) + " " + Number(random_.Below(3000));
   if (random_.Once_In(5)) return std::string("screen ") + random_.One_Of(screens);
   return "workarea " + Number(random_.Below(100)) + " " + Number(random_.Below(100)) + " " +
          Number(random_.Below(1200)) + " " + Number(random_.Below(1000));
+}
+
+/// The shell ends, comes and comes again, and shows its icons in other colours.
+std::string Random_Actions::Desktop() {
+  if (random_.Once_In(3)) return "icons " + Number(random_.Below(16777216)) + " " + Number(random_.Below(16777216));
+  return std::string("shell ") + random_.One_Of(shells);
+}
+
+/// Places beyond 16 bits, in twips, belong to those who have consented to them.
+std::string Random_Actions::Consent() {
+  const bool modern = random_.Once_In(4);
+  std::string lines = std::string("setting Desktop Modern ") + (modern ? "1" : "0") + "\n";
+  const bool was_large = std::exchange(large_, modern && random_.Once_In(2));
+  if (large_) return lines + "screen 3840 2160\nworkarea 0 0 3840 2120\n";
+  if (was_large) lines += "screen 1280 1024\nworkarea 0 0 1280 1024\n";
+  return lines;
 }
 
 std::string Random_Actions::Prepared_Answer() {
@@ -169,21 +195,22 @@ std::string Random_Actions::Prepared_Answer() {
 
 std::string Random_Actions::Restart(bool healed) {
   static constexpr const char* locales[] = {"en-GB", "en-US", "de-DE"};
-  static constexpr const char* shells[] = {"on", "off", "progman", "defview"};
   static constexpr const char* modes[] = {"0", "2", "10", "stretched"};
   std::string lines;
   if (healed) lines += Healed_Settings() + "workarea 0 0 1280 1024\n" + Make_Pack("Default", "0-4-0");
   for (int count = random_.Below(5); count > 0; --count) lines += Stored_Setting(random_);
   if (random_.Once_In(4)) lines += "setting Settings Tooltips 2\n";
-  lines += std::string("setting Desktop Modern ") + (random_.Once_In(4) ? "1" : "0") + "\n";
   if (random_.Once_In(5)) lines += std::string("locale ") + random_.One_Of(locales) + "\n";
   if (random_.Once_In(5)) lines += std::string("shell ") + random_.One_Of(shells) + "\n";
   if (random_.Once_In(20))
-    lines += std::string("reg HKCU \"Control Panel\\\\Desktop\" WallpaperStyle ") + random_.One_Of(modes) + "\n";
+    lines += std::string(R"(reg HKCU "Control Panel\\Desktop" WallpaperStyle )") + random_.One_Of(modes) + "\n";
   if (random_.Once_In(20)) lines += random_.Once_In(2) ? "deny HKCU on\n" : "deny HKCU off\n";
   if (random_.Once_In(20)) lines += "instance Meridex\n";
+  if (random_.Once_In(20)) lines += "window Meridex\n";
+  if (random_.Once_In(20)) lines += "charwidth " + Number(60 + random_.Below(90)) + "\n";
   if (random_.Once_In(5)) lines += Change_Packs(random_);
   if (random_.Once_In(2)) lines += "workarea 0 0 1280 1024\n";
+  lines += Consent();
   if (random_.Once_In(2)) lines += "put calendar.dat " + play::Quoted(Good_File(random_)) + "\n";
   return lines + "start";
 }

@@ -38,6 +38,8 @@ class Random_Actions {
   std::string Clock();
   std::string Disk();
   std::string Screen();
+  std::string Desktop();
+  std::string Consent();
   std::string Restart(bool healed);
   std::string Prepared_Answer();
   std::string Label();
@@ -45,6 +47,7 @@ class Random_Actions {
 
   Random random_;
   Window_Actions windows_;
+  bool large_ = false;  // the screen is larger than 16 bits hold, and the user has consented
 };
 
 }  // namespace monkey

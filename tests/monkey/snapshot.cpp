@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "packs/pack_values.h"
+#include "text_form.h"
 
 namespace monkey {
 
@@ -47,7 +48,12 @@ void Copy_World(play::World& from, play::World& to) {
   const auto screen = from.Platform.Screen.Bounds();
   to.Platform.Screen.Set_Size(screen.Width, screen.Height);
   to.Platform.Screen.Set_Work_Area(from.Platform.Screen.Work_Area());
+  to.Platform.Windows_And_Timers.Set_Character_Width(from.Platform.Windows_And_Timers.Character_Width());
   Keep_Present_Month_Of_Pack(from, to);
+}
+
+std::string Font_Of(const toolkit::Label& label) {
+  return label.FontName() + " " + play::Number_Text(label.FontSize) + (label.FontBold ? " bold" : "");
 }
 
 /// The present moment where the present month is on view, else noon of the first of the month on view.
@@ -70,6 +76,9 @@ toolkit::Label& Label_Of(const toolkit::Form& window, const std::string& name, i
 Snapshot Snapshot_Of(const play::World& world) {
   const toolkit::Form& window = *world.Find_Window("Main_Frm");
   Snapshot snapshot;
+  snapshot.title = Label_Of(window, "Which_Month_Lbl").Caption;
+  snapshot.left = window.Left;
+  snapshot.top = window.Top;
   snapshot.width = window.Width;
   snapshot.height = window.Height;
   for (const toolkit::Control* const control : window.Controls()) {
@@ -84,12 +93,16 @@ Snapshot Snapshot_Of(const play::World& world) {
       box.number = label->Caption;
       box.number_tip = label->ToolTipText;
       box.underline = label->FontUnderline;
+      box.fonts.insert(0, Font_Of(*label));
       box.back = label->BackColor;
+      box.number_colour = label->ForeColor;
       box.place = label->In_Twips();
     } else if (label->Name == "Box_Caption_Lbl") {
       Box& box = snapshot.boxes.at(index);
       box.caption = label->Caption;
       box.caption_tip = label->ToolTipText;
+      box.fonts += ", " + Font_Of(*label);
+      box.caption_colour = label->ForeColor;
       box.caption_place = label->In_Twips();
       // Out of the window's sight a caption keeps whatever size it had, and its text is cut to that.
       if (box.caption_place.Left >= parked) {

@@ -13,7 +13,8 @@ struct Box {
   bool visible = false;
   std::string number, caption, number_tip, caption_tip;
   bool underline = false;
-  toolkit::Colour back = 0;
+  std::string fonts;  // of the number and the caption
+  toolkit::Colour back = 0, number_colour = 0, caption_colour = 0;
   toolkit::Bounds place, caption_place;
 
   friend bool operator==(const Box&, const Box&) = default;
@@ -22,7 +23,8 @@ struct Box {
 struct Snapshot {
   std::array<Box, presentation::box_count> boxes;
   std::array<std::string, presentation::days_of_week> headers;
-  double width = 0, height = 0;  // of the window, in twips
+  std::string title;
+  double left = 0, top = 0, width = 0, height = 0;  // of the window, in twips
 };
 
 /// A label of the calendar window; `window` must be Main_Frm.
@@ -31,9 +33,9 @@ toolkit::Label& Label_Of(const toolkit::Form& window, const std::string& name, i
 /// The window must be there.
 Snapshot Snapshot_Of(const play::World& world);
 
-/// The same of a program that starts now, in a world of its own with the same files, settings, locale, screen and work
-/// area, and with the month on view as the present one. Nothing if it doesn't come through its start, or has something to
-/// complain about.
+/// The same of a program that starts now, in a world of its own with the same files, settings, locale, screen, work area
+/// and width of letters, and with the month on view as the present one. Nothing if it doesn't come through its start, or
+/// has something to complain about.
 std::optional<Snapshot> Fresh_Snapshot(play::World& world);
 
 }  // namespace monkey

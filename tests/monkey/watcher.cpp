@@ -4,12 +4,14 @@
 #include <utility>
 
 #include "text_form.h"
+#include "toolkit/tab_strip.h"
 
 namespace monkey {
 
 namespace {
 
 constexpr std::string_view error_line = "ended: error ";
+constexpr std::size_t tab_count = 8;
 
 }  // namespace
 
@@ -55,6 +57,7 @@ Brought_Up Watcher::After(bool nested) {
   world_.Platform.Wallpaper.Take_Settings();
   world_.Platform.Shell_Open.Take_Launched();
   Count_Windows();
+  Count_Tab();
   return brought;
 }
 
@@ -67,13 +70,37 @@ void Watcher::Count_Windows() {
   seen_ = std::move(now);
 }
 
+void Watcher::Count_Tab() {
+  const std::string before = std::exchange(tab_, "");
+  const toolkit::Form* const window = world_.Find_Window("Settings_Frm");
+  if (window == nullptr) return;
+  for (const toolkit::Control* const control : window->Controls())
+    if (const auto* const strip = dynamic_cast<const toolkit::Tab_Strip*>(control))
+      tab_ = strip->Captions.at(static_cast<std::size_t>(strip->Selected - 1));
+  if (tab_ != before) ++tabs_[tab_];
+}
+
 std::string Watcher::Told() const {
   std::string told = "windows opened:";
   for (const auto& [name, count] : windows_) told += " " + name + " " + std::to_string(count);
+  told += "\ntabs shown:";
+  for (const auto& [name, count] : tabs_) told += " " + name + " " + std::to_string(count);
   told += "\nmessage boxes answered: " + std::to_string(boxes_) + ", menus: " + std::to_string(menus_) +
           ", file dialogs: " + std::to_string(dialogs_) + ", with a file: " + std::to_string(files_) +
           "\ngestures refused: " + std::to_string(refused_) + "\nstarts: " + std::to_string(starts_) + "\n";
   return told;
+}
+
+std::string Watcher::Missed() const {
+  std::string missed;
+  for (const char* const name : {"Main_Frm", "Splash_Frm", "Edit_Frm", "Settings_Frm", "frmBalloon"})
+    if (!windows_.contains(name)) missed += std::string(" ") + name;
+  if (tabs_.size() < tab_count) missed += " some tab";
+  if (boxes_ == 0) missed += " message boxes";
+  if (menus_ == 0) missed += " menus";
+  if (files_ == 0) missed += " file dialogs with a file";
+  if (starts_ < 2) missed += " starts anew";
+  return missed;
 }
 
 }  // namespace monkey

@@ -41,8 +41,12 @@ class Watcher {
   /// What there was in all, as lines for the reader of the log.
   [[nodiscard]] std::string Told() const;
 
+  /// The windows, tabs and other things that never came up, each with a blank before it.
+  [[nodiscard]] std::string Missed() const;
+
  private:
   void Count_Windows();
+  void Count_Tab();
 
   play::World& world_;
   std::optional<int> error_;
@@ -51,6 +55,8 @@ class Watcher {
   std::int64_t elapsed_before_ = 0;
   std::set<platform::Window_Handle> seen_;
   std::map<std::string, int> windows_;
+  std::string tab_;  // that the settings window shows
+  std::map<std::string, int> tabs_;
   int starts_ = 0, boxes_ = 0, dialogs_ = 0, files_ = 0, menus_ = 0, refused_ = 0;
 };
 

@@ -20,6 +20,7 @@ FLOORS = [
 BACKENDS = ["win32", "memory"]
 LEVEL = {folder: level for level, floor in enumerate(FLOORS) for folder in floor}
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+ANGLED = re.compile(r"^\s*#\s*include\s*<([^>]+)>", re.MULTILINE)
 
 
 def folder_of(path):
@@ -69,7 +70,11 @@ def main(root):
         if user not in LEVEL:
             complaints.append(f"{name}: the folder stands on no floor")
             continue
-        graph[name] = INCLUDE.findall(path.read_text(encoding="latin-1"))
+        text = path.read_text(encoding="latin-1")
+        for included in ANGLED.findall(text):
+            if (root / included).is_file():
+                complaints.append(f"{name}: <{included}> is a file of the house, which stands in quotes")
+        graph[name] = INCLUDE.findall(text)
         for included in graph[name]:
             if not (root / included).is_file():
                 complaints.append(f'{name}: "{included}" isn\'t a path from {root.name}/')

@@ -7,7 +7,8 @@ OPERATORS = {" == ": " != ", " != ": " == ", " < ": " <= ", " <= ": " < ", " > "
              "(!": "(", "true": "false", "false": "true"}
 TOKEN = re.compile("|".join(r"\b%s\b" % word if word.isalpha() else re.escape(word) for word in OPERATORS)
                    + r"|(?<![\w.'\"])\d+(?![\w.'])")
-DROPPED_CALL = re.compile(r"^ +(?!return\b|throw\b|if\b|for\b|while\b|switch\b|else\b|delete\b|using\b|static_assert)[\w.:>\-\[\]]+\(.*\);$")
+CALL = re.compile(r" *(?!return\b|throw\b|if\b|for\b|while\b|switch\b|else\b|delete\b|using\b|static_assert)[\w.:>\-\[\]]+\(.*\);$")
+CONDITION = re.compile(r" *(?:else )?(?:if|for|while) (?=\()| *else(?= )")
 LITERAL = re.compile(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])+\'')
 NOT_CODE = re.compile(r"^\s*(//|#|template|using|case .*:$|static_assert|friend|struct|class|enum)")
 
@@ -29,6 +30,19 @@ def blanked(line):
     return line if at < 0 else line[:at] + "\x00" * (len(line) - at)
 
 
+def behind_condition(code):
+    """Where the statement of a line begins, behind the condition, the head of a loop or the else that it stands with."""
+    head = CONDITION.match(code)
+    if not head:
+        return 0
+    depth = 0
+    for at in range(head.end(), len(code)):
+        depth += {"(": 1, ")": -1}.get(code[at], 0)
+        if depth == 0:
+            return at + 1
+    return 0  # goes on in the next line
+
+
 def faults_in(path, text):
     """All single faults of a file."""
     found = []
@@ -40,8 +54,9 @@ def faults_in(path, text):
             old = token[0]
             new = OPERATORS.get(old) or str(int(old) + 1)
             found.append(Fault(path, number, line, line[:token.start()] + new + line[token.end():]))
-        if DROPPED_CALL.match(code.replace("\x00", "_")):
-            found.append(Fault(path, number, line, ""))
+        start = behind_condition(code)
+        if line.startswith(" ") and CALL.match(code.replace("\x00", "_"), start):
+            found.append(Fault(path, number, line, line[:start] + " {}" if start else ""))
     return found
 
 
