@@ -4,7 +4,7 @@ set -euo pipefail
 headers='windows|windowsx|windef|winbase|wingdi|winuser|winreg|winnls|winternl|commctrl|commdlg|dlgs|shellapi|shlobj|shlwapi'
 headers+='|ole2|olectl|oleauto|objbase|ocidl|oleacc|tlhelp32|mmsystem|gdiplus|richedit'
 at_home='^(src/win32/|src/main/main_win32[.]cpp|tools/desktop/|tests/win32/|tests/contract/service_world_win32[.]cpp|tests/desktop/'
-at_home+='|bench/(floors|floor_window|gdi_count|[a-z_]+_windows)[.]cpp)'
+at_home+='|bench/(floors|floor_window|object_count|[a-z_]+_windows)[.]cpp|bench/stopwatch[.]h)'
 status=0
 all=$(grep -rniE '#[[:space:]]*include[[:space:]]*[<"]('"$headers"')\.h[>"]|#[[:space:]]*(el)?if.*_WIN(32|64)|__MINGW' \
   --include='*.h' --include='*.cpp' src tools tests bench fuzz) || status=$?
