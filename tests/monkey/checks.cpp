@@ -238,11 +238,17 @@ const std::optional<Snapshot>& Checks::Fresh() {
 
 bool Checks::Packs_Are_On() const { return world_.Platform.Store.Get("Meridex", "Settings", "Use Themes", "0") != "0"; }
 
+/// Whether style or position is the pack's; a setting of 2 turns packs on, but lets them rule nothing.
+bool Checks::Pack_Rules(const char* key) const {
+  auto& store = world_.Platform.Store;
+  return store.Get("Meridex", "Settings", "Use Themes", "0") == "1" &&
+         store.Get("Meridex", "Settings", key, "1") == "1";
+}
+
 bool Checks::Style_Is_Known() const {
-  const bool by_pack =
-      Packs_Are_On() && world_.Platform.Store.Get("Meridex", "Settings", "Use Theme Style", "1") == "1";
-  const int style = by_pack ? world_.State()->Pack_Box_Style.Value()
-                            : basic::To_Int32(world_.Platform.Store.Get("Meridex", "Settings", "Style", "1"));
+  const int style = Pack_Rules("Use Theme Style")
+                        ? world_.State()->Pack_Box_Style.Value()
+                        : basic::To_Int32(world_.Platform.Store.Get("Meridex", "Settings", "Style", "1"));
   return style >= presentation::thin_box && style <= presentation::small_box;
 }
 
@@ -267,9 +273,9 @@ void Checks::Check_Title(const std::string& seen, const std::string& fresh, bool
 
 /// Any other number places nothing: the window stays where it was.
 bool Checks::Position_Is_Known() const {
-  const bool by_pack = Packs_Are_On() && world_.Platform.Store.Get("Meridex", "Settings", "Use Theme Pos", "1") == "1";
-  const int position = by_pack ? world_.State()->Pack_Pos.Value()
-                               : basic::To_Int32(world_.Platform.Store.Get("Meridex", "Settings", "Alignment", "0"));
+  const int position = Pack_Rules("Use Theme Pos")
+                           ? world_.State()->Pack_Pos.Value()
+                           : basic::To_Int32(world_.Platform.Store.Get("Meridex", "Settings", "Alignment", "0"));
   return position >= 0 && position <= 9;
 }
 

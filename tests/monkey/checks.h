@@ -73,6 +73,7 @@ class Checks {
   void Check_Window() const;
   void Check_Editor() const;
   [[nodiscard]] bool Packs_Are_On() const;
+  [[nodiscard]] bool Pack_Rules(const char* key) const;
   [[nodiscard]] bool Style_Is_Known() const;
   [[nodiscard]] bool Position_Is_Known() const;
   void Check_Title(const std::string& seen, const std::string& fresh, bool present_month) const;
