@@ -52,8 +52,6 @@ void Posix_Files::Check_Writing(const std::string&) { throw Run_Error(Error_Numb
 
 void Posix_Files::Allow_Writing(const std::string&) {}
 
-void Posix_Files::Bring_To_Disk(const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
-
 bool Posix_Files::Move_Over(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }
 
 void Posix_Files::Rename(const std::string&, const std::string&) { throw Run_Error(Error_Number::Path_File_Access); }

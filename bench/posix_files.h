@@ -20,7 +20,6 @@ class Posix_Files final : public platform::Files {
   std::vector<std::string> Folder_Names(const std::string& folder) override;
   void Check_Writing(const std::string& path) override;
   void Allow_Writing(const std::string& path) override;
-  void Bring_To_Disk(const std::string& path) override;
   bool Move_Over(const std::string& from, const std::string& to) override;
   void Rename(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
