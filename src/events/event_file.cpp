@@ -19,19 +19,14 @@ Event_File::Event_File(platform::Files& files, basic::File_Channel& channel, pla
       path_(files.Program_Folder() + "\\calendar.dat") {}
 
 void Event_File::Recover() {
-  // Without the consent too, before a new file is made in its place.
-  recovered_ = desktop_.Modern() ? files_.Recover(path_) : files_.Put_Back(path_);
-}
-
-void Event_File::Refuse_If_Left() {
-  if (recovered_) return;
-  Recover();
-  throw basic::Run_Error(basic::Error_Number::Path_File_Access);
+  if (desktop_.Modern()) files_.Recover(path_);
+  else files_.Put_Back(path_);  // before a new file is made in its place
 }
 
 void Event_File::Refuse_If_Unread() {
-  Refuse_If_Left();
-  if (desktop_.Modern() && !loaded_) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
+  files_.Refuse_If_Left(path_);
+  const bool unread = loaded_ == Loaded::Not_All || (loaded_ == Loaded::No_File && Exists());
+  if (desktop_.Modern() && unread) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
 }
 
 void Event_File::Open_For_Writing() {
@@ -40,15 +35,15 @@ void Event_File::Open_For_Writing() {
 }
 
 void Event_File::Load_File() {
-  loaded_ = !Exists();
-  if (loaded_) return;
+  loaded_ = Exists() ? Loaded::Not_All : Loaded::No_File;
+  if (loaded_ == Loaded::No_File) return;
   try {
     temp_lst_.Clear();
     basic::Record_Reader reader(channel_.Open_For_Reading(path_));
     std::string_view record;
     while (reader.Next(record)) temp_lst_.Append(record);
     channel_.Close();
-    loaded_ = true;
+    loaded_ = Loaded::All;
   } catch (const basic::Run_Error&) {
     Report_Failure(loading_failed);
   }

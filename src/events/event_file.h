@@ -33,11 +33,11 @@ class Event_File {
   /// Called once, at the start, before the file is looked for: ends a save that a power cut has left half done.
   void Recover();
 
-  /// Throws error 75 if that has failed, and tries it again.
-  void Refuse_If_Left();
+  /// The same before an import. Returns false if the file can't get its name back.
+  bool Put_Back() { return files_.Put_Back(path_); }
 
-  /// The same; with the consent also if the last Load_File has failed. What would be written then has nothing of the
-  /// events that weren't read.
+  /// Throws error 75 if what would be written has nothing of events that weren't read: a power cut has left them under
+  /// another name or, with the consent, the last Load_File has failed or has seen no file where one is.
   void Refuse_If_Unread();
 
   /// How the file is to be written, also by an import.
@@ -89,7 +89,7 @@ class Event_File {
   const settings::Desktop_Mode& desktop_;
   const std::string path_;
   Temp_List temp_lst_;
-  bool recovered_ = true, loaded_ = true;
+  enum class Loaded { All, Not_All, No_File } loaded_ = Loaded::All;  // by the last Load_File
 };
 
 }  // namespace events

@@ -12,6 +12,7 @@ namespace {
 constexpr const char* csv_filter = "Comma Separated Values File (*.csv)|*.csv";
 constexpr File_Kind csv_out = {"Export Events as CSV File", csv_filter, ".csv"};
 constexpr File_Kind csv_in = {"Import Events from CSV File", csv_filter};
+constexpr const char* import_failed = "Error when importing from CSV file.";
 
 /// The day and the text of an entry that the import has put into its list.
 struct Staged_Entry {
@@ -64,15 +65,17 @@ void Csv::Write_Rows() {
 }
 
 void Csv::Import_CSV() {
-  bool backed_up = false;
+  backed_up_ = merged_ = false;
+  // Without its file nothing may be put in its place, not even the backup.
+  if (!event_file_.Put_Back()) return transfer_.Warn(import_failed);
   try {
-    backed_up = Backup_Data();
+    Backup_Data();
     if (!transfer_.Choose_Input(csv_in)) return;
     if (Import_Chosen_File()) return;
   } catch (const basic::Run_Error&) {
     // What went wrong isn't told.
   }
-  Undo_Import(backed_up);
+  Undo_Import();
 }
 
 bool Csv::Import_Chosen_File() {
@@ -116,19 +119,17 @@ void Csv::Read_CSV_Record(std::string_view line) {
 
 std::string Csv::Backup_Path() const { return transfer_.Files.Program_Folder() + "\\data.bak"; }
 
-/// Returns false if there is nothing to back up.
-bool Csv::Backup_Data() {
-  event_file_.Refuse_If_Left();
-  if (!event_file_.Exists()) return false;
+void Csv::Backup_Data() {
+  if (!event_file_.Exists()) return;
   transfer_.Copy(event_file_.Path(), Backup_Path());
-  return true;
+  backed_up_ = true;
 }
 
-/// With the consent a failed import has changed nothing that an older backup would mend.
-void Csv::Restore_Data(bool backed_up) {
+/// With the consent nothing has changed before all was merged, and an older backup has no place.
+void Csv::Restore_Data() {
   const std::string backup = Backup_Path();
   if (event_file_.Saving() == basic::Saving::Beside) {
-    if (backed_up) transfer_.Files.Replace(backup, event_file_.Path());
+    if (merged_ && backed_up_) transfer_.Files.Replace(backup, event_file_.Path());
     return;
   }
   if (!transfer_.Files.File_Exists(backup)) return;
@@ -149,14 +150,15 @@ void Csv::Merge_Imported() {
     lines.Merge(events::Date_Key(day.Day, day.Month, day.Year), entry.Text);
   }
   lines.Close();
+  merged_ = true;
 }
 
 /// What fails here fails the program: there is nothing left to go back to.
-void Csv::Undo_Import(bool backed_up) {
+void Csv::Undo_Import() {
   transfer_.Channel.Give_Up();
-  Restore_Data(backed_up);
+  Restore_Data();
   transfer_.Window.MousePointer = toolkit::Pointer::Default;
-  transfer_.Warn("Error when importing from CSV file.");
+  transfer_.Warn(import_failed);
 }
 
 }  // namespace exchange

@@ -26,10 +26,10 @@ class Csv {
   bool Read_CSV_Headings(std::string_view line);
   void Read_CSV_Record(std::string_view line);
 
-  [[nodiscard]] bool Backup_Data();
-  void Restore_Data(bool backed_up);
+  void Backup_Data();
+  void Restore_Data();
   void Merge_Imported();
-  void Undo_Import(bool backed_up);
+  void Undo_Import();
 
   [[nodiscard]] std::string Backup_Path() const;
 
@@ -39,6 +39,7 @@ class Csv {
   calendar::Desk& desk_;
   const calendar::Dates& dates_;
   Csv_Columns& columns_;
+  bool backed_up_ = false, merged_ = false;  // by the present import
 };
 
 }  // namespace exchange

@@ -71,7 +71,7 @@ void Data_Files::Import_Data() {
 }
 
 void Data_Files::Replace_Data() {
-  event_file_.Refuse_If_Left();
+  if (!event_file_.Put_Back()) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
   transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path(), event_file_.Saving());
 }
 

@@ -39,14 +39,6 @@ bool Is_Left(Files& files, const std::string& path) {
   return !files.File_Exists(path) && files.File_Exists(Old_Name(path));
 }
 
-/// What belongs at the path but has another name can't have been read: what would take its place has nothing of what it
-/// holds. It gets its name back, and is there for the next reading.
-void Refuse_If_Left(Files& files, const std::string& path) {
-  if (!Is_Left(files, path)) return;
-  files.Put_Back(path);
-  throw basic::Run_Error(basic::Error_Number::Path_File_Access);
-}
-
 /// Runs `work`. Returns false, with nothing changed, if that fails for a file that another program holds.
 template <class Work>
 bool Unless_Held(Work&& work) {
@@ -179,18 +171,18 @@ class Replacement final : public basic::Output_File {
 std::string Files::Name_Beside(const std::string& path) { return path + ".~new"; }
 
 std::unique_ptr<basic::Output_File> Files::Create_Beside(const std::string& path) {
-  Refuse_If_Left(*this, path);
+  Refuse_If_Left(path);
   Check_Writing(path);
   return std::make_unique<Replacement>(*this, path);
 }
 
 void Files::Replace(const std::string& from, const std::string& to) {
-  Refuse_If_Left(*this, to);
+  Refuse_If_Left(to);
   Replace_By(*this, from, to);
 }
 
 void Files::Copy_Over(const std::string& from, const std::string& to) {
-  Refuse_If_Left(*this, to);
+  Refuse_If_Left(to);
   Check_Writing(to);
   const std::string beside = Name_Beside(to);
   Or_Nothing_New(*this, to, [&] {
@@ -198,6 +190,12 @@ void Files::Copy_Over(const std::string& from, const std::string& to) {
     Copy(from, beside);
     Replace_By(*this, beside, to);
   });
+}
+
+void Files::Refuse_If_Left(const std::string& path) {
+  if (!Is_Left(*this, path)) return;
+  Put_Back(path);
+  throw basic::Run_Error(basic::Error_Number::Path_File_Access);
 }
 
 bool Files::Put_Back(const std::string& path) {
@@ -211,11 +209,10 @@ bool Files::Put_Back(const std::string& path) {
   }
 }
 
-bool Files::Recover(const std::string& path) {
-  if (!Put_Back(path)) return false;
+void Files::Recover(const std::string& path) {
+  if (!Put_Back(path)) return;
   Delete_If_There(*this, Old_Name(path));
   Delete_If_There(*this, Name_Beside(path));
-  return true;
 }
 
 }  // namespace platform

@@ -55,7 +55,7 @@ class Files : public basic::Disk {
 
   // Whenever the power goes in one of these, or while a file created beside is finished, the old or the new file is
   // there whole after Recover, also where another program lets the old one be written, but neither deleted nor renamed.
-  // They throw error 75 where a file has only another name, which they then try to give it.
+  // They begin with Refuse_If_Left.
 
   /// Puts a file, be it read-only, into the place of another or of none. Takes no room on the disk. Throws as Move_Over.
   void Replace(const std::string& from, const std::string& to);
@@ -63,12 +63,16 @@ class Files : public basic::Disk {
   /// The same as Copy, by a new file that takes the place of `to`. A second spelling of a path isn't known as such.
   void Copy_Over(const std::string& from, const std::string& to);
 
+  /// Throws error 75 if what belongs at the path has another name: it can't have been read, so what would take its place
+  /// has nothing of what it holds. Tries Put_Back first, so that it is there for the next reading.
+  void Refuse_If_Left(const std::string& path);
+
   /// Ends a replacement where a power cut has left the file without its name, or a new one that is whole. Returns false
   /// after a failure.
   bool Put_Back(const std::string& path);
 
   /// The same, and takes away what is left of a replacement. Called before the first look for the file.
-  bool Recover(const std::string& path);
+  void Recover(const std::string& path);
 
   /// The local time of a file's last change. Throws error 53 if it isn't there.
   virtual basic::Moment Last_Change(const std::string& path) = 0;

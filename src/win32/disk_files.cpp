@@ -218,7 +218,7 @@ void Disk_Files::Rename(const std::string& from, const std::string& to) {
 }
 
 void Disk_Files::Delete(const std::string& path) {
-  if (DeleteFileA(path.c_str()) == 0) Throw_File_Error();
+  if (!Patiently([&] { return DeleteFileA(path.c_str()) != 0; })) Throw_File_Error();
 }
 
 void Disk_Files::Copy(const std::string& from, const std::string& to) {

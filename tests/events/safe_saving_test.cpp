@@ -354,6 +354,16 @@ TEST_F(Safe_Saving, What_was_not_read_is_not_written_over) {
   EXPECT_EQ(Content(), New_Content());
 }
 
+TEST_F(Safe_Saving, A_file_that_a_reading_did_not_find_is_not_written_over) {
+  All_Files().clear();
+  Calendar.Selected_Date = "8/3/2004";
+  File.Load_File();
+  Put({"9/3/2004=Choir"});
+  File.Check_For_Pre("Tea", Editor);
+  EXPECT_EQ(Messages(), Lines{saving_failed});
+  EXPECT_EQ(Content(), Record("9/3/2004=Choir"));
+}
+
 TEST_F(Safe_Saving, Without_the_consent_too_nothing_is_saved_until_the_events_have_their_name_again) {
   for (const char* const left : {".~bak", ".~whole"}) {
     Event_File_World world;
