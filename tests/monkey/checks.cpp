@@ -5,7 +5,6 @@
 #include "event_records.h"
 #include "events/event_line.h"
 #include "failed.h"
-#include "presentation/box_style.h"
 #include "text_form.h"
 #include "toolkit/text_box.h"
 
