@@ -72,4 +72,5 @@ def month_print(programs, data, rounds):
     fastest = min(milliseconds, key=milliseconds.get)
     floor = milliseconds.pop(fastest)
     events = (data / "events.gcal").read_bytes().count(b"\n")
-    return [Figure(f"Month printed of {events:,} events by the calendar's reader, whole process", own, "ms", 1, floor, fastest, milliseconds)]
+    return [Figure(f"Month printed of {events:,} events by the calendar's reader, whole process", own, "ms", 1, floor, fastest,
+                   milliseconds)]

@@ -2,6 +2,7 @@
 """Ten month changes a second under Wine, and what of objects and memory they gather; see scripts/soak.sh."""
 import argparse
 import contextlib
+import math
 import pathlib
 import statistics
 import subprocess
@@ -49,6 +50,8 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("minutes", type=float, nargs="?", default=30)
     seconds = parser.parse_args().minutes * 60
+    if not 0 < seconds < math.inf:
+        parser.error("MINUTES must be a number above 0")
     with tempfile.TemporaryDirectory() as folder:
         subprocess.run([sys.executable, "-B", ROOT / "bench/make_events.py", "32767", folder], check=True, timeout=120)
         events = pathlib.Path(folder, "calendar.dat").read_bytes()

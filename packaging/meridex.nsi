@@ -7,7 +7,9 @@
 ;
 ; /S installs in silence, /D=FOLDER (last, without quotes) into that folder, /MODERN=1 with the mode for today's desktops,
 ; /MODERN=0 without it; an upgrade leaves the mode as it is unless told. The uninstaller keeps calendar.dat and the settings; in
-; silence too, unless it is given /FORGET=1. Where the program can't be closed both end with status 2, and nothing has changed.
+; silence too, unless it is given /FORGET=1. Where the program can't be closed or its file can't be written, nothing has changed
+; and both end with status 2. The uninstaller works in a copy of itself and its own process ends with 0 at once; it is the one
+; that works, and that ends with the status, when it is given _?=FOLDER, its own folder, last and without quotes.
 
 !if ${ARCHITECTURE} == x64
   Target amd64-unicode
@@ -82,9 +84,10 @@ VIAddVersionKey "LegalCopyright" ""
       ${ExitDo}
     ${EndIf}
     ${If} $R1 == 0
-      MessageBox MB_OK|MB_ICONSTOP "The calendar is still open. Please close it and its messages, then try again." /SD IDOK
+      MessageBox MB_OK|MB_ICONSTOP \
+        "The calendar is still open, or its file can't be written. Please close it and its messages, then try again." /SD IDOK
       SetErrorLevel 2
-      Abort "The calendar is still open."
+      Abort "The calendar is still open, or its file can't be written."
     ${EndIf}
     Sleep 100
     IntOp $R1 $R1 - 1

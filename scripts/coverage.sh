@@ -18,7 +18,8 @@ status=0
 quietly ctest --test-dir build/coverage -L 'unit|scenarios' -j "$(nproc)" --no-tests=error --output-on-failure || status=1
 mkdir -p build/coverage/pages
 # The plain search for a byte is compiled once more, as a function of the same name at another line: gcovr knows only one.
-gcovr --root . --object-directory build/coverage --exclude-directories '.*/find_byte_plain_test\.dir' --filter 'src/' --exclude 'src/win32/' --exclude 'src/memory/' --exclude 'src/main/main_win32' \
+gcovr --root . --object-directory build/coverage --exclude-directories '.*/find_byte_plain_test\.dir' \
+  --filter 'src/' --exclude 'src/win32/' --exclude 'src/memory/' --exclude 'src/main/main_win32' \
   --exclude-throw-branches --exclude-unreachable-branches -j "$(nproc)" --html-details build/coverage/pages/index.html \
   --json-summary build/coverage/summary.json >/dev/null
 python3 - build/coverage/summary.json <<'END' || status=1

@@ -10,12 +10,10 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/lib/build.sh"
 
 seconds=${1:-300}
-case $seconds in
-  '' | *[!0-9]*)
-    echo "scripts/fuzz.sh [SECONDS]" >&2
-    exit 2
-    ;;
-esac
+if ! [[ $seconds =~ ^[0-9]*[1-9][0-9]*$ ]]; then # 0 is without end to the targets
+  echo "scripts/fuzz.sh [SECONDS]" >&2
+  exit 2
+fi
 
 cd "$root"
 need_packages build lint
@@ -30,7 +28,7 @@ fi
 status=0
 for name in "${targets[@]}"; do
   corpus=fuzz/corpus/$name
-  if [ ! -d "$corpus" ] || [ ! -f "fuzz/dictionaries/$name.txt" ]; then
+  if [ -z "$(find "$corpus" -type f -print -quit 2>/dev/null)" ] || [ ! -f "fuzz/dictionaries/$name.txt" ]; then
     echo "$name: no seeds or no dictionary"
     status=1
     continue

@@ -6,9 +6,9 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/lib/packages.sh"
 . "$root/scripts/lib/build.sh"
 cd "$root"
-need_packages build lint bench
+need_packages build lint
 # The compiler that lints can't read the other's precompiled headers.
-quietly cmake --preset native -B build/lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DMERIDEX_BENCHMARKS=ON
+quietly cmake --preset native -B build/lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON
 if [ $# -eq 0 ]; then
   mapfile -t files < <(sed -n 's/^ *"file": "\(.*\)".*/\1/p' build/lint/compile_commands.json |
     root=$root/ awk 'index($0, ENVIRON["root"]) == 1' | sort -u)

@@ -3,10 +3,11 @@
 #
 #   meridex-RELEASE-x64.zip, meridex-RELEASE-x86.zip               to unpack anywhere and start
 #   meridex-RELEASE-x64-setup.exe, meridex-RELEASE-x86-setup.exe   to install, for one user
+#   SHA256SUMS                                                     of these four; printed too
 #
 # FOLDER is build/packages unless told, RELEASE the tree's own. What git knows of guide and packs is packed, nothing else that
-# lies there. The same programs give the same bytes, wherever and whenever they are packed. --no-build takes the programs as they
-# were built last.
+# lies there. The same programs give the same bytes, wherever and whenever they are packed, with the same Debian's tools.
+# --no-build takes the programs as they were built last.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/lib/packages.sh"
@@ -84,4 +85,4 @@ pack() { # ARCHITECTURE
 for architecture in x64 x86; do
   pack $architecture
 done
-(cd "$packages" && sha256sum meridex-"$release"-*)
+(cd "$packages" && find meridex-"$release"-* | LC_ALL=C sort | xargs sha256sum | tee SHA256SUMS)

@@ -44,17 +44,18 @@ build windows-x86 meridex tests/desktop/all tools/desktop/all
 
 # Two commands that the tests take for Wine's own: they start it in that Debian, where the folders of this one lie too.
 wine32=$root/build/wine32
+clock=/usr/lib/meridex-clock.so  # in there: LD_PRELOAD splits at blanks, which the tree's path may have
 mkdir -p "$wine32"
 put_command() { # NAME PROGRAM
   cat >"$wine32/$1" <<END
 #!/bin/sh
-clock=\${LD_PRELOAD:+$wine32/clock.so}
+clock=\${LD_PRELOAD:+$clock}
 unset LD_PRELOAD
 exec chroot "$debian" /usr/bin/env \${clock:+LD_PRELOAD="\$clock"} WINEARCH=win32 "$2" "\$@"
 END
   chmod +x "$wine32/$1"
 }
-gcc -m32 -O2 -fPIC -shared -nostdlib -o "$wine32/clock.so" tools/clock/clock.c ||
+gcc -m32 -O2 -fPIC -shared -nostdlib -o "$debian$clock" tools/clock/clock.c ||
   cant "the 32-bit clock can't be built"
 put_command wine /usr/lib/wine/wine
 put_command wineserver /usr/lib/wine/wineserver32

@@ -7,7 +7,9 @@
 
 # shellcheck disable=SC2034  # read by name
 packages_build=(cmake ninja-build g++ python3 googletest libgtest-dev binutils-mingw-w64-x86-64 binutils-mingw-w64-i686
-  g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-win32 mingw-w64-x86-64-dev mingw-w64-i686-dev)
+  g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-win32 mingw-w64-x86-64-dev mingw-w64-i686-dev
+  # the native benchmarks, which are part of the native build
+  libbenchmark-dev libx11-dev libxdamage-dev libxtst-dev)
 # shellcheck disable=SC2034
 packages_wine=(wine64 wine fonts-wine fonts-liberation xvfb xdotool imagemagick x11-utils x11-xkb-utils libfaketime locales python3
   binutils util-linux procps)
@@ -25,7 +27,7 @@ packages_coverage=(gcovr)
 # shellcheck disable=SC2034
 packages_valgrind=(valgrind)
 # shellcheck disable=SC2034
-packages_bench=(libbenchmark-dev libx11-dev libxdamage-dev libxtst-dev libjpeg-turbo-progs
+packages_bench=(libjpeg-turbo-progs
   # the calendars that the month printed stands beside
   gcal remind calcurse when)
 

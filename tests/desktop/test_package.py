@@ -34,9 +34,11 @@ class Package(Desktop_Test):
     def copied_tree(self):
         """The part of the tree of which packages are made, somewhere else and without its history."""
         tree = self.packages / "tree"
-        for name in "scripts", "packaging", "resources", "guide", "packs":
-            shutil.copytree(ROOT / name, tree / name)
-        shutil.copy2(ROOT / "CMakeLists.txt", tree)
+        known = subprocess.run(["git", "-c", "safe.directory=*", "ls-files", "-z", "scripts", "packaging", "resources", "guide",
+                                "packs", "CMakeLists.txt"], cwd=ROOT, check=True, timeout=30, capture_output=True)
+        for name in known.stdout.decode().split("\0")[:-1]:
+            (tree / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(ROOT / name, tree / name)
         (tree / "build").symlink_to(ROOT / "build")
         return tree
 
@@ -192,7 +194,12 @@ class Package(Desktop_Test):
     def test_another_folder_can_be_chosen(self):
         desktop = self.desktop()
         self.run_in_silence(desktop, self.installer("0.42"), "/S", "/D=C:\\Calendar")
-        self.assertIn(PROGRAM, self.names(desktop.prefix.drive / "Calendar"))
+        folder = desktop.prefix.drive / "Calendar"
+        self.assertIn(PROGRAM, self.names(folder))
+        (folder / PROGRAM).unlink()
+        self.run_in_silence(desktop, self.installer("0.43"), "/S")
+        self.assertIn(PROGRAM, self.names(folder))
+        self.assertIsNone(self.installed(desktop))
 
     def test_the_packages_are_the_same_bytes_wherever_they_are_packed(self):
         tree = self.copied_tree()
@@ -200,7 +207,9 @@ class Package(Desktop_Test):
             subprocess.run(["git", *command], cwd=tree, check=True, timeout=30)
         (tree / "guide/draft.html").write_bytes(b"not of the packages")
         one, other = self.package("0.42"), self.package("0.42", "again", tree)
-        self.assertEqual(len(self.names(one)), 4)
+        self.assertEqual(len(self.names(one)), 5)
+        subprocess.run(["sha256sum", "--check", "--strict", "--quiet", "SHA256SUMS"], cwd=one, check=True, timeout=30)
+        self.assertEqual(len((one / "SHA256SUMS").read_text(encoding="ascii").splitlines()), 4)
         for name in self.names(one):
             self.assertEqual((one / name).read_bytes(), (other / name).read_bytes(), name)
 

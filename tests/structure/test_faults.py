@@ -8,7 +8,7 @@ import unittest
 sys.path.insert(0, "tools/faults")
 from plant import Fault, faults_in, planted  # noqa: E402
 from run import Tally  # noqa: E402
-from tree_copy import TIMED_OUT, bring_up_to_date, run_alone  # noqa: E402
+from tree_copy import COMPILERS_WORD, TIMED_OUT, bring_up_to_date, run_alone  # noqa: E402
 
 A_FAULT = Fault("src/basic/text.cpp", 1, "a", "b")
 
@@ -41,6 +41,16 @@ class Planting(unittest.TestCase):
     def test_one_line_changes(self):
         fault = faults_in("x.cpp", "a;\n  return true;\nb;\n")[0]
         self.assertEqual(planted("a;\n  return true;\nb;\n", fault), "a;\n  return false;\nb;\n")
+
+
+class Compiling(unittest.TestCase):
+    def test_the_compilers_refusal_is_known_in_a_folder_with_a_blank_too(self):
+        for line in b"/tree/a.cpp:3:4: error: no", b"/my tree/a.cpp:3:4: fatal error: no":
+            self.assertTrue(COMPILERS_WORD.search(b"[1/2] Building\n" + line + b"\n"), line)
+
+    def test_what_else_ends_a_build_is_not_the_compilers_refusal(self):
+        for line in b"ninja: error: no space", b"/tree/a.cpp:3:4: warning: no", b"c++: fatal error: killed":
+            self.assertFalse(COMPILERS_WORD.search(line + b"\n"), line)
 
 
 class Counting(unittest.TestCase):

@@ -12,7 +12,7 @@ from plant import planted
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NOT_SOURCES = {"build", ".git"}  # at the root
 MEMORY = 3_000_000  # kB that a test may take: a fault that gathers without end ends itself
-COMPILERS_WORD = re.compile(rb"^[^\s:]+:\d+:\d+: (?:fatal )?error: ", re.MULTILINE)
+COMPILERS_WORD = re.compile(rb"^[^:\n]+:\d+:\d+: (?:fatal )?error: ", re.MULTILINE)
 TIMED_OUT = "timed out"
 
 
