@@ -29,8 +29,8 @@ class Output_File {
   /// Cuts the file to its first `size` bytes; a failure is silent.
   virtual void Cut(std::size_t size) = 0;
 
-  /// Called once, when all is written. A file that is to take another's place takes it now. Throws error 61, 70 or 75;
-  /// the other one stays as it was then.
+  /// Called once, when all is written. A file that is to take another's place takes it now. Throws error 53, 61, 70,
+  /// 75 or 76; the other one stays as it was then, or the new one is kept for the next start.
   virtual void Finish() {}
 };
 

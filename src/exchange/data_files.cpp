@@ -59,20 +59,16 @@ void Data_Files::Write_Text() {
 void Data_Files::Import_Data() {
   try {
     if (!transfer_.Choose_Input(data_in, event_file_.Path())) return;
+    if (!event_file_.Put_Back()) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
     const bool meant = !event_file_.Exists() || Replacing_Is_Meant();
     if (!transfer_.Window.Loaded()) return;
-    if (meant) Replace_Data();
+    if (meant) transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path(), event_file_.Saving());
     desk_.Rebuild_Boxes();
     // Said of a refusal too.
     transfer_.Tell_With_File("Successfully imported data file from...");
   } catch (const basic::Run_Error&) {
     transfer_.Warn("Error when importing data file.");
   }
-}
-
-void Data_Files::Replace_Data() {
-  if (!event_file_.Put_Back()) throw basic::Run_Error(basic::Error_Number::Path_File_Access);
-  transfer_.Copy(transfer_.Dialog1.FileName, event_file_.Path(), event_file_.Saving());
 }
 
 bool Data_Files::Replacing_Is_Meant() {

@@ -20,7 +20,6 @@ class Data_Files {
 
  private:
   void Write_Text();
-  void Replace_Data();
   bool Replacing_Is_Meant();
   [[nodiscard]] std::string Date_Of_File(const std::string& path) const;
 

@@ -37,7 +37,8 @@ class Transfer {
   /// Whether FileName lacks the extension.
   [[nodiscard]] bool Check_Extension(std::string_view extension) const;
 
-  /// As platform::Files::Copy, or Copy_Over for a file that is saved beside; the file that the file number is taken by can't be copied, nor copied over: error 70.
+  /// As platform::Files::Copy, or Copy_Over for a file that is saved beside. The file that the file number is taken by
+  /// can't be copied, nor copied over: error 70.
   void Copy(const std::string& from, const std::string& to, basic::Saving how = basic::Saving::In_Place);
 
   void Tell(const std::string& text);

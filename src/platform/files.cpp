@@ -9,7 +9,7 @@ namespace {
 /// The new file from the moment on when all of it is on the disk. Whatever else is there then, it belongs at the path.
 std::string Whole_Name(const std::string& path) { return path + ".~whole"; }
 
-/// Where the old file is for the moment between two renamings, on systems that can't replace it by one.
+/// Where the old file is for the moment between two renamings, where it can't be replaced by one.
 std::string Old_Name(const std::string& path) { return path + ".~bak"; }
 
 /// A copy of a file that may not be written is one of the same kind. What a power cut has left of it must go all the
@@ -203,7 +203,7 @@ bool Files::Put_Back(const std::string& path) {
     bool torn = false;
     if (File_Exists(Whole_Name(path))) Take_Place(*this, path, torn);
     else if (Is_Left(*this, path)) Rename(Old_Name(path), path);
-    return true;
+    return !Is_Left(*this, path);
   } catch (const basic::Run_Error&) {
     return false;  // the file is there under its other name, and the next start tries again
   }
@@ -211,7 +211,7 @@ bool Files::Put_Back(const std::string& path) {
 
 void Files::Recover(const std::string& path) {
   if (!Put_Back(path)) return;
-  Delete_If_There(*this, Old_Name(path));
+  if (File_Exists(path)) Delete_If_There(*this, Old_Name(path));
   Delete_If_There(*this, Name_Beside(path));
 }
 

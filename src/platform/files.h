@@ -57,7 +57,8 @@ class Files : public basic::Disk {
   // there whole after Recover, also where another program lets the old one be written, but neither deleted nor renamed.
   // They begin with Refuse_If_Left.
 
-  /// Puts a file, be it read-only, into the place of another or of none. Takes no room on the disk. Throws as Move_Over.
+  /// Puts a file, be it read-only, into the place of another or of none. Takes no room on the disk. Throws error 53, 61,
+  /// 70, 75 or 76.
   void Replace(const std::string& from, const std::string& to);
 
   /// The same as Copy, by a new file that takes the place of `to`. A second spelling of a path isn't known as such.
