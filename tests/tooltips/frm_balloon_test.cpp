@@ -125,6 +125,15 @@ TEST_F(Frm_Balloon_Test, Is_cut_one_pixel_larger_than_itself_with_round_corners)
   EXPECT_EQ(regions.back(), "round region 138 69 28");
 }
 
+TEST_F(Frm_Balloon_Test, Is_cut_anew_when_its_size_changes) {
+  Set("Outing");
+  Backend.Take();
+  Balloon.Window.Width = Balloon.Window.Width + 10 * 15;
+  Words regions = Backend.Take();
+  std::erase_if(regions, [](const std::string& told) { return !told.starts_with("round region"); });
+  EXPECT_EQ(regions, Words{"round region 148 69 28"});
+}
+
 TEST_F(Frm_Balloon_Test, Has_the_month_rebuilt_once_before_it_looks_for_its_place) {
   Calls.Rebuild_Month = [this] {
     Done += "month ";
