@@ -40,8 +40,6 @@ if(WIN32)
   if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
     # That compiler links no library of threads, on which the standard library of this variant stands.
     target_link_libraries(meridex_options INTERFACE stdc++ winpthread)
-    # The system's macros declare COM functions as nothrow and define them without it.
-    target_compile_options(meridex_options INTERFACE -Wno-missing-exception-spec)
   endif()
   if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_options(meridex_options INTERFACE -Wl,--high-entropy-va)

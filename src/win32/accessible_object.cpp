@@ -79,7 +79,7 @@ HRESULT Accessible_Object::Ask_Text(const VARIANT& number, BSTR* text, Choose ch
   });
 }
 
-STDMETHODIMP Accessible_Object::QueryInterface(REFIID id, void** object) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::QueryInterface(REFIID id, void** object) {
   if (object == nullptr) return E_POINTER;
   *object = nullptr;
   if (id == __uuidof(IUnknown) || id == __uuidof(IDispatch) || id == Accessibility::accessible_id)
@@ -90,15 +90,17 @@ STDMETHODIMP Accessible_Object::QueryInterface(REFIID id, void** object) {
   return S_OK;
 }
 
-STDMETHODIMP_(ULONG) Accessible_Object::AddRef() { return static_cast<ULONG>(InterlockedIncrement(&references_)); }
+DECLSPEC_NOTHROW STDMETHODIMP_(ULONG) Accessible_Object::AddRef() {
+  return static_cast<ULONG>(InterlockedIncrement(&references_));
+}
 
-STDMETHODIMP_(ULONG) Accessible_Object::Release() {
+DECLSPEC_NOTHROW STDMETHODIMP_(ULONG) Accessible_Object::Release() {
   const LONG left = InterlockedDecrement(&references_);
   if (left == 0) delete this;
   return static_cast<ULONG>(left);
 }
 
-STDMETHODIMP Accessible_Object::GetWindow(HWND* window) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::GetWindow(HWND* window) {
   if (window == nullptr) return E_INVALIDARG;
   return Ask(itself, [&](const Accessible_Window& asked, int) {
     *window = asked.Window();
@@ -106,7 +108,7 @@ STDMETHODIMP Accessible_Object::GetWindow(HWND* window) {
   });
 }
 
-STDMETHODIMP Accessible_Object::get_accParent(IDispatch** parent) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accParent(IDispatch** parent) {
   if (parent == nullptr) return E_INVALIDARG;
   *parent = nullptr;
   return Ask(itself, [&](const Accessible_Window& window, int) {
@@ -115,7 +117,7 @@ STDMETHODIMP Accessible_Object::get_accParent(IDispatch** parent) {
   });
 }
 
-STDMETHODIMP Accessible_Object::get_accChildCount(long* count) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accChildCount(long* count) {
   if (count == nullptr) return E_INVALIDARG;
   return Ask(itself, [&](const Accessible_Window& window, int) {
     *count = window.Count();
@@ -124,7 +126,7 @@ STDMETHODIMP Accessible_Object::get_accChildCount(long* count) {
 }
 
 /// Only what has a window of its own has an object of its own.
-STDMETHODIMP Accessible_Object::get_accChild(VARIANT number, IDispatch** child) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accChild(VARIANT number, IDispatch** child) {
   if (child == nullptr) return E_INVALIDARG;
   *child = nullptr;
   return Ask(number, [&](const Accessible_Window& window, int asked) {
@@ -133,25 +135,25 @@ STDMETHODIMP Accessible_Object::get_accChild(VARIANT number, IDispatch** child) 
   });
 }
 
-STDMETHODIMP Accessible_Object::get_accName(VARIANT number, BSTR* name) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accName(VARIANT number, BSTR* name) {
   return Ask_Text(number, name, [](const Heard& heard) { return heard.Name; });
 }
 
-STDMETHODIMP Accessible_Object::get_accValue(VARIANT number, BSTR* value) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accValue(VARIANT number, BSTR* value) {
   return Ask_Text(number, value, [](const Heard& heard) { return heard.Value.value_or(""); });
 }
 
-STDMETHODIMP Accessible_Object::get_accKeyboardShortcut(VARIANT number, BSTR* keys) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accKeyboardShortcut(VARIANT number, BSTR* keys) {
   return Ask_Text(number, keys, [](const Heard& heard) {
     return heard.Accelerator != 0 ? std::string("Alt+") + heard.Accelerator : std::string();
   });
 }
 
-STDMETHODIMP Accessible_Object::get_accDefaultAction(VARIANT number, BSTR* action) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accDefaultAction(VARIANT number, BSTR* action) {
   return Ask_Text(number, action, [](const Heard& heard) { return heard.Action; });
 }
 
-STDMETHODIMP Accessible_Object::get_accRole(VARIANT number, VARIANT* role) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accRole(VARIANT number, VARIANT* role) {
   if (role == nullptr) return E_INVALIDARG;
   return Ask(number, [&](const Accessible_Window& window, int asked) {
     Set_Number(role, System_Role(window.Hear(asked).Role));
@@ -159,7 +161,7 @@ STDMETHODIMP Accessible_Object::get_accRole(VARIANT number, VARIANT* role) {
   });
 }
 
-STDMETHODIMP Accessible_Object::get_accState(VARIANT number, VARIANT* state) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accState(VARIANT number, VARIANT* state) {
   if (state == nullptr) return E_INVALIDARG;
   return Ask(number, [&](const Accessible_Window& window, int asked) {
     Set_Number(state, System_State(window.Hear(asked)));
@@ -180,7 +182,7 @@ HRESULT Accessible_Object::Give(int number, VARIANT* to) const {
   return S_OK;
 }
 
-STDMETHODIMP Accessible_Object::get_accFocus(VARIANT* focused) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accFocus(VARIANT* focused) {
   if (focused == nullptr) return E_INVALIDARG;
   focused->vt = VT_EMPTY;
   return Ask(itself, [&](const Accessible_Window& window, int) {
@@ -189,7 +191,7 @@ STDMETHODIMP Accessible_Object::get_accFocus(VARIANT* focused) {
   });
 }
 
-STDMETHODIMP Accessible_Object::get_accSelection(VARIANT* selected) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::get_accSelection(VARIANT* selected) {
   if (selected == nullptr) return E_INVALIDARG;
   selected->vt = VT_EMPTY;
   return Ask(itself, [&](const Accessible_Window& window, int) {
@@ -198,7 +200,7 @@ STDMETHODIMP Accessible_Object::get_accSelection(VARIANT* selected) {
   });
 }
 
-STDMETHODIMP Accessible_Object::accSelect(long flags, VARIANT number) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::accSelect(long flags, VARIANT number) {
   return Ask(number, [&](const Accessible_Window& window, int asked) -> HRESULT {
     const Heard heard = window.Hear(asked);
     const bool focus = (flags & SELFLAG_TAKEFOCUS) != 0, select = (flags & SELFLAG_TAKESELECTION) != 0;
@@ -211,7 +213,8 @@ STDMETHODIMP Accessible_Object::accSelect(long flags, VARIANT number) {
   });
 }
 
-STDMETHODIMP Accessible_Object::accLocation(long* left, long* top, long* width, long* height, VARIANT number) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::accLocation(long* left, long* top, long* width, long* height,
+                                                             VARIANT number) {
   if (left == nullptr || top == nullptr || width == nullptr || height == nullptr) return E_INVALIDARG;
   return Ask(number, [&](const Accessible_Window& window, int asked) {
     const RECT place = window.Place(asked);
@@ -239,7 +242,7 @@ HRESULT Accessible_Object::Navigate_From_Itself(long direction, VARIANT* to) con
   return result;
 }
 
-STDMETHODIMP Accessible_Object::accNavigate(long direction, VARIANT from, VARIANT* to) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::accNavigate(long direction, VARIANT from, VARIANT* to) {
   if (to == nullptr) return E_INVALIDARG;
   to->vt = VT_EMPTY;
   return Ask(from, [&](const Accessible_Window& window, int asked) -> HRESULT {
@@ -262,7 +265,7 @@ STDMETHODIMP Accessible_Object::accNavigate(long direction, VARIANT from, VARIAN
   });
 }
 
-STDMETHODIMP Accessible_Object::accHitTest(long x, long y, VARIANT* hit) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::accHitTest(long x, long y, VARIANT* hit) {
   if (hit == nullptr) return E_INVALIDARG;
   hit->vt = VT_EMPTY;
   return Ask(itself, [&](const Accessible_Window& window, int) {
@@ -272,7 +275,7 @@ STDMETHODIMP Accessible_Object::accHitTest(long x, long y, VARIANT* hit) {
   });
 }
 
-STDMETHODIMP Accessible_Object::accDoDefaultAction(VARIANT number) {
+DECLSPEC_NOTHROW STDMETHODIMP Accessible_Object::accDoDefaultAction(VARIANT number) {
   return Ask(number, [](const Accessible_Window& window, int asked) -> HRESULT {
     if (window.Hear(asked).Action.empty()) return DISP_E_MEMBERNOTFOUND;
     window.Fulfil(asked, Wish::Act);

@@ -46,6 +46,14 @@ class Readers : public Window_On_Screen {
     return Object(static_cast<IAccessible*>(Services.Object_Of(window, OBJID_CLIENT)));
   }
 
+  /// Shows a dialog beside the window, which becomes active by that.
+  void Show_Beside(toolkit::Form& other) {
+    other.Move(9000, 1500);
+    other.Set_Client_Size(3000, 3000);
+    other.Show();
+    Wait(100);
+  }
+
   static std::string Name(const Object& object, LONG number = 0) {
     BSTR text = nullptr;
     if (object.Get()->get_accName(Numbered(number), &text) != S_OK) return "none";
@@ -210,10 +218,7 @@ TEST_F(Readers, What_takes_no_keys_gets_no_focus) {
 
 TEST_F(Readers, The_focus_that_a_window_gets_makes_it_active) {
   toolkit::Form other(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog);
-  other.Move(9000, 1500);
-  other.Set_Client_Size(3000, 3000);
-  other.Show();
-  Wait(100);
+  Show_Beside(other);
   ASSERT_EQ(Backend.Active_Form(), &other);
   const Object window = Read(Handle());
   EXPECT_EQ(window.Get()->accSelect(SELFLAG_TAKEFOCUS, Numbered(0)), S_OK);
@@ -225,10 +230,7 @@ TEST_F(Readers, The_focus_that_a_control_without_a_number_gets_leaves_its_window
   const Object box = Read(Child("Button"));
   Box.Heard_With = &Title;
   toolkit::Form other(Backend, "Edit_Frm", toolkit::Form_Border::Fixed_Dialog);
-  other.Move(9000, 1500);
-  other.Set_Client_Size(3000, 3000);
-  other.Show();
-  Wait(100);
+  Show_Beside(other);
   ASSERT_EQ(Backend.Active_Form(), &other);
   EXPECT_EQ(box.Get()->accSelect(SELFLAG_TAKEFOCUS, Numbered(0)), S_OK);
   Wait(100);
