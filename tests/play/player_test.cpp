@@ -170,6 +170,13 @@ TEST(Player_Test, The_world_tells_what_was_put_into_it) {
             "\"c\"\nabsent\nC K \"v\"\nS K 1 \"v\"\n");
 }
 
+TEST(Player_Test, A_full_file_reads_as_empty_and_its_first_write_fails) {
+  EXPECT_EQ(Play("put calendar.dat \"\\\"8/3/2004=Tea\\\"\\r\\n\"\nfull calendar.dat\ncat calendar.dat\nstart\n"
+                 "show Box_Caption_Lbl(7).Caption\ndblclick Box_Lbl(7)\ntype Message_Txt Milk\nclick Ok_Btn\nmessages\n"
+                 "cat calendar.dat"),
+            "Box_Caption_Lbl(7).Caption = \"\"\nmessage \"ERROR\" \"Error saving data file.\" critical OK -> OK\n");
+}
+
 TEST(Player_Test, The_same_scenario_always_prints_the_same) {
   const std::string scenario = balloons + "hold Box_Lbl(4) left 1\nwait 100\nboxes\nwindows\nregion Main_Frm\nballoon";
   EXPECT_EQ(Play(scenario), Play(scenario));

@@ -56,7 +56,11 @@ void Play_Make_Folder(World& world, const Words& words) {
 
 void Play_Block(World& world, const Words& words) { world.Platform.Files.Block(Memory_Files::Full_Path(words[0])); }
 
-void Play_Full(World& world, const Words& words) { world.Platform.Files.Fill_Up(Memory_Files::Full_Path(words[0])); }
+void Play_Full(World& world, const Words& words) {
+  const std::string path = Memory_Files::Full_Path(words[0]);
+  world.Platform.Files.Put(path, "");
+  world.Platform.Files.Fill_Up(path);
+}
 
 void Play_Read_Only(World& world, const Words& words) {
   const std::string path = Memory_Files::Full_Path(words[0]);
