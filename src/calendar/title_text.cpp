@@ -5,6 +5,12 @@
 
 namespace calendar {
 
+namespace {
+
+constexpr const char* system_format = "Use System Format";
+
+}  // namespace
+
 Title_Text::Title_Text(presentation::Main_Frm& main_frm, Dates& dates, const settings::Settings& settings,
                        const state::Calendar_State& calendar)
     : main_frm_(main_frm), dates_(dates), settings_(settings), calendar_(calendar) {}
@@ -13,6 +19,7 @@ void Title_Text::Write(const basic::Moment& now) {
   main_frm_.Which_Month_Lbl.Caption =
       Bar_Text(now, settings_.Bar_Time, settings_.Bar_Time_Format, settings_.Bar_Date_Format);
   written_ = {now.Day,
+              settings_.Bar_Time || settings_.Bar_Date_Format == system_format,
               now.Seconds(),
               calendar_.View_Month,
               calendar_.View_Year,
@@ -28,10 +35,11 @@ void Title_Text::Keep_Written(const basic::Moment& now) {
 }
 
 bool Title_Text::Is_Written_For(const basic::Moment& now) const {
-  return written_.Second == now.Seconds() && written_.Day == now.Day && written_.Month == calendar_.View_Month &&
-         written_.Year == calendar_.View_Year && written_.Small == presentation::Small_Style(settings_) &&
-         written_.Time == settings_.Bar_Time && written_.Time_Format == settings_.Bar_Time_Format &&
-         written_.Date_Format == settings_.Bar_Date_Format && main_frm_.Which_Month_Lbl.Caption == written_.Text;
+  return (!written_.By_Second || written_.Second == now.Seconds()) && written_.Day == now.Day &&
+         written_.Month == calendar_.View_Month && written_.Year == calendar_.View_Year &&
+         written_.Small == presentation::Small_Style(settings_) && written_.Time == settings_.Bar_Time &&
+         written_.Time_Format == settings_.Bar_Time_Format && written_.Date_Format == settings_.Bar_Date_Format &&
+         main_frm_.Which_Month_Lbl.Caption == written_.Text;
 }
 
 const std::string& Title_Text::Get_Bar_Text(bool show_time, const std::string& time_format,
@@ -65,7 +73,7 @@ const std::string& Title_Text::Bar_Text(const basic::Moment& now, bool show_time
 
 void Title_Text::Append_Date(const std::string& format, const basic::Moment& now, const basic::Moment& day_of_view) {
   const basic::Date_Words& words = dates_.Words();
-  if (format == "Use System Format") {
+  if (format == system_format) {
     dates_.Append_Long_Date(text_, day_of_view.Day);
   } else if (format == "mm/yyyy" || format == "dd/mm/yyyy") {
     basic::Append_Date(text_, day_of_view, format, words);

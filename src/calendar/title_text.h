@@ -16,9 +16,9 @@ class Title_Text {
   /// Composes the text and writes it into the title.
   void Write() { Write(dates_.Now()); }
 
-  /// Called on each tick with the present moment: composes and writes the text if something else stands in the title, or if anything that it is
-  /// made of has changed. To do so on all of the ten ticks a second would be half of the idle calendar's work. A change
-  /// of the locale is seen with the next second.
+  /// Called on each tick with the present moment: composes and writes the text if something else stands in the title, or
+  /// if anything that it is made of has changed. To do so on all of the ten ticks a second would be half of the idle
+  /// calendar's work. A change of the system's long date is seen with the next second.
   void Keep_Written(const basic::Moment& now);
 
   /// The title of the month on view, with or without the time, in the two formats. Valid until the next call.
@@ -42,6 +42,7 @@ class Title_Text {
   /// What the title's present text was made of.
   struct {
     basic::Serial_Day Day = 0;
+    bool By_Second = false;  // else the same text stands for the whole day
     int Second = -1;
     basic::Int16 Month, Year;
     bool Small = false, Time = false;

@@ -87,6 +87,26 @@ TEST_F(Title_Text_Test, Puts_the_time_in_front) {
   EXPECT_EQ(Bar_Text(), " - 5th Month3 - 2004");
 }
 
+TEST_F(Title_Text_Test, Composes_anew_by_the_second_only_what_a_second_can_change) {
+  const auto title_a_second_later = [this] {
+    Title.Write();
+    Locale.Names.Date_Separator = "~";
+    Clock.Set(2004, 3, 5, 14, 7, 10);
+    Title.Keep_Written(Dates.Now());
+    Clock.Set(2004, 3, 5, 14, 7, 9);
+    Locale.Names.Date_Separator = "-";
+    return Made.Which_Month_Lbl.Caption();
+  };
+  Settings.Bar_Date_Format = "dd/mm/yyyy";
+  EXPECT_EQ(title_a_second_later(), "05-03-2004");
+  Settings.Bar_Date_Format = "Use System Format";
+  EXPECT_EQ(title_a_second_later(), "<2004~03~05>");
+  Settings.Bar_Date_Format = "Month - yyyy";
+  Settings.Bar_Time = true;
+  Settings.Bar_Time_Format = "H:mm:ss";
+  EXPECT_EQ(title_a_second_later(), "14.07.10 - Month3 - 2004");
+}
+
 TEST_F(Title_Text_Test, Names_another_month_and_its_year_without_time_and_formats) {
   Settings.Bar_Time = true;
   for (const char* const format : {"Use System Format", "mm/yyyy", "no format"}) {
