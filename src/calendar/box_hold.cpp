@@ -20,7 +20,7 @@ void Box_Hold::Press(basic::Int16 index) {
   if (calendar_.Mouse_Released) return;
   calendar_.Tip_Box = index;
   desk_.Select_Day_Of_Box(index);
-  const std::string text = event_file_.Get_Message().Text;
+  const std::string text = event_file_.Get_Message();
   balloons_.Balloon_Tooltip(text, desk_.Days_From_Today(index));
 }
 

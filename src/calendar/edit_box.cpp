@@ -50,9 +50,8 @@ bool Edit_Box::Settle_Unsaved_Text() {
 void Edit_Box::Fill() {
   editor_.Window.Load();
   editor_.Message_Txt.Text = "";
-  const events::Day_Event event = event_file_.Get_Message();
-  if (event.Every_Year) editor_.Every_Year_Chk.Value = 1;
-  editor_.Message_Txt.Text = basic::Single_Ampersands(event.Text);
+  const std::string text = event_file_.Get_Message([this] { editor_.Every_Year_Chk.Value = 1; });
+  editor_.Message_Txt.Text = basic::Single_Ampersands(text);
   editor_.Apply_Btn.Enabled = false;
 }
 

@@ -37,7 +37,7 @@ void Function_Keys::Key_Up(int code) {
 void Function_Keys::Show_Todays_Event() {
   const basic::Serial_Day day = dates_.Present_Day();
   desk_.Select_Today();
-  const std::string text = event_file_.Get_Message().Text;
+  const std::string text = event_file_.Get_Message();
   if (text.empty()) return;
   message_box_.Show("Meridex", Today_Message(dates_, day, text), platform::Box_Icon::Information,
                     platform::Box_Buttons::OK);

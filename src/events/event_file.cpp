@@ -63,8 +63,8 @@ bool Event_File::Load_Dates(const std::function<void(std::string_view line)>& en
   }
 }
 
-Day_Event Event_File::Get_Message() {
-  Day_Event found;
+std::string Event_File::Get_Message(const std::function<void()>& set_every_year) {
+  std::string found;
   if (!Exists()) return found;
   try {
     const std::string every_year_form = Every_Year_Form(calendar_.Selected_Date);
@@ -73,10 +73,10 @@ Day_Event Event_File::Get_Message() {
     while (reader.Next(record)) {
       const auto [date, text] = basic::Split_At_First(record, '=');
       if (date == every_year_form) {
-        found.Text = text;
-        found.Every_Year = true;
+        found = text;
+        if (set_every_year) set_every_year();
       } else if (date == calendar_.Selected_Date) {
-        found.Text = text;
+        found = text;
       }
     }
     channel_.Close();

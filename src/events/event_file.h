@@ -62,9 +62,9 @@ class Event_File {
   /// meanwhile fails with its message.**
   bool Load_Dates(const std::function<void(std::string_view line)>& enter_date);
 
-  /// The event stored for Selected_Date: the text of the last matching line, "" if there is none, and whether any
-  /// matching line is for every year.
-  Day_Event Get_Message();
+  /// The text of the last line of Selected_Date, "" if there is none. Calls `set_every_year` at each such line that is for
+  /// every year: a failure further on is told behind it.
+  std::string Get_Message(const std::function<void()>& set_every_year = {});
 
   /// Replaces the line of Selected_Date by the text, or removes it if the text is empty, and writes the file. If there
   /// is no such line, adds one with the editor's text, whatever `text` is; adds none if the editor's text is empty. The

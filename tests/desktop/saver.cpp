@@ -46,7 +46,7 @@ int main() {
   calendar.Selected_Date = "5/3/2004";
   events::Event_File file(files, channel, failures, calendar, desktop);
   file.Recover();
-  for (int number = std::atoi(file.Get_Message().Text.c_str());; ++number) {
+  for (int number = std::atoi(file.Get_Message().c_str());; ++number) {
     Tell(std::to_string(number) + "\n");
     events::Day_Event event;
     event.Text = std::to_string(number + 1);

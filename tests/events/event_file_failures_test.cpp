@@ -33,16 +33,20 @@ TEST_F(Event_File_Failures, Every_error_of_a_line_ends_in_the_same_message) {
 
 TEST_F(Event_File_Failures, Get_Message_gives_what_it_had_found) {
   Put({"8/3/9999=Tea", "bad", "8/3/2004=Cake"});
-  const events::Day_Event found = File.Get_Message();
-  EXPECT_EQ(found.Text, "Tea");
-  EXPECT_TRUE(found.Every_Year);
+  Lines told_before;
+  EXPECT_EQ(File.Get_Message([&] {
+    told_before = Messages();
+    told_before.emplace_back("every year");
+  }),
+            "Tea");
+  EXPECT_EQ(told_before, Lines{"every year"}) << "the box is ticked before the failure is told";
   EXPECT_EQ(Messages(), Lines{loading_failed});
   EXPECT_TRUE(Is_Taken());
 }
 
 TEST_F(Event_File_Failures, Get_Message_fails_at_a_line_without_an_equals_sign_behind_its_hit_too) {
   Put({"8/3/2004=Tea", ""});
-  EXPECT_EQ(File.Get_Message().Text, "Tea");
+  EXPECT_EQ(File.Get_Message(), "Tea");
   EXPECT_EQ(Messages(), Lines{loading_failed});
 }
 
@@ -52,14 +56,14 @@ TEST_F(Event_File_Failures, An_opening_that_fails_takes_nothing) {
   Editor.Text = "Cake";
   Load_Dates();
   EXPECT_EQ(Messages(), Lines{loading_failed});
-  EXPECT_EQ(File.Get_Message().Text, "");
+  EXPECT_EQ(File.Get_Message(), "");
   EXPECT_EQ(Messages(), Lines{loading_failed});
   Change("8/3/2004", "Cake");
   EXPECT_EQ(Messages(), (Lines{loading_failed, saving_failed}));
   Files.Disk.Blocked.clear();
   EXPECT_FALSE(Is_Taken());
   EXPECT_EQ(Content(), Record("8/3/2004=Tea"));
-  EXPECT_EQ(File.Get_Message().Text, "Tea");
+  EXPECT_EQ(File.Get_Message(), "Tea");
   EXPECT_EQ(Messages(), Lines());
 }
 
@@ -85,7 +89,7 @@ TEST_F(Event_File_Failures, Once_taken_the_number_fails_every_procedure_and_the_
   Load_Dates();
   EXPECT_EQ(Entered, Lines());
   EXPECT_EQ(Messages(), Lines{loading_failed});
-  EXPECT_EQ(File.Get_Message().Text, "");
+  EXPECT_EQ(File.Get_Message(), "");
   EXPECT_EQ(Messages(), Lines{loading_failed});
   Change("8/3/2004", "Cake");
   EXPECT_EQ(Messages(), (Lines{loading_failed, saving_failed}));
@@ -152,7 +156,7 @@ TEST_F(Event_File_Failures, A_reading_within_a_reading_fails_and_the_first_goes_
     Entered.emplace_back(line);
     if (line != "8/3/2004=b") return;
     Load_Dates();
-    EXPECT_EQ(File.Get_Message().Text, "");
+    EXPECT_EQ(File.Get_Message(), "");
     Change("8/3/2004", "new");
   });
   EXPECT_EQ(Entered, (Lines{"a=", "8/3/2004=b", "c="}));

@@ -13,7 +13,13 @@ class Event_File_Test : public ::testing::Test, public Event_File_World {
 
   std::string Message_Of(const std::string& date) {
     Calendar.Selected_Date = date;
-    return File.Get_Message().Text;
+    return File.Get_Message();
+  }
+
+  int Every_Year_Lines() {
+    int lines = 0;
+    File.Get_Message([&] { ++lines; });
+    return lines;
   }
 
   void Expect_Lines(const Lines& lines) {
@@ -68,7 +74,7 @@ TEST_F(Event_File_Test, Get_Message_is_empty_without_a_file_and_without_a_line) 
   EXPECT_EQ(Message_Of("8/3/2004"), "");
   Put({"8/3/2005=a", "08/3/2004=b", "8/3/2004 =c", "18/3/2004=d", "8/3/9998=e"});
   EXPECT_EQ(Message_Of("8/3/2004"), "");
-  EXPECT_FALSE(File.Get_Message().Every_Year);
+  EXPECT_EQ(Every_Year_Lines(), 0);
 }
 
 TEST_F(Event_File_Test, Get_Message_gives_the_text_as_stored) {
@@ -86,13 +92,13 @@ TEST_F(Event_File_Test, Get_Message_takes_the_last_line_that_matches) {
   EXPECT_EQ(Message_Of("8/3/2004"), "") << "an empty text is a text";
 }
 
-TEST_F(Event_File_Test, Get_Message_says_whether_any_line_that_matches_is_of_every_year) {
+TEST_F(Event_File_Test, Get_Message_tells_of_each_line_that_matches_and_is_of_every_year) {
   Calendar.Selected_Date = "8/3/2004";
   Put({"8/3/9999=yearly", "8/3/2004=dated"});
-  EXPECT_EQ(File.Get_Message().Text, "dated");
-  EXPECT_TRUE(File.Get_Message().Every_Year);
+  EXPECT_EQ(File.Get_Message(), "dated");
+  EXPECT_EQ(Every_Year_Lines(), 1);
   Put({"8/3/2004=dated", "9/3/9999=another day"});
-  EXPECT_FALSE(File.Get_Message().Every_Year);
+  EXPECT_EQ(Every_Year_Lines(), 0);
 }
 
 TEST_F(Event_File_Test, Check_For_Pre_replaces_the_first_line_that_matches_in_its_place) {
