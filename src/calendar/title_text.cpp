@@ -19,7 +19,6 @@ void Title_Text::Write(const basic::Moment& now) {
   main_frm_.Which_Month_Lbl.Caption =
       Bar_Text(now, settings_.Bar_Time, settings_.Bar_Time_Format, settings_.Bar_Date_Format);
   written_ = {now.Day,
-              settings_.Bar_Time || settings_.Bar_Date_Format == system_format,
               now.Seconds(),
               calendar_.View_Month,
               calendar_.View_Year,
@@ -35,7 +34,8 @@ void Title_Text::Keep_Written(const basic::Moment& now) {
 }
 
 bool Title_Text::Is_Written_For(const basic::Moment& now) const {
-  return (!written_.By_Second || written_.Second == now.Seconds()) && written_.Day == now.Day &&
+  const bool by_second = written_.Time || written_.Date_Format == system_format;  // else it stands for the whole day
+  return (!by_second || written_.Second == now.Seconds()) && written_.Day == now.Day &&
          written_.Month == calendar_.View_Month && written_.Year == calendar_.View_Year &&
          written_.Small == presentation::Small_Style(settings_) && written_.Time == settings_.Bar_Time &&
          written_.Time_Format == settings_.Bar_Time_Format && written_.Date_Format == settings_.Bar_Date_Format &&

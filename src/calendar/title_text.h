@@ -42,7 +42,6 @@ class Title_Text {
   /// What the title's present text was made of.
   struct {
     basic::Serial_Day Day = 0;
-    bool By_Second = false;  // else the same text stands for the whole day
     int Second = -1;
     basic::Int16 Month, Year;
     bool Small = false, Time = false;

@@ -34,11 +34,11 @@ TEST_F(Event_File_Failures, Every_error_of_a_line_ends_in_the_same_message) {
 TEST_F(Event_File_Failures, Get_Message_gives_what_it_had_found) {
   Put({"8/3/9999=Tea", "bad", "8/3/2004=Cake"});
   Lines told_before;
-  EXPECT_EQ(File.Get_Message([&] {
+  const auto tick = [&] {
     told_before = Messages();
     told_before.emplace_back("every year");
-  }),
-            "Tea");
+  };
+  EXPECT_EQ(File.Get_Message(tick), "Tea");
   EXPECT_EQ(told_before, Lines{"every year"}) << "the box is ticked before the failure is told";
   EXPECT_EQ(Messages(), Lines{loading_failed});
   EXPECT_TRUE(Is_Taken());
